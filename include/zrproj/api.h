@@ -1,0 +1,15 @@
+// What every public header needs: how a symbol is exported.
+#ifndef ZRPROJ_API_H
+#define ZRPROJ_API_H
+
+#if defined(_WIN32)
+#if defined(ZRPROJ_BUILDING)
+#define ZRPROJ_API __declspec(dllexport)
+#else
+#define ZRPROJ_API __declspec(dllimport)
+#endif
+#else
+#define ZRPROJ_API __attribute__((visibility("default")))
+#endif
+
+#endif

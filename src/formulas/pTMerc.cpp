@@ -1,0 +1,141 @@
+// Transverse Mercator: conformal, the central meridian a straight line of constant scale. Also Gauss-Kruger and, with
+// the zone's false origin, UTM.
+//
+// Source    Snyder (1987), Map Projections: A Working Manual, pp. 48-65; equation numbers are his.
+// Departs   the meridian distance is regrouped over sin 2 phi and cos 2 phi; its value is that of (3-21).
+// Accuracy  1e-3 m and 2e-8 degrees round trip inside 3 degrees of the central meridian, where the series is cut;
+// within
+//           1e-6 m of the series itself (measured by the tests).
+// Domain    the series loses its meaning some 10 degrees from the central meridian and is evaluated all the same.
+//
+// phi, lambda   latitude, longitude          e2, ep2   eccentricity squared, e'^2 = e2 / (1 - e2)
+// M, M0         meridian distance of phi, of the latitude of origin          k0   scale on the central meridian
+// N, R1         radius of curvature in the prime vertical, in the meridian   T, C, A, D   as in the source
+#include "formulas/driver.h"
+#include "formulas/edges.h"
+#include "formulas/elementary.h"
+#include "formulas/formula_set.h"
+
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace {
+
+/// The meridian distance in units of the semi-major axis, (3-21).
+struct MeridianSeries {
+    double a0, a2, a4, a6; // coefficients of phi, -sin 2 phi, sin 4 phi, -sin 6 phi
+
+    explicit MeridianSeries(double e2)
+        : a0(1 - e2 / 4 - 3 * e2 * e2 / 64 - 5 * e2 * e2 * e2 / 256),
+          a2(3 * e2 / 8 + 3 * e2 * e2 / 32 + 45 * e2 * e2 * e2 / 1024),
+          a4(15 * e2 * e2 / 256 + 45 * e2 * e2 * e2 / 1024), a6(35 * e2 * e2 * e2 / 3072) {}
+
+    template <class R> R distance(R phi, SinCos<R> at) const {
+        R const sin2 = 2.0 * at.sin * at.cos, cos2 = 1.0 - 2.0 * at.sin * at.sin;
+        return a0 * phi + sin2 * ((a6 - a2) + cos2 * (2 * a4 - 4 * a6 * cos2));
+    }
+};
+
+struct Ellipsoidal {
+    double a, k0, lambda0, e2, ep2;
+    MeridianSeries series;
+    double m0;             // M0 / a
+    double f2, f4, f6, f8; // footpoint latitude: coefficients of sin 2 mu to sin 8 mu in (3-26)
+
+    explicit Ellipsoidal(PROJDATA const& work)
+        : a(work.MajorRadius), k0(work.K0), lambda0(work.Lon0), e2(work.Flattening * (2 - work.Flattening)),
+          ep2(e2 / (1 - e2)), series(e2), m0(series.distance(work.Lat0, sinCos(work.Lat0))) {
+        double const root = std::sqrt(1 - e2), e1 = (1 - root) / (1 + root);
+        f2 = 3 * e1 / 2 - 27 * e1 * e1 * e1 / 32;
+        f4 = 21 * e1 * e1 / 16 - 55 * e1 * e1 * e1 * e1 / 32;
+        f6 = 151 * e1 * e1 * e1 / 96;
+        f8 = 1097 * e1 * e1 * e1 * e1 / 512;
+    }
+
+    template <class R> Xy<R> forward(LonLat<R> p) const {
+        auto const phi = sinCos(p.lat);
+        R const tan = phi.sin / phi.cos;
+        R const T = tan * tan, C = ep2 * phi.cos * phi.cos;  // (8-13), (8-14)
+        R const A = phi.cos * (p.lon - lambda0), A2 = A * A; // (8-15)
+        R const N = a / sqrt(1.0 - e2 * phi.sin * phi.sin);  // (4-20)
+        R const M = a * (series.distance(p.lat, phi) - m0);  // from the latitude of origin
+        R const x5 = 5.0 - 18.0 * T + T * T + 72.0 * C - 58 * ep2;
+        R const x = k0 * N * A * (1.0 + A2 * ((1.0 - T + C) / 6.0 + A2 * x5 / 120.0)); // (8-9)
+        R const y4 = 5.0 - T + 9.0 * C + 4.0 * C * C, y6 = 61.0 - 58.0 * T + T * T + 600.0 * C - 330 * ep2;
+        R const y = k0 * (M + N * tan * A2 * (0.5 + A2 * (y4 / 24.0 + A2 * y6 / 720.0))); // (8-10)
+        auto const pole = abs(p.lat) == halfPi;
+        return {select(pole, R(0.0), x), select(pole, k0 * M, y)};
+    }
+
+    template <class R> LonLat<R> inverse(Xy<R> p) const {
+        R const mu = (m0 + p.y / (k0 * a)) / series.a0; // (8-20), (7-19)
+        R const phi1 = footpoint(mu);
+        auto const at = sinCos(phi1);
+        R const sec = 1.0 / at.cos, tan = at.sin * sec;
+        R const w = 1.0 - e2 * at.sin * at.sin;             // positive, since e2 < 1
+        R const C1 = ep2 * at.cos * at.cos, T1 = tan * tan; // (8-21), (8-22)
+        R const D = p.x * sqrt(w) / (a * k0), D2 = D * D;   // (8-25), N1 = a / sqrt(w)
+        R const curvature = w / (1 - e2);                   // N1 / R1, (8-23) and (8-24)
+        R const phi4 = 5.0 + 3.0 * T1 + 10.0 * C1 - 4.0 * C1 * C1 - 9 * ep2;
+        R const phi6 = 61.0 + 90.0 * T1 + 298.0 * C1 + 45.0 * T1 * T1 - 252 * ep2 - 3.0 * C1 * C1;
+        R const phi = phi1 - curvature * tan * D2 * (0.5 - D2 * (phi4 / 24.0 - D2 * phi6 / 720.0)); // (8-17)
+        R const lambda5 = 5.0 - 2.0 * C1 + 28.0 * T1 - 3.0 * C1 * C1 + 8 * ep2 + 24.0 * T1 * T1;
+        R const lambda = D * (1.0 - D2 * ((1.0 + 2.0 * T1 + C1) / 6.0 - D2 * lambda5 / 120.0)) * sec;
+        return {lambda0 + lambda, phi}; // (8-18)
+    }
+
+    /// The latitude on the central meridian that lies as far north as the point, (3-26).
+    template <class R> R footpoint(R mu) const {
+        auto const two = sinCos(2.0 * mu);
+        R const cos4 = 2.0 * two.cos * two.cos - 1.0; // sin 8 = 4 sin 2 cos 2 cos 4; sin 6 = sin 2 (1 + 2 cos 4)
+        return mu + two.sin * (f2 + f6 + 2 * f6 * cos4 + two.cos * (2 * f4 + 4 * f8 * cos4));
+    }
+};
+
+struct Spherical {
+    double radius, phi0, lambda0; // radius R k0
+
+    explicit Spherical(PROJDATA const& work)
+        : radius(work.MajorRadius * work.K0), phi0(work.Lat0), lambda0(work.Lon0) {}
+
+    template <class R> Xy<R> forward(LonLat<R> p) const {
+        R const theta = p.lon - lambda0;
+        auto const phi = sinCos(p.lat), lambda = sinCos(theta);
+        R const B = phi.cos * lambda.sin; // (8-5)
+        auto const east = B == 1.0;       // B = -1 is an infinite easting: it fails the call
+        R const x = 0.5 * radius * log((1.0 + B) / (1.0 - select(east, R(0.0), B))); // (8-1)
+        auto const edge = (abs(p.lat) == halfPi) | (abs(theta) == halfPi);
+        R const bent = atan(phi.sin / (phi.cos * lambda.cos)); // folds what is over 90 degrees away
+        R const y = radius * (select(edge, select(p.lat >= 0.0, R(halfPi), R(-halfPi)), bent) - phi0); // (8-3)
+        return {select(east, R(unplottable), x), y};
+    }
+
+    template <class R> LonLat<R> inverse(Xy<R> p) const {
+        R const u = p.x / radius;
+        auto const D = sinCos(p.y / radius + phi0); // (8-8)
+        R const up = exp(u), down = 1.0 / up;
+        R const sine = 2.0 * D.sin / (up + down);
+        R const phi = asin(select(abs(sine) > 1.0, copySign(R(1.0), sine), sine)); // (8-6)
+        return {lambda0 + atan(0.5 * (up - down) / D.cos), phi};                   // (8-7)
+    }
+};
+
+void prepare(Converter& converter, PROJDATA const& work) noexcept {
+    if (work.Flattening == 0)
+        hold(converter, Spherical(work));
+    else
+        hold(converter, Ellipsoidal(work));
+}
+
+bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
+    return record.Lon0 - 45 < point.x && point.x < record.Lon0 + 45;
+}
+
+bool offsetSplitObject(PROJDATA const& record, PROJPOINT const* points, unsigned count, double* out1,
+                       double* out2) noexcept {
+    return splitAtOppositeMeridian(record.Lon0, points, count, out1, out2);
+}
+
+} // namespace
+
+constinit Formula const transverseMercator{prepare, inProjection, offsetSplitObject};
+
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -1,0 +1,76 @@
+// The platform on POSIX systems with ELF modules.
+#if !defined(_WIN32)
+
+#include "platform.h"
+
+#include <cstdio>
+#include <cstdlib>
+#include <ctime>
+#include <fcntl.h>
+#include <sys/stat.h>
+#include <system_error>
+#include <unistd.h>
+
+#include <filesystem>
+
+namespace ZrProj {
+
+namespace {
+
+[[gnu::constructor]] void start() {
+    onModuleStart();
+}
+
+[[gnu::destructor]] void end() {
+    onModuleEnd();
+}
+
+/// A name in a directory that others may write to can be prepared by them: as a link to somebody's file, or as a pipe.
+bool isPlainUnlinkedFile(int descriptor) {
+    struct stat info = {};
+    return fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode) && info.st_nlink == 1;
+}
+
+} // namespace
+
+char const* environmentVariable(char const* name) noexcept {
+#if defined(__GLIBC__)
+    return secure_getenv(name); // null in a program that runs with more rights than its user has
+#else
+    return std::getenv(name);
+#endif
+}
+
+FileName logFileName() noexcept {
+    FileName result = {};
+    char const* const directory = environmentVariable("TMPDIR");
+    bool const given = directory && *directory;
+    int const length = std::snprintf(result.data(), result.size(), "%s/zrproj.log", given ? directory : "/tmp");
+    return length >= 0 && length < static_cast<int>(result.size()) ? result : FileName{"/tmp/zrproj.log"};
+}
+
+std::string executableDirectory() {
+    std::error_code error;
+    return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
+}
+
+void appendToFile(char const* fileName, std::string_view text) noexcept {
+    // Non-blocking, so that a pipe without a reader is an error, not a wait.
+    int const descriptor = open(fileName, O_WRONLY | O_APPEND | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_CLOEXEC, 0600);
+    if (descriptor < 0)
+        return;
+    // One write, so that lines of several processes stay whole.
+    if (isPlainUnlinkedFile(descriptor))
+        static_cast<void>(!write(descriptor, text.data(), text.size()));
+    close(descriptor);
+}
+
+std::array<char, 26> localTimeText() noexcept {
+    std::array<char, 26> text = {};
+    std::time_t const now = std::time(nullptr);
+    return ctime_r(&now, text.data()) ? text : std::array<char, 26>{"\n"};
+}
+
+} // namespace ZrProj
+
+#endif

@@ -1,0 +1,27 @@
+// What several sources do with a PROJDATA: read its flags, turn its angles, and write it to the log.
+#pragma once
+
+#include <zrproj/projection.h>
+
+#include <cstring>
+
+namespace ZrProj {
+
+/// A flag's byte. A caller's record may hold anything there, and a bool that is neither 0 nor 1 must not be read as
+/// one.
+template <bool PROJDATA::*flag> unsigned char flagByte(PROJDATA const& record) {
+    unsigned char byte = 0;
+    std::memcpy(&byte, &(record.*flag), 1);
+    return byte;
+}
+
+/// The record with its angles in radians, as formulas take it.
+PROJDATA withRadians(PROJDATA const& record) noexcept;
+
+/// Writes every field to the log, a line each; nothing while the log is off or for null.
+void logRecord(PROJDATA const* record) noexcept;
+
+/// The same in an older and shorter form.
+void logRecordBriefly(PROJDATA const* record) noexcept;
+
+} // namespace ZrProj

@@ -1,0 +1,226 @@
+// Projection handles and the conversion of points through them.
+#include "formulas/levels.h"
+#include "frame/errors.h"
+#include "frame/log.h"
+#include "host/fpenv.h"
+#include "proj/handle.h"
+#include "proj/record.h"
+
+#include <cfloat>
+#include <cmath>
+#include <memory>
+#include <new>
+#include <source_location>
+#include <span>
+
+namespace ZrProj {
+namespace {
+
+/// Reports an internal inconsistency at the place of the call. Always false.
+bool inconsistent(std::source_location place = std::source_location::current()) noexcept {
+    return AssertFailed(".\\zrProj.cpp", static_cast<int>(place.line()));
+}
+
+bool isStatePlane(ProjType type) {
+    return type == ProjTypeStatePlane1927 || type == ProjTypeStatePlane1983;
+}
+
+/// Completes radius and flattening from the catalogue, or checks the caller's own. False: the record has no ellipsoid.
+bool completeEllipsoid(PROJDATA& data) noexcept {
+    if (data.Ellipsoid < 0 || data.Ellipsoid >= EllipsoidTypeNone) {
+        LogPrintf("Bad ellipsoid type!\n");
+        return inconsistent();
+    }
+    if (data.Ellipsoid != EllipsoidTypeUserDefined) {
+        data.MajorRadius = EllipsoidRadius(data.Ellipsoid);
+        data.Flattening = EllipsoidFlattening(data.Ellipsoid);
+        return true;
+    }
+    LogPrintf("Have user-defined ellipsoid.\n");
+    if (!(data.MajorRadius > 0)) {
+        LogPrintf("Bad ellipsoid radius!\n");
+        return inconsistent();
+    }
+    if (!(data.Flattening >= 0 && data.Flattening < 1)) {
+        LogPrintf("Bad ellipsoid flattening!\n");
+        return inconsistent();
+    }
+    return true;
+}
+
+void completeUtm(PROJDATA& data) noexcept {
+    data.xOrg = 500000;
+    data.yOrg = flagByte<&PROJDATA::bSouth>(data) ? 10000000 : 0;
+    if (data.K0 == 0)
+        data.K0 = 0.9996;
+}
+
+void completeScales(PROJDATA& record) noexcept {
+    if (record.Scale == 0) {
+        LogPrintf("Warning:  Scale was zero.  Setting to one.\n");
+        record.Scale = 1;
+    }
+    if (record.K0 == 0) {
+        LogPrintf("Warning:  K0 was zero.  Setting to one.\n");
+        record.K0 = 1;
+    }
+}
+
+/// Works out what conversions through the block's record need. A State Plane record becomes its zone's projection: with
+/// the record's other fields for conversions, without them for the tests.
+void prepare(ProjectionBlock& block) noexcept {
+    PROJDATA work = block.record;
+    block.area = block.record;
+    if (isStatePlane(work.Type)) {
+        ProjGetStateZoneParams(&work);
+        block.area = PROJDATA{};
+        block.area.Type = block.record.Type;
+        block.area.Zone = block.record.Zone;
+        ProjGetStateZoneParams(&block.area);
+    }
+    block.formula = formulas::formulaOf(work.Type);
+    if (block.formula) {
+        block.converter.xOrg = work.xOrg;
+        block.converter.yOrg = work.yOrg;
+        block.converter.scale = work.Scale;
+        block.formula->prepare(block.converter, withRadians(work));
+    }
+}
+
+/// Marks infinite and NaN points; what is left of a conversion that computes nothing.
+bool markNotFinite(std::span<PROJPOINT> points) noexcept {
+    bool marked = false;
+    for (auto& point : points) {
+        if (std::isfinite(point.x) && std::isfinite(point.y))
+            continue;
+        point = {DBL_MAX, DBL_MAX};
+        marked = true;
+    }
+    return marked;
+}
+
+struct Direction {
+    formulas::Converter::Run formulas::Converter::*run;
+    char const* failure;
+};
+constexpr Direction forward{&formulas::Converter::forward, "Forward projection function failed!\n"};
+constexpr Direction inverse{&formulas::Converter::inverse, "Inverse projection function failed!\n"};
+
+/// A handle whose type computes nothing: unprojected, undefined, or without a formula.
+bool convertNothing(PROJDATA& record, std::span<PROJPOINT> points) noexcept {
+    record.iResult = markNotFinite(points) ? 1 : 0;
+    return record.Type == ProjTypeUnprojectedLatLong || inconsistent();
+}
+
+bool convert(void* handle, PROJPOINT* points, int count, Direction const& direction) noexcept {
+    if (!handle) {
+        LogPrintf("NULL hProj pointer!\n");
+        return false;
+    }
+    if (!points || count < 1)
+        return inconsistent();
+    auto& block = ProjectionBlock::of(handle);
+    if (!block.formula)
+        return convertNothing(block.record, {points, static_cast<std::size_t>(count)});
+    formulas::Outcome outcome;
+    {
+        FloatingPointScope const scope;
+        outcome = (block.converter.*direction.run)(block.converter, points, count);
+    }
+    block.record.iResult = outcome.unplottable || outcome.failed ? 1 : 0;
+    if (outcome.failed)
+        LogPrintf("%s", direction.failure);
+    else if (outcome.unplottable)
+        LogPrintf("  One or more unplottable points generated.\n");
+    return !outcome.failed;
+}
+
+bool isGeographic(PROJPOINT const& point) {
+    return point.x >= -360 && point.x <= 360 && point.y >= -90 && point.y <= 90;
+}
+
+} // namespace
+
+void* ProjCreateProjection(PROJDATA* data) {
+    LogPrintf("ProjCreateProjection(pProjData=%p)\n", static_cast<void*>(data));
+    if (!data)
+        return nullptr;
+    char message[512];
+    if (ProjCheckParams(data, message, true) != 0) {
+        LogPrintf("Invalid parameter error:  \"%s\"\n", message);
+        return nullptr;
+    }
+    FloatingPointScope const scope;
+    if (data->Type != ProjTypeUnprojectedLatLong && !completeEllipsoid(*data))
+        return nullptr;
+    if (data->Type == ProjTypeUniversalTransverseMercator)
+        completeUtm(*data);
+    std::unique_ptr<ProjectionBlock> block(new (std::nothrow) ProjectionBlock);
+    if (!block) {
+        inconsistent();
+        return nullptr;
+    }
+    block->record = *data;
+    completeScales(block->record);
+    prepare(*block);
+    logRecord(&block->record);
+    LogPrintf("ProjCreateProjection:  Returning HPROJ of %p\n", static_cast<void*>(&block->record));
+    return &block.release()->record;
+}
+
+void ProjDeleteProjection(void* handle) {
+    LogPrintf("ProjDeleteProjection(hProj=%p)\n", handle);
+    if (!handle)
+        return;
+    auto& block = ProjectionBlock::of(handle);
+    if (block.owners.fetch_sub(1, std::memory_order_acq_rel) == 1)
+        std::unique_ptr<ProjectionBlock>{&block}.reset();
+}
+
+bool ProjForward(void* handle, PROJPOINT* points, int count) {
+    LogPrintf("ProjForward(hProj=%p, pPts=%p, nPts=%d)\n", handle, static_cast<void*>(points), count);
+    return convert(handle, points, count, forward);
+}
+
+bool ProjInverse(void* handle, PROJPOINT* points, int count) {
+    LogPrintf("ProjInverse(hProj=%p, pPts=%p, nPts=%d)\n", handle, static_cast<void*>(points), count);
+    return convert(handle, points, count, inverse);
+}
+
+int ProjResult(void* handle) {
+    LogPrintf("ProjResult(hProj=%p)\n", handle);
+    return handle ? ProjectionBlock::of(handle).record.iResult : 0;
+}
+
+bool ProjGetHandleInfo(void* handle, PROJDATA* out) {
+    LogPrintf("ProjGetHandleInfo(hProj=%p, pProjData=%p)\n", handle, static_cast<void*>(out));
+    if (!handle || !out)
+        return false;
+    *out = ProjectionBlock::of(handle).record;
+    return true;
+}
+
+bool ProjLLInProjection(void* handle, PROJPOINT const* point) {
+    LogPrintf("ProjLLInProjection(hProj=%p, pPt=%p)\n", handle, static_cast<void const*>(point));
+    if (!handle || !point)
+        return false;
+    auto const& block = ProjectionBlock::of(handle);
+    if (!withDefaultFloatingPoint([&] { return isGeographic(*point); }))
+        return false;
+    if (!block.formula)
+        return inconsistent();
+    return withDefaultFloatingPoint([&] { return block.formula->inProjection(block.area, *point); });
+}
+
+bool ProjLLOffsetSplitObject(void* handle, PROJPOINT const* points, unsigned count, double* out1, double* out2) {
+    LogPrintf("ProjLLOffsetSplitObject(hProj=%p, pPts=%p, nPts=%u)\n", handle, static_cast<void const*>(points), count);
+    if (!handle || !points || count == 0 || !out1 || !out2)
+        return false;
+    auto const& block = ProjectionBlock::of(handle);
+    if (!block.formula)
+        return inconsistent();
+    return withDefaultFloatingPoint(
+        [&] { return block.formula->offsetSplitObject(block.area, points, count, out1, out2); });
+}
+
+} // namespace ZrProj
