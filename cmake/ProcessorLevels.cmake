@@ -1,11 +1,11 @@
-# zrproj_processor_levels(TARGET SOURCES...): compiles the formula sources once per processor level, each into the
-# namespace of its level, and hands the objects on to whatever links TARGET (an object library's own objects are all
-# that CMake takes of it).
+# zrproj_processor_levels(TARGET PREFIX SOURCES...): compiles formula sources once per processor level, each into the
+# namespace of its level, as object libraries PREFIX-LEVEL, and hands the objects on to whatever links TARGET (an object
+# library's own objects are all that CMake takes of it).
 #
 # The floating-point contract: no -ffast-math anywhere; multiply-adds may be fused where the level has them (the
 # compilers' default), never in the "scalar" level, which is the reference; rounding is to nearest, set by
 # FloatingPointScope around every conversion.
-function(zrproj_processor_levels target)
+function(zrproj_processor_levels target prefix)
     set(levels scalar)
     set(flags_scalar -ffp-contract=off)
     if(ZRPROJ_SIMD)
@@ -17,10 +17,9 @@ function(zrproj_processor_levels target)
             set(flags_avx512 -mavx512f -mavx512cd -mavx512dq -mavx512bw -mavx512vl -mfma -mprefer-vector-width=512
                 -Wno-uninitialized -Wno-maybe-uninitialized)
         endif()
-        target_compile_definitions(${target} PRIVATE ZRPROJ_SIMD)
     endif()
     foreach(level ${levels})
-        set(objects zrproj-${level})
+        set(objects ${prefix}-${level})
         add_library(${objects} OBJECT ${ARGN})
         zrproj_warnings(${objects})
         target_include_directories(${objects} PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)

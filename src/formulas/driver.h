@@ -127,7 +127,7 @@ inline constexpr int blockPoints = 256;
 
 /// `points` in, x and y out: the map coordinates of up to blockPoints points. `good` tells which of them stand.
 template <class P, class Direction>
-bool convertRegisters(Converter const& frame, P const& formula, int count, double* x, double* y, double* good) {
+[[gnu::noinline]] bool convertRegisters(Converter const& frame, P const& formula, int count, double* x, double* y, double* good) {
     bool allGood = true;
     for (int i = 0; i < count; i += lanes) {
         Pair<Register> const from{load(x + i), load(y + i)};
@@ -145,12 +145,17 @@ bool convertRegisters(Converter const& frame, P const& formula, int count, doubl
 template <class P, class Direction>
 void convertBlock(Converter const& frame, P const& formula, PROJPOINT* points, int count, Outcome& outcome) {
     double x[blockPoints], y[blockPoints], good[blockPoints];
-    for (int i = 0; i < count; ++i) {
-        x[i] = points[i].x;
-        y[i] = points[i].y;
+    if (count == 1) { // the common single point, without reading back what was stored piece by piece
+        store(x, Register(points->x));
+        store(y, Register(points->y));
+    } else {
+        for (int i = 0; i < count; ++i) {
+            x[i] = points[i].x;
+            y[i] = points[i].y;
+        }
+        for (int i = count; i % lanes != 0; ++i)
+            x[i] = y[i] = 0;
     }
-    for (int i = count; i % lanes != 0; ++i)
-        x[i] = y[i] = 0;
     bool const allGood = convertRegisters<P, Direction>(frame, formula, count, x, y, good);
     for (int i = 0; i < count; ++i) {
         if (allGood || good[i] != 0)

@@ -1,0 +1,98 @@
+#include <zrproj/projection.h>
+
+#include <gtest/gtest.h>
+
+#include <array>
+#include <cstring>
+#include <set>
+#include <string>
+
+using namespace ZrProj;
+
+namespace {
+
+std::string nameOf(int type, unsigned* bits = nullptr) {
+    char name[64] = "untouched";
+    auto const found = ProjGetProjectionInfo(static_cast<ProjType>(type), name);
+    if (bits)
+        *bits = found;
+    return name;
+}
+
+} // namespace
+
+TEST(Catalogue, NamesProjections) {
+    unsigned bits = 0;
+    EXPECT_EQ(ProjNumProjections(), 29);
+    EXPECT_EQ(nameOf(4, &bits), "Universal Transverse Mercator (UTM)");
+    EXPECT_EQ(bits, 0x1Bu);
+    EXPECT_EQ(nameOf(28, &bits), "Azimuthal Equidistant");
+    EXPECT_EQ(bits, 0x3Fu);
+    EXPECT_EQ(nameOf(999, &bits), "undefined");
+    EXPECT_EQ(bits, 0u);
+    for (int const other : {-1, 29, 998, 1000}) {
+        EXPECT_EQ(nameOf(other, &bits), "");
+        EXPECT_EQ(bits, 0u);
+    }
+    EXPECT_EQ(ProjGetProjectionInfo(ProjTypeMercator, nullptr), 0x2Fu);
+    std::set<std::string> names;
+    for (int type = 0; type < 29; ++type)
+        names.insert(nameOf(type));
+    EXPECT_EQ(names.size(), 29u);
+}
+
+TEST(Catalogue, ListsTheParametersOfAType) {
+    EXPECT_EQ(ProjNumParams(ProjTypeUnprojectedLatLong), 0);
+    EXPECT_EQ(ProjNumParams(static_cast<ProjType>(29)), -1);
+    EXPECT_EQ(ProjEnumParam(static_cast<ProjType>(29), 0), 0);
+    EXPECT_EQ(ProjNumParams(ProjTypeHotineObliqueMercator), 15);
+    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, 14), 19);
+    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, 15), 0);
+    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, -1), 0);
+    EXPECT_EQ(ProjEnumParam(ProjTypeCassini, 4), 5);
+    EXPECT_EQ(ProjEnumParam(ProjTypeMercator, 4), 6);
+    EXPECT_TRUE(ProjUsesParam(ProjTypeObliqueMercator, 13));
+    EXPECT_FALSE(ProjUsesParam(ProjTypeMercator, 13));
+    EXPECT_FALSE(ProjUsesParam(ProjTypeMercator, 0));
+    EXPECT_FALSE(ProjUsesParam(ProjTypeUndefined, 2));
+    for (int type = 0; type < ProjNumProjections(); ++type)
+        for (int i = 0; i < ProjNumParams(static_cast<ProjType>(type)); ++i)
+            EXPECT_TRUE(
+                ProjParamInfo(ProjEnumParam(static_cast<ProjType>(type), i), nullptr, nullptr, nullptr, nullptr))
+                << type << " " << i;
+}
+
+TEST(Catalogue, DescribesAParameter) {
+    char name[64];
+    ProjDataType type = ProjDataTypeNone;
+    int offset = 0, size = 0;
+    ASSERT_TRUE(ProjParamInfo(15, name, &type, &offset, &size));
+    EXPECT_STREQ(name, "State Zone");
+    EXPECT_EQ(type, ProjDataTypeStateZone);
+    EXPECT_EQ(offset, 101);
+    EXPECT_EQ(size, 4);
+    ASSERT_TRUE(ProjParamInfo(22, nullptr, nullptr, &offset, nullptr));
+    EXPECT_EQ(offset, 128);
+    for (int const unknown : {0, 23, -1})
+        EXPECT_FALSE(ProjParamInfo(unknown, name, &type, &offset, &size));
+}
+
+TEST(Catalogue, ReadsAndWritesParametersByIdentifier) {
+    std::array<unsigned char, sizeof(PROJDATA)> bytes;
+    bytes.fill(0xA5);
+    auto const before = bytes;
+    auto* const record = reinterpret_cast<PROJDATA*>(bytes.data());
+    bool const south = true;
+    ASSERT_TRUE(ProjSetParam(record, 14, &south));
+    for (std::size_t i = 0; i < bytes.size(); ++i)
+        EXPECT_EQ(bytes[i], i == 100 ? 1 : before[i]) << i;
+    double const northing = 1234.5;
+    double read = 0;
+    ASSERT_TRUE(ProjSetParam(record, 4, &northing) && ProjGetParam(record, 4, &read));
+    EXPECT_EQ(read, northing);
+    EXPECT_EQ(record->yOrg, northing);
+    EXPECT_FALSE(ProjSetParam(record, 0, &northing));
+    EXPECT_FALSE(ProjGetParam(record, 23, &read));
+    EXPECT_FALSE(ProjGetParam(nullptr, 4, &read));
+    EXPECT_FALSE(ProjSetParam(record, 4, nullptr));
+}
