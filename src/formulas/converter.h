@@ -22,7 +22,7 @@ struct Converter {
     Run forward = nullptr;
     Run inverse = nullptr;
     double xOrg = 0, yOrg = 0, scale = 1;
-    alignas(std::max_align_t) std::byte constants[1024]; // read by the two functions only
+    alignas(std::max_align_t) std::byte constants[2048]; // read by the two functions only
 };
 
 /// The operations of a projection type. `work` has its angles in radians and the ellipsoid in MajorRadius and

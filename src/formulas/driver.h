@@ -127,7 +127,8 @@ inline constexpr int blockPoints = 256;
 
 /// `points` in, x and y out: the map coordinates of up to blockPoints points. `good` tells which of them stand.
 template <class P, class Direction>
-[[gnu::noinline]] bool convertRegisters(Converter const& frame, P const& formula, int count, double* x, double* y, double* good) {
+[[gnu::noinline]] bool convertRegisters(Converter const& frame, P const& formula, int count, double* x, double* y,
+                                        double* good) {
     bool allGood = true;
     for (int i = 0; i < count; i += lanes) {
         Pair<Register> const from{load(x + i), load(y + i)};
@@ -183,5 +184,11 @@ template <class P> void hold(Converter& converter, P const& formula) {
     converter.forward = convertArray<P, Forward<P>>;
     converter.inverse = convertArray<P, Inverse<P>>;
 }
+
+/// The map of a record that defines none: every point is unplottable.
+struct Nowhere {
+    template <class R> Xy<R> forward(LonLat<R>) const { return {unplottable, unplottable}; }
+    template <class R> LonLat<R> inverse(Xy<R>) const { return {unplottable, unplottable}; }
+};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -4,8 +4,25 @@
 #include <zrproj/projection.h>
 
 #include <cfloat>
+#include <cmath>
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
+
+/// The longitude east of `lon0` in degrees, -180 to 180.
+inline double longitudeDifference(double lon0, double lon) {
+    return std::remainder(lon - lon0, 360.0);
+}
+
+/// The in-range test of a projection that shows the whole globe.
+inline bool isAnywhere(PROJDATA const&, PROJPOINT const&) noexcept {
+    return true;
+}
+
+/// The split test of a projection that has no edge along a meridian.
+inline bool neverSplit(PROJDATA const&, PROJPOINT const*, unsigned, double* out1, double* out2) noexcept {
+    *out1 = *out2 = 0;
+    return false;
+}
 
 /// The split test of a projection whose map ends at the meridian opposite to `lon0`: 360 in `*out1` when the points
 /// reach it in the west, -360 when they reach it in the east.
@@ -21,6 +38,12 @@ inline bool splitAtOppositeMeridian(double lon0, PROJPOINT const* points, unsign
     else if (!(lon0 + 180 > east))
         *out1 = -360;
     return *out1 != 0;
+}
+
+/// The same about the record's Lon0.
+inline bool splitOppositeToLon0(PROJDATA const& record, PROJPOINT const* points, unsigned count, double* out1,
+                                double* out2) noexcept {
+    return splitAtOppositeMeridian(record.Lon0, points, count, out1, out2);
 }
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -3,9 +3,8 @@
 //
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 48-65; equation numbers are his.
 // Departs   the meridian distance is regrouped over sin 2 phi and cos 2 phi; its value is that of (3-21).
-// Accuracy  1e-3 m and 2e-8 degrees round trip inside 3 degrees of the central meridian, where the series is cut;
-// within
-//           1e-6 m of the series itself (measured by the tests).
+// Accuracy  1e-3 m and 2e-8 degrees round trip inside 3 degrees of the central meridian, where the series is cut; 1e-6
+//           of a metre from the series itself (measured by the tests).
 // Domain    the series loses its meaning some 10 degrees from the central meridian and is evaluated all the same.
 //
 // phi, lambda   latitude, longitude          e2, ep2   eccentricity squared, e'^2 = e2 / (1 - e2)
@@ -129,13 +128,8 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return record.Lon0 - 45 < point.x && point.x < record.Lon0 + 45;
 }
 
-bool offsetSplitObject(PROJDATA const& record, PROJPOINT const* points, unsigned count, double* out1,
-                       double* out2) noexcept {
-    return splitAtOppositeMeridian(record.Lon0, points, count, out1, out2);
-}
-
 } // namespace
 
-constinit Formula const transverseMercator{prepare, inProjection, offsetSplitObject};
+constinit Formula const transverseMercator{prepare, inProjection, splitOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

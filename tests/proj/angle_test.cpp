@@ -20,9 +20,9 @@ namespace {
 constexpr double infinity = std::numeric_limits<double>::infinity();
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-constexpr AngleTextFormat degreesOnly = AngleTextFormatDegrees;
-constexpr AngleTextFormat toMinutes = AngleTextFormatDegreesMinutes;
-constexpr AngleTextFormat toSeconds = AngleTextFormatDegreesMinutesSeconds;
+constexpr AngleTextFormat d = AngleTextFormatDegrees;
+constexpr AngleTextFormat dm = AngleTextFormatDegreesMinutes;
+constexpr AngleTextFormat dms = AngleTextFormatDegreesMinutesSeconds;
 
 bool refused(std::string const& text, char letter = 'd') {
     double degrees = 5;
@@ -99,51 +99,51 @@ TEST(LatLonToDegrees, MarkIsTheCallers) {
 
 TEST(DegreesToLatLon, WritesAngles) {
     double const angle = -(36 + 52 / 60. + 11.6315 / 3600.);
-    EXPECT_EQ(written(angle, toSeconds, 4), "-36d52'11.6315");
-    EXPECT_EQ(written(angle, toMinutes, 3), "-36d52.194");
-    EXPECT_EQ(written(angle, degreesOnly, 4), "-36.8699");
-    EXPECT_EQ(written(angle, toSeconds, 0, 'D'), "-36D52'12");
-    EXPECT_EQ(written(7.5, toSeconds, 1), "7d30'0.0");
-    EXPECT_EQ(written(7.5, degreesOnly, 0), "8");
-    EXPECT_EQ(written(1 / 3., toSeconds, 12), "0d20'0.000000000000");
-    EXPECT_EQ(written(400.25, toMinutes, 0), "400d15");
+    EXPECT_EQ(written(angle, dms, 4), "-36d52'11.6315");
+    EXPECT_EQ(written(angle, dm, 3), "-36d52.194");
+    EXPECT_EQ(written(angle, d, 4), "-36.8699");
+    EXPECT_EQ(written(angle, dms, 0, 'D'), "-36D52'12");
+    EXPECT_EQ(written(7.5, dms, 1), "7d30'0.0");
+    EXPECT_EQ(written(7.5, d, 0), "8");
+    EXPECT_EQ(written(1 / 3., dms, 12), "0d20'0.000000000000");
+    EXPECT_EQ(written(400.25, dm, 0), "400d15");
 }
 
 TEST(DegreesToLatLon, NeverWrites60) {
-    EXPECT_EQ(written(29 + 59 / 60. + 59.96 / 3600, toSeconds, 1), "30d0'0.0");
-    EXPECT_EQ(written(29 + 59 / 60. + 59.94 / 3600, toSeconds, 1), "29d59'59.9");
-    EXPECT_EQ(written(-29 - 30 / 60. - 59.5001 / 3600, toSeconds, 0), "-29d31'0");
-    EXPECT_EQ(written(9.9999, toMinutes, 1), "10d0.0");
-    EXPECT_EQ(written(9.9999, degreesOnly, 3), "10.000");
-    EXPECT_EQ(written(std::nextafter(1., 0.), toSeconds, 3), "1d0'0.000");
-    EXPECT_EQ(written(std::nextafter(30., 0.), toMinutes, 12), "30d0.000000000000");
-    EXPECT_EQ(written(6 / 60., toSeconds, 0), "0d6'0");
+    EXPECT_EQ(written(29 + 59 / 60. + 59.96 / 3600, dms, 1), "30d0'0.0");
+    EXPECT_EQ(written(29 + 59 / 60. + 59.94 / 3600, dms, 1), "29d59'59.9");
+    EXPECT_EQ(written(-29 - 30 / 60. - 59.5001 / 3600, dms, 0), "-29d31'0");
+    EXPECT_EQ(written(9.9999, dm, 1), "10d0.0");
+    EXPECT_EQ(written(9.9999, d, 3), "10.000");
+    EXPECT_EQ(written(std::nextafter(1., 0.), dms, 3), "1d0'0.000");
+    EXPECT_EQ(written(std::nextafter(30., 0.), dm, 12), "30d0.000000000000");
+    EXPECT_EQ(written(6 / 60., dms, 0), "0d6'0");
 }
 
 TEST(DegreesToLatLon, MinusIsForWhatIsNotZero) {
-    EXPECT_EQ(written(-0.004, degreesOnly, 2), "0.00");
-    EXPECT_EQ(written(-0.006, degreesOnly, 2), "-0.01");
-    EXPECT_EQ(written(-0.4 / 3600, toSeconds, 0), "0d0'0");
-    EXPECT_EQ(written(-0.6 / 3600, toSeconds, 0), "-0d0'1");
-    EXPECT_EQ(written(-0.0, toMinutes, 1), "0d0.0");
-    EXPECT_EQ(written(-DBL_TRUE_MIN, toSeconds, 12), "0d0'0.000000000000");
+    EXPECT_EQ(written(-0.004, d, 2), "0.00");
+    EXPECT_EQ(written(-0.006, d, 2), "-0.01");
+    EXPECT_EQ(written(-0.4 / 3600, dms, 0), "0d0'0");
+    EXPECT_EQ(written(-0.6 / 3600, dms, 0), "-0d0'1");
+    EXPECT_EQ(written(-0.0, dm, 1), "0d0.0");
+    EXPECT_EQ(written(-DBL_TRUE_MIN, dms, 12), "0d0'0.000000000000");
 }
 
 TEST(DegreesToLatLon, NeedsRoomAndGoodArguments) {
     char buffer[] = "untouched";
     for (int size : {6, 1, 0, -1, INT_MIN})
-        EXPECT_FALSE(DegreesToLatLon(-7.5, buffer, size, toSeconds, 0, 'd')) << size; // "-7d30'0"
+        EXPECT_FALSE(DegreesToLatLon(-7.5, buffer, size, dms, 0, 'd')) << size; // "-7d30'0"
     for (double wild : {notANumber, infinity, -infinity})
-        EXPECT_FALSE(DegreesToLatLon(wild, buffer, 10, degreesOnly, 1, 'd'));
+        EXPECT_FALSE(DegreesToLatLon(wild, buffer, 10, d, 1, 'd'));
     for (int decimals : {-1, 13, INT_MAX, INT_MIN})
-        EXPECT_FALSE(DegreesToLatLon(1, buffer, 400, degreesOnly, decimals, 'd'));
+        EXPECT_FALSE(DegreesToLatLon(1, buffer, 400, d, decimals, 'd'));
     for (int format : {-1, 3, INT_MAX, INT_MIN})
         EXPECT_FALSE(DegreesToLatLon(1, buffer, 10, AngleTextFormat(format), 1, 'd'));
     for (char letter : {'0', '9', '.', '\0'})
-        EXPECT_FALSE(DegreesToLatLon(1, buffer, 10, toMinutes, 0, letter));
-    EXPECT_FALSE(DegreesToLatLon(1, nullptr, 10, degreesOnly, 1, 'd'));
+        EXPECT_FALSE(DegreesToLatLon(1, buffer, 10, dm, 0, letter));
+    EXPECT_FALSE(DegreesToLatLon(1, nullptr, 10, d, 1, 'd'));
     EXPECT_STREQ(buffer, "untouched");
-    EXPECT_TRUE(DegreesToLatLon(-7.5, buffer, 8, toSeconds, 0, 'd'));
+    EXPECT_TRUE(DegreesToLatLon(-7.5, buffer, 8, dms, 0, 'd'));
     EXPECT_STREQ(buffer, "-7d30'0");
     EXPECT_EQ(buffer[8], 'd');
 }
@@ -176,7 +176,7 @@ TEST(AngleText, LocaleDoesNotMatter) {
     if (!found)
         GTEST_SKIP() << "no locale with a decimal comma here";
     double const value = read("36d52.194");
-    std::string const text = written(-36.5, degreesOnly, 2);
+    std::string const text = written(-36.5, d, 2);
     std::setlocale(LC_NUMERIC, "C");
     EXPECT_DOUBLE_EQ(value, 36 + 52.194 / 60.);
     EXPECT_EQ(text, "-36.50");
@@ -188,7 +188,7 @@ TEST(AngleText, HostWithTrapsIsNotHit) {
     double degrees = 0;
     for (double angle :
          {notANumber, std::numeric_limits<double>::signaling_NaN(), infinity, DBL_MAX, DBL_TRUE_MIN, 0.1, -29.9999})
-        for (AngleTextFormat format : {degreesOnly, toMinutes, toSeconds})
+        for (AngleTextFormat format : {d, dm, dms})
             DegreesToLatLon(angle, buffer, sizeof buffer, format, 3, 'd');
     LatLonToDegrees("-36d52'11.6315", &degrees, 'd');
     LatLonToDegrees("0.00000000000000000000000000001", &degrees, 'd');

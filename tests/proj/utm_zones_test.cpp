@@ -62,7 +62,7 @@ TEST(UtmZones, OfALongitudeFarOutFollowTheSameIntegers) {
         std::uniform_real_distribution<double> longitudes(-range, range);
         for (int i = 0; i < 2000; ++i) {
             double const lon = longitudes(random);
-            std::int64_t const whole = static_cast<std::int64_t>(lon);
+            auto const whole = static_cast<std::int64_t>(lon);
             ASSERT_EQ(ProjUTMLonToZoneNumber(lon), (whole + 129780) % 360 / 6 + 1) << lon;
         }
     }
@@ -130,7 +130,7 @@ TEST(UtmZones, ReadFromText) {
 TEST(UtmZones, LongNumbersWrapToo) {
     std::mt19937_64 random(2);
     for (int i = 0; i < 2000; ++i) {
-        std::int64_t const number = static_cast<std::int64_t>(random() >> (4 + random() % 56));
+        auto const number = static_cast<std::int64_t>(random() >> (4 + random() % 56));
         std::string const digits = std::to_string(number);
         ASSERT_EQ(zoneRead(digits + "s"), std::to_string((number + 3599) % 60 + 1) + "S") << digits;
         ASSERT_EQ(zoneRead("-" + digits), std::to_string((-number + 3599) % 60 + 1) + "N") << digits;

@@ -11,7 +11,9 @@
 
 #include <algorithm>
 #include <array>
+#include <bit>
 #include <cmath>
+#include <cstddef>
 #include <cstring>
 #include <limits>
 #include <span>
@@ -25,10 +27,12 @@ constexpr StateZoneType nowhere[] = {StateZoneType(-1), StateZoneTypeNone, State
                                      StateZoneType(std::numeric_limits<int>::min()),
                                      StateZoneType(std::numeric_limits<int>::max())};
 
-/// A record that asks for a zone, every other byte of it set.
+constexpr unsigned char unset = 0x5A;
+
+/// A record that asks for a zone, every other byte of it as set by nobody.
 PROJDATA request(ProjType type, StateZoneType zone) {
     PROJDATA data;
-    std::memset(&data, 0x5A, sizeof data);
+    std::memset(&data, unset, sizeof data);
     data.Type = type;
     data.Zone = zone;
     return data;
@@ -53,12 +57,8 @@ double dms(int degrees, int minutes, double seconds = 0) {
     return degrees + minutes / 60. + seconds / 3600.;
 }
 
-constexpr double unset = 0x5A;
-
-unsigned char byteOf(PROJDATA const& data, std::size_t offset) {
-    unsigned char bytes[sizeof data];
-    std::memcpy(bytes, &data, sizeof data);
-    return bytes[offset];
+auto bytesOf(PROJDATA const& data) {
+    return std::bit_cast<std::array<unsigned char, sizeof data>>(data);
 }
 
 } // namespace
@@ -222,15 +222,15 @@ TEST(ZoneDefinitions, ObliqueAndPolyconic) {
     EXPECT_EQ(+data.Type, ProjTypeHotineObliqueMercator);
     EXPECT_EQ(position(data), (Position{0, 57, -dms(133, 40), 0, 0, 0, 818585.5672270928, 575219.2451072643, 0.9999}));
     EXPECT_DOUBLE_EQ(+data.Alpha, -dms(36, 52, 11.6315));
-    EXPECT_EQ(byteOf(data, offsetof(PROJDATA, bUseAlpha)), 1);
-    EXPECT_EQ(byteOf(data, offsetof(PROJDATA, bRotate)), 1);
-    EXPECT_EQ(byteOf(data, offsetof(PROJDATA, bUOffset)), 1);
+    EXPECT_EQ(bytesOf(data)[offsetof(PROJDATA, bUseAlpha)], 1);
+    EXPECT_EQ(bytesOf(data)[offsetof(PROJDATA, bRotate)], 1);
+    EXPECT_EQ(bytesOf(data)[offsetof(PROJDATA, bUOffset)], 1);
 
     data = defined(ProjTypeStatePlane1983, StateZoneTypeGreatLakesSurvey4);
     EXPECT_EQ(+data.Type, ProjTypeHotineObliqueMercator);
     EXPECT_EQ(+data.Ellipsoid, EllipsoidTypeClarke1866);
     EXPECT_EQ(position(data), (Position{0, dms(285, 41), dms(88, 50), dms(47, 12), 0, 0, 9000000, -1600000, 0.9999}));
-    EXPECT_EQ(byteOf(data, offsetof(PROJDATA, bRotate)), 1);
+    EXPECT_EQ(bytesOf(data)[offsetof(PROJDATA, bRotate)], 1);
 
     data = defined(ProjTypeStatePlane1927, StateZoneTypeGuamIsland);
     EXPECT_EQ(+data.Type, ProjTypePolyconic);
@@ -246,12 +246,12 @@ TEST(ZoneDefinitions, WhatADefinitionDoesNotNameStaysTheCallers) {
     EXPECT_EQ(+data.Alpha, +before.Alpha);
     for (std::size_t offset : {offsetof(PROJDATA, bSouth), offsetof(PROJDATA, bUseAlpha), offsetof(PROJDATA, bRotate),
                                offsetof(PROJDATA, bUOffset)})
-        EXPECT_EQ(byteOf(data, offset), unset) << offset;
+        EXPECT_EQ(bytesOf(data)[offset], unset) << offset;
     EXPECT_EQ(std::memcmp(data.Reserved, before.Reserved, sizeof data.Reserved), 0);
     EXPECT_EQ(+data.iResult, +before.iResult);
     // The Great Lakes zones name two flags of three, and no azimuth.
     PROJDATA const lakes = defined(ProjTypeStatePlane1927, StateZoneTypeGreatLakesSurvey1);
-    EXPECT_EQ(byteOf(lakes, offsetof(PROJDATA, bUseAlpha)), unset);
+    EXPECT_EQ(bytesOf(lakes)[offsetof(PROJDATA, bUseAlpha)], unset);
     EXPECT_EQ(+lakes.Alpha, +before.Alpha);
 }
 
@@ -267,8 +267,7 @@ TEST(ZoneDefinitions, RecordThatAsksForNoZoneLosesItsZoneOnly) {
     auto const refused = [](ProjType type, StateZoneType zone) {
         PROJDATA expected = request(type, zone);
         expected.Zone = StateZoneTypeNone;
-        PROJDATA const data = defined(type, zone);
-        return std::memcmp(&data, &expected, sizeof data) == 0;
+        return bytesOf(defined(type, zone)) == bytesOf(expected);
     };
     for (StateZoneType zone : nowhere)
         EXPECT_TRUE(refused(ProjTypeStatePlane1983, zone)) << zone;
