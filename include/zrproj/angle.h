@@ -29,8 +29,8 @@ ZRPROJ_API bool LatLonToDegrees(char const* text, double* degrees, char degreeLe
 ///
 /// degrees: any finite angle. decimals: 0 to 12 places on the last part. bufferSize: bytes in `buffer`, the closing
 /// null included.
-/// Returns false, `buffer` untouched, when the buffer is null or too small, the angle is not finite, or the format or
-/// decimals are out of range.
+/// Returns false, `buffer` untouched, when the buffer is null or too small, the angle is not finite, the format or
+/// decimals are out of range, or the letter could not be read back (a digit, a point, or null).
 ZRPROJ_API bool DegreesToLatLon(double degrees, char* buffer, int bufferSize, AngleTextFormat format, int decimals,
                                 char degreeLetter);
 

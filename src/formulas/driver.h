@@ -34,9 +34,8 @@ inline Pair<double> normalised(Pair<double> degrees) {
     return {std::fmod(degrees.x, 360.0), lat > 90 ? 180 - lat : lat < -90 ? std::fabs(lat) - 180 : lat};
 }
 
-template <class R> Pair<R> normalised(Pair<R> degrees) {
-    if (!any((abs(degrees.x) >= 360.0) | (abs(degrees.y) > 90.0)))
-        return degrees;
+/// The same lane by lane; out of line, since few points need it.
+[[gnu::noinline]] inline Pair<Register> normalisedLanes(Pair<Register> degrees) {
     double x[lanes], y[lanes];
     store(x, degrees.x);
     store(y, degrees.y);
@@ -47,6 +46,13 @@ template <class R> Pair<R> normalised(Pair<R> degrees) {
     }
     return {load(x), load(y)};
 }
+
+#if !defined(ZRPROJ_LEVEL_scalar)
+[[gnu::always_inline]] inline Pair<Register> normalised(Pair<Register> degrees) {
+    bool const usual = !any((abs(degrees.x) >= 360.0) | (abs(degrees.y) > 90.0));
+    return usual ? degrees : normalisedLanes(degrees);
+}
+#endif
 
 template <class R> R toRadians(R degrees) {
     return degrees * 3.141592653589793 / 180.0;

@@ -36,12 +36,14 @@ struct MeridianSeries {
 struct Ellipsoidal {
     double a, k0, lambda0, e2, ep2;
     MeridianSeries series;
-    double m0;             // M0 / a
-    double f2, f4, f6, f8; // footpoint latitude: coefficients of sin 2 mu to sin 8 mu in (3-26)
+    double m0;                       // M0 / a
+    double perMetre, muPerM, n1PerW; // 1 / (a k0), 1 / a0 of the series, 1 / (1 - e2)
+    double f2, f4, f6, f8;           // footpoint latitude: coefficients of sin 2 mu to sin 8 mu in (3-26)
 
     explicit Ellipsoidal(PROJDATA const& work)
         : a(work.MajorRadius), k0(work.K0), lambda0(work.Lon0), e2(work.Flattening * (2 - work.Flattening)),
-          ep2(e2 / (1 - e2)), series(e2), m0(series.distance(work.Lat0, sinCos(work.Lat0))) {
+          ep2(e2 / (1 - e2)), series(e2), m0(series.distance(work.Lat0, sinCos(work.Lat0))), perMetre(1 / (a * k0)),
+          muPerM(1 / series.a0), n1PerW(1 / (1 - e2)) {
         double const root = std::sqrt(1 - e2), e1 = (1 - root) / (1 + root);
         f2 = 3 * e1 / 2 - 27 * e1 * e1 * e1 / 32;
         f4 = 21 * e1 * e1 / 16 - 55 * e1 * e1 * e1 * e1 / 32;
@@ -57,27 +59,28 @@ struct Ellipsoidal {
         R const N = a / sqrt(1.0 - e2 * phi.sin * phi.sin);  // (4-20)
         R const M = a * (series.distance(p.lat, phi) - m0);  // from the latitude of origin
         R const x5 = 5.0 - 18.0 * T + T * T + 72.0 * C - 58 * ep2;
-        R const x = k0 * N * A * (1.0 + A2 * ((1.0 - T + C) / 6.0 + A2 * x5 / 120.0)); // (8-9)
+        R const x = k0 * N * A * (1.0 + A2 * ((1.0 - T + C) * (1 / 6.0) + A2 * x5 * (1 / 120.0))); // (8-9)
         R const y4 = 5.0 - T + 9.0 * C + 4.0 * C * C, y6 = 61.0 - 58.0 * T + T * T + 600.0 * C - 330 * ep2;
-        R const y = k0 * (M + N * tan * A2 * (0.5 + A2 * (y4 / 24.0 + A2 * y6 / 720.0))); // (8-10)
+        R const y = k0 * (M + N * tan * A2 * (0.5 + A2 * (y4 * (1 / 24.0) + A2 * y6 * (1 / 720.0)))); // (8-10)
         auto const pole = abs(p.lat) == halfPi;
         return {select(pole, R(0.0), x), select(pole, k0 * M, y)};
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
-        R const mu = (m0 + p.y / (k0 * a)) / series.a0; // (8-20), (7-19)
+        R const mu = (m0 + p.y * perMetre) * muPerM; // (8-20), (7-19)
         R const phi1 = footpoint(mu);
         auto const at = sinCos(phi1);
         R const sec = 1.0 / at.cos, tan = at.sin * sec;
         R const w = 1.0 - e2 * at.sin * at.sin;             // positive, since e2 < 1
         R const C1 = ep2 * at.cos * at.cos, T1 = tan * tan; // (8-21), (8-22)
-        R const D = p.x * sqrt(w) / (a * k0), D2 = D * D;   // (8-25), N1 = a / sqrt(w)
-        R const curvature = w / (1 - e2);                   // N1 / R1, (8-23) and (8-24)
+        R const D = p.x * perMetre * sqrt(w), D2 = D * D;   // (8-25), N1 = a / sqrt(w)
+        R const curvature = w * n1PerW;                     // N1 / R1, (8-23) and (8-24)
         R const phi4 = 5.0 + 3.0 * T1 + 10.0 * C1 - 4.0 * C1 * C1 - 9 * ep2;
         R const phi6 = 61.0 + 90.0 * T1 + 298.0 * C1 + 45.0 * T1 * T1 - 252 * ep2 - 3.0 * C1 * C1;
-        R const phi = phi1 - curvature * tan * D2 * (0.5 - D2 * (phi4 / 24.0 - D2 * phi6 / 720.0)); // (8-17)
+        R const phi =
+            phi1 - curvature * tan * D2 * (0.5 - D2 * (phi4 * (1 / 24.0) - D2 * phi6 * (1 / 720.0))); // (8-17)
         R const lambda5 = 5.0 - 2.0 * C1 + 28.0 * T1 - 3.0 * C1 * C1 + 8 * ep2 + 24.0 * T1 * T1;
-        R const lambda = D * (1.0 - D2 * ((1.0 + 2.0 * T1 + C1) / 6.0 - D2 * lambda5 / 120.0)) * sec;
+        R const lambda = D * (1.0 - D2 * ((1.0 + 2.0 * T1 + C1) * (1 / 6.0) - D2 * lambda5 * (1 / 120.0))) * sec;
         return {lambda0 + lambda, phi}; // (8-18)
     }
 

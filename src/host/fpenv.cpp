@@ -10,9 +10,13 @@ namespace {
 constexpr unsigned arithmeticFlags = _MM_EXCEPT_DIV_ZERO | _MM_EXCEPT_INVALID | _MM_EXCEPT_OVERFLOW;
 }
 
-void clearArithmeticFlags() noexcept { _mm_setcsr(_mm_getcsr() & ~arithmeticFlags); }
+void clearArithmeticFlags() noexcept {
+    _mm_setcsr(_mm_getcsr() & ~arithmeticFlags);
+}
 
-bool arithmeticFlagRaised() noexcept { return (_mm_getcsr() & arithmeticFlags) != 0; }
+bool arithmeticFlagRaised() noexcept {
+    return (_mm_getcsr() & arithmeticFlags) != 0;
+}
 
 #else
 

@@ -114,7 +114,7 @@ std::array<double, partCount> splitAngle(double degrees, std::size_t last, int d
         parts[i] = whole;
     }
     for (std::size_t i = last; i > 0; --i) {
-        if (roundsTo60(parts[i], i == last ? decimals : 0)) {
+        if (roundsTo60(parts[i], decimals)) {
             parts[i] = 0;
             parts[i - 1] += 1;
         }

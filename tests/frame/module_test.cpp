@@ -23,6 +23,7 @@ void runSelf(std::vector<std::string> const& environment) {
     char* arguments[] = {program.data(), option.data(), nullptr};
     std::vector<std::string> texts = environment;
     std::vector<char*> variables;
+    variables.reserve(texts.size() + 1);
     for (std::string& text : texts)
         variables.push_back(text.data());
     variables.push_back(nullptr);
@@ -34,7 +35,9 @@ void runSelf(std::vector<std::string> const& environment) {
     ASSERT_EQ(status, 0);
 }
 
-/// Takes ctime's 24 characters after `lead` out of the text.
+constexpr char const* threeHoursEast = "TZ=TST-3";
+
+/// Takes ctime's 24 characters after `lead`, local time three hours east, out of the text.
 std::time_t takeTime(std::string& text, std::string const& lead) {
     if (text.find(lead) == std::string::npos)
         return -1;
@@ -42,9 +45,8 @@ std::time_t takeTime(std::string& text, std::string const& lead) {
     std::string const time = text.substr(start, 24);
     text.erase(start, 24);
     std::tm parts = {};
-    parts.tm_isdst = -1;
     char const* const end = strptime(time.c_str(), "%a %b %e %H:%M:%S %Y", &parts);
-    return end && !*end ? std::mktime(&parts) : -1;
+    return end && !*end ? timegm(&parts) - 3 * 3600 : -1;
 }
 
 class Module : public testing::Test {
@@ -57,18 +59,20 @@ protected:
 } // namespace
 
 TEST_F(Module, LogFramesTheLibrarysLifeWhateverTheVariableHolds) {
-    std::string const rule = std::string(74, '-') + "\r\n";
+    std::string expected = "\r\nRULE\r\nZRPROJ.DLL log output started at \r\nRULE\r\n"
+                           "RULE\r\nZRPROJ.DLL log output ended at \r\nRULE\r\n\r\n";
+    for (std::size_t at = 0; (at = expected.find("RULE")) != std::string::npos;)
+        expected.replace(at, 4, 74, '-');
     for (char const* variable : {"ZRPROJLOG=1", "ZRPROJLOG="}) {
         std::filesystem::remove(log);
-        runSelf({variable, temporary});
+        runSelf({variable, temporary, threeHoursEast});
         std::string text = fileBytes(log);
         EXPECT_NEAR(std::difftime(std::time(nullptr), takeTime(text, "started at ")), 5, 5) << text;
         EXPECT_NEAR(std::difftime(std::time(nullptr), takeTime(text, "ended at ")), 5, 5) << text;
-        EXPECT_EQ(text, "\r\n" + rule + "ZRPROJ.DLL log output started at \r\n" + rule + rule +
-                            "ZRPROJ.DLL log output ended at \r\n" + rule + "\r\n");
+        EXPECT_EQ(text, expected);
     }
     auto const once = fileBytes(log).size();
-    runSelf({"ZRPROJLOG=", temporary});
+    runSelf({"ZRPROJLOG=", temporary, threeHoursEast});
     EXPECT_EQ(fileBytes(log).size(), 2 * once);
 }
 

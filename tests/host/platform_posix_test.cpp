@@ -17,31 +17,13 @@ using namespace ZrProj;
 
 namespace {
 
-/// Sets an environment variable, or takes it away (null), for a while.
-class Environment {
-public:
-    Environment(char const* name, char const* value) : name_(name) {
-        if (char const* const old = std::getenv(name)) {
-            was_ = old;
-            wasThere_ = true;
-        }
-        set(value);
-    }
-    ~Environment() { set(wasThere_ ? was_.c_str() : nullptr); }
-    Environment(Environment const&) = delete;
-    Environment& operator=(Environment const&) = delete;
-
-private:
-    void set(char const* value) { value ? setenv(name_, value, 1) : unsetenv(name_); }
-
-    char const* name_;
-    std::string was_;
-    bool wasThere_ = false;
-};
-
 std::string logFileIn(char const* temporary) {
-    Environment const variable("TMPDIR", temporary);
-    return logFileName().data();
+    char const* const before = std::getenv("TMPDIR");
+    std::string const saved = before ? before : "";
+    temporary ? setenv("TMPDIR", temporary, 1) : unsetenv("TMPDIR");
+    FileName const name = logFileName();
+    before ? setenv("TMPDIR", saved.c_str(), 1) : unsetenv("TMPDIR");
+    return name.data();
 }
 
 } // namespace
@@ -53,13 +35,6 @@ TEST(Platform, LogStandsInTheTemporaryDirectory) {
     std::string const longest(259 - 11, 'd');
     EXPECT_EQ(logFileIn(longest.c_str()), longest + "/zrproj.log");
     EXPECT_EQ(logFileIn((longest + "d").c_str()), "/tmp/zrproj.log");
-}
-
-TEST(Platform, EnvironmentTellsEmptyFromMissing) {
-    Environment const empty("ZRPROJ_TEST_EMPTY", "");
-    Environment const missing("ZRPROJ_TEST_MISSING", nullptr);
-    EXPECT_STREQ(environmentVariable("ZRPROJ_TEST_EMPTY"), "");
-    EXPECT_EQ(environmentVariable("ZRPROJ_TEST_MISSING"), nullptr);
 }
 
 TEST(Platform, ExecutableDirectoryHoldsThisProgram) {

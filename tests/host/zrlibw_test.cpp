@@ -36,6 +36,9 @@ TEST(PrintError, WritesTheTextOnce) {
     ZrSetCallerInstancePtr(&host);
     testing::internal::CaptureStderr();
     EXPECT_TRUE(ZrProj::ReportError("x", 1, 20231, nullptr));
+    _ZRERRINFO question = {};
+    question.pszText = "not to be printed";
+    EXPECT_EQ(ZrPrintError(&question), 1);
     EXPECT_EQ(testing::internal::GetCapturedStderr(), "Scale parameter must be greater than zero\n");
     EXPECT_EQ(ZrPrintError(nullptr), 1);
 }

@@ -131,7 +131,7 @@ TEST(DegreesToLatLon, MinusIsForWhatIsNotZero) {
 
 TEST(DegreesToLatLon, NeedsRoomAndGoodArguments) {
     char buffer[] = "untouched";
-    for (int size : {6, 1, 0, -1, INT_MIN})
+    for (int size : {7, 1, 0, -1, INT_MIN})
         EXPECT_FALSE(DegreesToLatLon(-7.5, buffer, size, dms, 0, 'd')) << size; // "-7d30'0"
     for (double wild : {notANumber, infinity, -infinity})
         EXPECT_FALSE(DegreesToLatLon(wild, buffer, 10, d, 1, 'd'));

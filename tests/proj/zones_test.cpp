@@ -9,13 +9,11 @@
 
 #include <gtest/gtest.h>
 
-#include <algorithm>
 #include <array>
 #include <bit>
-#include <cmath>
+#include <climits>
 #include <cstddef>
 #include <cstring>
-#include <limits>
 #include <span>
 #include <string>
 
@@ -23,10 +21,10 @@ using namespace ZrProj;
 
 namespace {
 
-constexpr StateZoneType nowhere[] = {StateZoneType(-1), StateZoneTypeNone, StateZoneType(143),
-                                     StateZoneType(std::numeric_limits<int>::min()),
-                                     StateZoneType(std::numeric_limits<int>::max())};
-
+constexpr ProjType year27 = ProjTypeStatePlane1927;
+constexpr ProjType year83 = ProjTypeStatePlane1983;
+constexpr StateZoneType nowhere[] = {StateZoneType(-1), StateZoneTypeNone, StateZoneType(INT_MIN),
+                                     StateZoneType(INT_MAX)};
 constexpr unsigned char unset = 0x5A;
 
 /// A record that asks for a zone, every other byte of it as set by nobody.
@@ -44,21 +42,25 @@ PROJDATA defined(ProjType type, StateZoneType zone) {
     return data;
 }
 
-struct Position {
-    double Lon0, Lat0, Lon1, Lat1, Lon2, Lat2, xOrg, yOrg, K0;
-    bool operator==(Position const&) const = default;
+auto bytesOf(PROJDATA const& data) {
+    return std::bit_cast<std::array<unsigned char, sizeof data>>(data);
+}
+
+/// What every definition sets.
+struct Definition {
+    ProjType type;
+    EllipsoidType ellipsoid;
+    double Lon0, Lat0, Lon1, Lat1, Lat2, xOrg, yOrg, K0;
+    bool operator==(Definition const&) const = default;
 };
 
-Position position(PROJDATA const& data) {
-    return {data.Lon0, data.Lat0, data.Lon1, data.Lat1, data.Lon2, data.Lat2, data.xOrg, data.yOrg, data.K0};
+Definition definitionIn(PROJDATA const& data) {
+    return {data.Type, data.Ellipsoid, data.Lon0, data.Lat0, data.Lon1,
+            data.Lat1, data.Lat2,      data.xOrg, data.yOrg, data.K0};
 }
 
 double dms(int degrees, int minutes, double seconds = 0) {
     return degrees + minutes / 60. + seconds / 3600.;
-}
-
-auto bytesOf(PROJDATA const& data) {
-    return std::bit_cast<std::array<unsigned char, sizeof data>>(data);
 }
 
 } // namespace
@@ -73,68 +75,53 @@ TEST(StateZones, Info) {
         std::strcpy(name, "x");
         code = -1;
         ProjGetStateZoneInfo(zone, name, &code);
-        EXPECT_STREQ(name, "");
-        EXPECT_EQ(code, 0);
+        EXPECT_EQ(std::string(name) + std::to_string(code), "0");
     }
     ProjGetStateZoneInfo(StateZoneTypeAlaska1, nullptr, nullptr);
 }
 
-TEST(StateZones, FromName) {
+TEST(StateZones, FromNameAndUsgsCode) {
     StateZoneType zone = StateZoneTypeNone;
     EXPECT_TRUE(ProjGetStateZoneFromName(&zone, "alabama east"));
     EXPECT_EQ(zone, StateZoneTypeAlabamaEast);
-    EXPECT_TRUE(ProjGetStateZoneFromName(&zone, "DELEWARE"));
-    EXPECT_EQ(zone, StateZoneTypeDeleware);
-    for (char const* unknown : {"Delaware", "California", " Alabama East", "California VIII"}) {
+    EXPECT_TRUE(ProjGetStateZoneFromUSGSCode(&zone, 901));
+    EXPECT_EQ(zone, StateZoneTypeFloridaEast);
+    EXPECT_TRUE(ProjGetStateZoneFromUSGSCode(&zone, 0));
+    EXPECT_EQ(zone, StateZoneTypeGreatLakesSurvey1);
+
+    EXPECT_FALSE(ProjGetStateZoneFromName(&zone, ""));
+    EXPECT_FALSE(ProjGetStateZoneFromName(&zone, nullptr));
+    EXPECT_FALSE(ProjGetStateZoneFromName(nullptr, "Alaska 1"));
+    EXPECT_FALSE(ProjGetStateZoneFromUSGSCode(&zone, -1));
+    EXPECT_FALSE(ProjGetStateZoneFromUSGSCode(nullptr, 101));
+    EXPECT_EQ(zone, StateZoneTypeGreatLakesSurvey1);
+    for (char const* unknown : {"Delaware", "California", " Alabama East"}) {
         zone = StateZoneTypeAlaska1;
         EXPECT_FALSE(ProjGetStateZoneFromName(&zone, unknown)) << unknown;
         EXPECT_EQ(zone, StateZoneTypeNone);
     }
     zone = StateZoneTypeAlaska1;
-    EXPECT_FALSE(ProjGetStateZoneFromName(&zone, ""));
-    EXPECT_FALSE(ProjGetStateZoneFromName(&zone, nullptr));
-    EXPECT_FALSE(ProjGetStateZoneFromName(nullptr, "Alaska 1"));
-    EXPECT_EQ(zone, StateZoneTypeAlaska1);
-}
-
-TEST(StateZones, FromUsgsCode) {
-    StateZoneType zone = StateZoneTypeNone;
-    EXPECT_TRUE(ProjGetStateZoneFromUSGSCode(&zone, 901));
-    EXPECT_EQ(zone, StateZoneTypeFloridaEast);
-    EXPECT_TRUE(ProjGetStateZoneFromUSGSCode(&zone, 0));
-    EXPECT_EQ(zone, StateZoneTypeGreatLakesSurvey1);
     EXPECT_FALSE(ProjGetStateZoneFromUSGSCode(&zone, 9999));
     EXPECT_EQ(zone, StateZoneTypeNone);
-    zone = StateZoneTypeAlaska1;
-    EXPECT_FALSE(ProjGetStateZoneFromUSGSCode(&zone, -1));
-    EXPECT_FALSE(ProjGetStateZoneFromUSGSCode(nullptr, 101));
-    EXPECT_EQ(zone, StateZoneTypeAlaska1);
 }
 
-TEST(StateZones, NamesAndCodesLeadBackToTheirZones) {
+TEST(StateZones, EveryZoneIsFoundAgainButWhereTwoShareANumber) {
     for (int i = 0; i < StateZoneTypeNone; ++i) {
         char name[38];
-        int code = -1;
+        int number = -1;
         StateZoneType found = StateZoneTypeNone;
-        ProjGetStateZoneInfo(StateZoneType(i), name, &code);
+        ProjGetStateZoneInfo(StateZoneType(i), name, &number);
         EXPECT_TRUE(ProjGetStateZoneFromName(&found, name)) << i;
         EXPECT_EQ(found, i);
-        EXPECT_TRUE(ProjGetStateZoneFromUSGSCode(&found, code)) << i;
-        EXPECT_EQ(found, code == 0 ? StateZoneTypeGreatLakesSurvey1 : i);
-    }
-}
-
-TEST(StateZones, PoscNumbersLeadBothWaysButWhereTwoZonesShareOne) {
-    for (ProjType type : {ProjTypeStatePlane1927, ProjTypeStatePlane1983}) {
-        for (int i = 0; i < StateZoneTypeNone; ++i) {
-            int posc = 0;
-            if (!ProjStateZoneToPOSCNumber(type, StateZoneType(i), &posc))
+        EXPECT_TRUE(ProjGetStateZoneFromUSGSCode(&found, number)) << i;
+        EXPECT_EQ(found, number == 0 ? StateZoneTypeGreatLakesSurvey1 : i);
+        for (ProjType year : {year27, year83}) {
+            ProjType type = ProjTypeUndefined;
+            if (!ProjStateZoneToPOSCNumber(year, StateZoneType(i), &number))
                 continue;
-            ProjType foundType = ProjTypeUndefined;
-            StateZoneType found = StateZoneTypeNone;
-            EXPECT_TRUE(ProjGetStateZoneFromPOSCNumber(posc, &foundType, &found)) << posc;
-            EXPECT_EQ(foundType, type) << posc;
-            EXPECT_EQ(found, posc == 32134 ? 111 : posc == 32135 ? 112 : i) << posc;
+            EXPECT_TRUE(ProjGetStateZoneFromPOSCNumber(number, &type, &found)) << number;
+            EXPECT_EQ(found, number == 32134 ? 111 : number == 32135 ? 112 : i);
+            EXPECT_EQ(type, year);
         }
     }
 }
@@ -142,20 +129,19 @@ TEST(StateZones, PoscNumbersLeadBothWaysButWhereTwoZonesShareOne) {
 TEST(StateZones, PoscNumbersThatAreNone) {
     ProjType type = ProjTypeMercator;
     StateZoneType zone = StateZoneTypeAlaska1;
-    for (int posc : {0, -1, 26728, 32635, std::numeric_limits<int>::max()})
-        EXPECT_FALSE(ProjGetStateZoneFromPOSCNumber(posc, &type, &zone)) << posc;
-    EXPECT_EQ(type, ProjTypeMercator);
-    EXPECT_EQ(zone, StateZoneTypeAlaska1);
+    for (int none : {0, -1, 26728, INT_MAX})
+        EXPECT_FALSE(ProjGetStateZoneFromPOSCNumber(none, &type, &zone)) << none;
+    EXPECT_TRUE(type == ProjTypeMercator && zone == StateZoneTypeAlaska1);
     EXPECT_TRUE(ProjGetStateZoneFromPOSCNumber(26729, nullptr, nullptr));
 
-    int posc = 5;
-    EXPECT_FALSE(ProjStateZoneToPOSCNumber(ProjTypeStatePlane1927, StateZoneType(105), &posc));
-    EXPECT_FALSE(ProjStateZoneToPOSCNumber(ProjTypeStatePlane1983, StateZoneTypeGuamIsland, &posc));
-    EXPECT_FALSE(ProjStateZoneToPOSCNumber(ProjTypeMercator, StateZoneTypeAlaska1, &posc));
+    int number = 5;
+    EXPECT_FALSE(ProjStateZoneToPOSCNumber(year27, StateZoneTypePuertoRicoAndVirginIslands1983, &number));
+    EXPECT_FALSE(ProjStateZoneToPOSCNumber(year83, StateZoneTypeGuamIsland, &number));
+    EXPECT_FALSE(ProjStateZoneToPOSCNumber(ProjTypeMercator, StateZoneTypeAlaska1, &number));
     for (StateZoneType none : nowhere)
-        EXPECT_FALSE(ProjStateZoneToPOSCNumber(ProjTypeStatePlane1983, none, &posc));
-    EXPECT_EQ(posc, 5);
-    EXPECT_TRUE(ProjStateZoneToPOSCNumber(ProjTypeStatePlane1983, StateZoneTypeAlaska1, nullptr));
+        EXPECT_FALSE(ProjStateZoneToPOSCNumber(year83, none, &number));
+    EXPECT_EQ(number, 5);
+    EXPECT_TRUE(ProjStateZoneToPOSCNumber(year83, StateZoneTypeAlaska1, nullptr));
 }
 
 TEST(ZoneDefinitions, EveryTextIsAnAngle) {
@@ -169,110 +155,75 @@ TEST(ZoneDefinitions, EveryTextIsAnAngle) {
             }
         }
     }
-    // 111 on the Transverse Mercator and Guam with 2 texts, 143 on Lambert with 4, 2 for Alaska 1 and 8 for the Great
-    // Lakes with 3.
+    // 111 Transverse Mercator zones and Guam have 2, 143 Lambert zones 4, Alaska 1 and the Great Lakes 3, twice.
     EXPECT_EQ(texts, 112 * 2 + 143 * 4 + 10 * 3);
 }
 
-TEST(ZoneDefinitions, AreInTheUnitedStates) {
-    for (ProjType type : {ProjTypeStatePlane1927, ProjTypeStatePlane1983}) {
-        for (int i = 0; i < StateZoneTypeGreatLakesSurvey1; ++i) {
-            PROJDATA const data = defined(type, StateZoneType(i));
-            if (data.Type == type) // not defined
-                continue;
-            bool const guam = i == StateZoneTypeGuamIsland, samoa = i == StateZoneTypeAmericanSamoa;
-            double const lon = data.Type == ProjTypeHotineObliqueMercator ? data.Lon1 : data.Lon0;
-            EXPECT_TRUE(guam || (lon <= -66 && lon >= -176)) << i;
-            EXPECT_TRUE(samoa || (data.Lat0 > 13 && data.Lat0 < 58)) << i;
-            if (data.Type == ProjTypeLambertConformalConic) {
-                EXPECT_TRUE(samoa || data.Lat2 < data.Lat1) << i;
-                EXPECT_GE(+data.Lat1, +data.Lat0) << i;
-                EXPECT_LT(+data.Lat1 - +data.Lat0, 5.5) << i;
-                EXPECT_EQ(+data.K0, 0) << i;
-            } else if (!guam) {
-                EXPECT_TRUE(data.K0 > 0.9998 && data.K0 <= 1) << i;
-            }
-        }
+TEST(ZoneDefinitions, TellingZones) {
+    constexpr ProjType tm = ProjTypeUniversalTransverseMercator, lambert = ProjTypeLambertConformalConic,
+                       hotine = ProjTypeHotineObliqueMercator, polyconic = ProjTypePolyconic;
+    constexpr EllipsoidType clarke = EllipsoidTypeClarke1866, grs = EllipsoidTypeGrs1980Iugg1980,
+                            michigan = EllipsoidTypeStatePlane1927Michigan;
+    struct {
+        ProjType year;
+        StateZoneType zone;
+        Definition definition;
+    } const cases[] = {
+        // clang-format off
+        {year27, StateZoneTypeNewJersey, {tm, clarke, -dms(74, 40), dms(38, 50), 0, 0, 0, 609601.2192024384, 0, 0.999975}},
+        {year83, StateZoneTypeTexasSouthCentral, {lambert, grs, -99, dms(27, 50), 0, dms(30, 17), dms(28, 23), 600000, 4000000, 0}},
+        {year27, StateZoneTypeMichiganSouth, {lambert, michigan, -dms(84, 20), 41.5, 0, dms(43, 40), dms(42, 6), 609601.2192024384, 0, 0}},
+        {year27, StateZoneTypeAlaska1, {hotine, clarke, 0, 57, -dms(133, 40), 0, 0, 818585.5672270928, 575219.2451072643, 0.9999}},
+        {year83, StateZoneTypeGreatLakesSurvey4, {hotine, clarke, 0, dms(285, 41), dms(88, 50), dms(47, 12), 0, 9000000, -1600000, 0.9999}},
+        {year27, StateZoneTypeGuamIsland, {polyconic, clarke, dms(144, 44, 55.50254), dms(13, 28, 20.87887), 0, 0, 0, 50000, 50000, 0}},
+        // clang-format on
+    };
+    for (auto const& each : cases) {
+        PROJDATA const data = defined(each.year, each.zone);
+        EXPECT_TRUE(definitionIn(data) == each.definition) << each.zone;
+        EXPECT_EQ(+data.Zone, each.zone);
+        EXPECT_EQ(+data.Lon2, 0);
+        EXPECT_EQ(+data.MajorRadius, EllipsoidRadius(each.definition.ellipsoid));
+        EXPECT_EQ(+data.Flattening, EllipsoidFlattening(each.definition.ellipsoid));
     }
 }
 
-TEST(ZoneDefinitions, TransverseMercatorAndLambert) {
-    PROJDATA data = defined(ProjTypeStatePlane1927, StateZoneTypeNewJersey);
-    EXPECT_EQ(+data.Type, ProjTypeUniversalTransverseMercator);
-    EXPECT_EQ(+data.Ellipsoid, EllipsoidTypeClarke1866);
-    EXPECT_EQ(+data.MajorRadius, 6378206.4);
-    EXPECT_EQ(+data.Flattening, EllipsoidFlattening(EllipsoidTypeClarke1866));
-    EXPECT_EQ(+data.Zone, StateZoneTypeNewJersey);
-    EXPECT_EQ(position(data), (Position{-dms(74, 40), dms(38, 50), 0, 0, 0, 0, 609601.2192024384, 0, 0.999975}));
-
-    data = defined(ProjTypeStatePlane1983, StateZoneTypeTexasSouthCentral);
-    EXPECT_EQ(+data.Type, ProjTypeLambertConformalConic);
-    EXPECT_EQ(+data.Ellipsoid, EllipsoidTypeGrs1980Iugg1980);
-    EXPECT_EQ(+data.MajorRadius, 6378137);
-    EXPECT_EQ(position(data), (Position{-99, dms(27, 50), 0, dms(30, 17), 0, dms(28, 23), 600000, 4000000, 0}));
-
-    data = defined(ProjTypeStatePlane1927, StateZoneTypeMichiganCentral);
-    EXPECT_EQ(+data.Ellipsoid, EllipsoidTypeStatePlane1927Michigan);
-    EXPECT_EQ(+data.MajorRadius, 6378450.047);
-    EXPECT_EQ(+defined(ProjTypeStatePlane1983, StateZoneTypeMichiganCentral).Ellipsoid, EllipsoidTypeGrs1980Iugg1980);
-}
-
-TEST(ZoneDefinitions, ObliqueAndPolyconic) {
-    PROJDATA data = defined(ProjTypeStatePlane1927, StateZoneTypeAlaska1);
-    EXPECT_EQ(+data.Type, ProjTypeHotineObliqueMercator);
-    EXPECT_EQ(position(data), (Position{0, 57, -dms(133, 40), 0, 0, 0, 818585.5672270928, 575219.2451072643, 0.9999}));
-    EXPECT_DOUBLE_EQ(+data.Alpha, -dms(36, 52, 11.6315));
-    EXPECT_EQ(bytesOf(data)[offsetof(PROJDATA, bUseAlpha)], 1);
-    EXPECT_EQ(bytesOf(data)[offsetof(PROJDATA, bRotate)], 1);
-    EXPECT_EQ(bytesOf(data)[offsetof(PROJDATA, bUOffset)], 1);
-
-    data = defined(ProjTypeStatePlane1983, StateZoneTypeGreatLakesSurvey4);
-    EXPECT_EQ(+data.Type, ProjTypeHotineObliqueMercator);
-    EXPECT_EQ(+data.Ellipsoid, EllipsoidTypeClarke1866);
-    EXPECT_EQ(position(data), (Position{0, dms(285, 41), dms(88, 50), dms(47, 12), 0, 0, 9000000, -1600000, 0.9999}));
-    EXPECT_EQ(bytesOf(data)[offsetof(PROJDATA, bRotate)], 1);
-
-    data = defined(ProjTypeStatePlane1927, StateZoneTypeGuamIsland);
-    EXPECT_EQ(+data.Type, ProjTypePolyconic);
-    EXPECT_EQ(position(data), (Position{dms(144, 44, 55.50254), dms(13, 28, 20.87887), 0, 0, 0, 0, 50000, 50000, 0}));
-}
-
 TEST(ZoneDefinitions, WhatADefinitionDoesNotNameStaysTheCallers) {
-    PROJDATA const before = request(ProjTypeStatePlane1983, StateZoneTypeVermont);
-    PROJDATA const data = defined(ProjTypeStatePlane1983, StateZoneTypeVermont);
-    EXPECT_EQ(+data.Scale, +before.Scale);
-    EXPECT_EQ(+data.Lat3, +before.Lat3);
-    EXPECT_EQ(+data.Lon3, +before.Lon3);
-    EXPECT_EQ(+data.Alpha, +before.Alpha);
-    for (std::size_t offset : {offsetof(PROJDATA, bSouth), offsetof(PROJDATA, bUseAlpha), offsetof(PROJDATA, bRotate),
-                               offsetof(PROJDATA, bUOffset)})
-        EXPECT_EQ(bytesOf(data)[offset], unset) << offset;
-    EXPECT_EQ(std::memcmp(data.Reserved, before.Reserved, sizeof data.Reserved), 0);
-    EXPECT_EQ(+data.iResult, +before.iResult);
-    // The Great Lakes zones name two flags of three, and no azimuth.
-    PROJDATA const lakes = defined(ProjTypeStatePlane1927, StateZoneTypeGreatLakesSurvey1);
-    EXPECT_EQ(bytesOf(lakes)[offsetof(PROJDATA, bUseAlpha)], unset);
+    constexpr std::size_t azimuthFlags[] = {offsetof(PROJDATA, bUseAlpha), offsetof(PROJDATA, bRotate),
+                                            offsetof(PROJDATA, bUOffset)};
+    PROJDATA const before = request(year83, StateZoneTypeVermont);
+    PROJDATA expected = defined(year83, StateZoneTypeVermont);
+    PROJDATA const alaska = defined(year83, StateZoneTypeAlaska1);
+    PROJDATA const lakes = defined(year83, StateZoneTypeGreatLakesSurvey1);
+    for (std::size_t flag : azimuthFlags) {
+        EXPECT_EQ(bytesOf(alaska)[flag], 1);
+        EXPECT_EQ(bytesOf(lakes)[flag], flag == azimuthFlags[0] ? unset : 1);
+    }
+    EXPECT_DOUBLE_EQ(+alaska.Alpha, -dms(36, 52, 11.6315));
     EXPECT_EQ(+lakes.Alpha, +before.Alpha);
+    // With the fields of the definition put back, the record is what it was.
+    expected.Type = before.Type;
+    expected.Ellipsoid = before.Ellipsoid;
+    expected.MajorRadius = before.MajorRadius;
+    expected.Flattening = before.Flattening;
+    expected.Lon0 = expected.Lat0 = expected.Lon1 = expected.Lat1 = expected.Lon2 = expected.Lat2 = before.Lat3;
+    expected.xOrg = expected.yOrg = expected.K0 = before.Lat3;
+    EXPECT_EQ(bytesOf(expected), bytesOf(before));
 }
 
-TEST(ZoneDefinitions, ZoneWithoutADefinitionIsClearedOnly) {
-    PROJDATA const data = defined(ProjTypeStatePlane1927, StateZoneTypeSouthCarolina);
-    EXPECT_EQ(+data.Zone, StateZoneTypeNone);
-    EXPECT_EQ(+data.Type, ProjTypeStatePlane1927);
-    EXPECT_EQ(position(data), Position{});
-    EXPECT_EQ(+data.MajorRadius, +request(ProjTypeStatePlane1927, StateZoneTypeNone).MajorRadius);
-}
+TEST(ZoneDefinitions, RequestThatCannotBeMetLosesItsZone) {
+    PROJDATA const none = defined(year27, StateZoneTypeSouthCarolina); // defined in 1983 only
+    EXPECT_EQ(+none.Zone, StateZoneTypeNone);
+    EXPECT_TRUE(definitionIn(none) == (Definition{year27, none.Ellipsoid, 0, 0, 0, 0, 0, 0, 0, 0}));
+    EXPECT_EQ(+none.MajorRadius, +request(year27, StateZoneTypeNone).MajorRadius);
 
-TEST(ZoneDefinitions, RecordThatAsksForNoZoneLosesItsZoneOnly) {
-    auto const refused = [](ProjType type, StateZoneType zone) {
-        PROJDATA expected = request(type, zone);
-        expected.Zone = StateZoneTypeNone;
-        return bytesOf(defined(type, zone)) == bytesOf(expected);
+    auto const losesItsZoneOnly = [](ProjType type, StateZoneType zone) {
+        return bytesOf(defined(type, zone)) == bytesOf(request(type, StateZoneTypeNone));
     };
     for (StateZoneType zone : nowhere)
-        EXPECT_TRUE(refused(ProjTypeStatePlane1983, zone)) << zone;
-    EXPECT_TRUE(refused(ProjTypeUniversalTransverseMercator, StateZoneTypeAlaska1));
-    EXPECT_TRUE(refused(ProjTypeUndefined, StateZoneTypeAlaska1));
+        EXPECT_TRUE(losesItsZoneOnly(year83, zone)) << zone;
+    EXPECT_TRUE(losesItsZoneOnly(ProjTypeUniversalTransverseMercator, StateZoneTypeAlaska1));
+    EXPECT_TRUE(losesItsZoneOnly(ProjTypeUndefined, StateZoneTypeAlaska1));
 }
 
 TEST(ZoneDefinitions, CallIsLoggedEvenForNull) {
@@ -285,17 +236,9 @@ TEST(ZoneDefinitions, CallIsLoggedEvenForNull) {
 }
 
 TEST(ZoneDefinitions, HostWithTrapsIsNotHit) {
-    std::array<unsigned char, sizeof(PROJDATA)> bytes;
-    bytes.fill(0xFF); // every double a NaN
     TrapsEnabled const host;
-    for (ProjType type : {ProjTypeStatePlane1927, ProjTypeStatePlane1983}) {
-        for (int i = 0; i < StateZoneTypeNone; ++i) {
-            PROJDATA data;
-            std::memcpy(&data, bytes.data(), sizeof data);
-            data.Type = type;
-            data.Zone = StateZoneType(i);
-            ProjGetStateZoneParams(&data);
-        }
-    }
+    for (int i = 0; i < StateZoneTypeNone; ++i)
+        for (ProjType year : {year27, year83})
+            defined(year, StateZoneType(i));
     EXPECT_TRUE(host.untouched());
 }

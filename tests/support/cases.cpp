@@ -102,6 +102,12 @@ void expectCase(ProjectionCase const& c) {
 
 } // namespace
 
+PROJDATA recordOf(std::string const& words) {
+    ProjectionCase result;
+    readRecord(std::istringstream(words), result);
+    return result.record;
+}
+
 std::vector<ProjectionCase> projectionCases(std::string const& file) {
     std::ifstream in(std::string(ZRPROJ_TEST_DATA "/") + file);
     std::vector<ProjectionCase> cases;

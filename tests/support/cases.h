@@ -22,6 +22,9 @@ struct ProjectionCase {
     std::string line;
 };
 
+/// The record that the words of a line's first field stand for.
+PROJDATA recordOf(std::string const& words);
+
 /// The cases of tests/data/`file`; a line that cannot be read is a failure of the test.
 std::vector<ProjectionCase> projectionCases(std::string const& file);
 

@@ -1,0 +1,91 @@
+// Every projection type with several sets of parameters, for the checks that sweep them all.
+#pragma once
+
+#include <zrproj/projection.h>
+
+#include <array>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace ZrProj::test {
+
+/// The types whose formulas are still to come.
+inline constexpr std::array notYet{
+    ProjTypeMercator,
+    ProjTypeAlbersEqualAreaConic,
+    ProjTypeMillerCylindrical,
+    ProjTypeLambertConformalConic,
+    ProjTypeStereographic,
+    ProjTypeOrthographic,
+    ProjTypeMollweide,
+    ProjTypePolyconic,
+    ProjTypeHotineObliqueMercator,
+    ProjTypeEquidistantCylindrical,
+    ProjTypeRobinson,
+    ProjTypeVanDerGrinten,
+    ProjTypeCassini,
+    ProjTypeSinusoidal,
+    ProjTypeLambertAzimuthalEqualArea,
+    ProjTypeBonne,
+    ProjTypeRobinsonSterling,
+    ProjTypeEckertIV,
+    ProjTypeEckertVI,
+    ProjTypeObliqueMercator,
+    ProjTypeEquidistantConic,
+    ProjTypeGnomonic,
+    ProjTypeAzimuthalEquidistant,
+};
+bool isYetToCome(ProjType type);
+
+/// A projection as the checks see it. Made with the processor level in use.
+class Projection {
+public:
+    /// `words` as in the files of tests/data, see support/cases.h.
+    explicit Projection(std::string const& words);
+
+    /// The record that conversions use: complete, a State Plane zone's own projection, Scale and K0 not 0.
+    PROJDATA const& record() const { return record_; }
+    std::string const& words() const { return words_; }
+
+    /// Converts a copy of the points; a call that fails is a failure of the test.
+    std::vector<PROJPOINT> forward(std::vector<PROJPOINT> points);
+    std::vector<PROJPOINT> inverse(std::vector<PROJPOINT> points);
+    PROJPOINT forward(PROJPOINT point) { return forward(std::vector{point}).front(); }
+    PROJPOINT inverse(PROJPOINT point) { return inverse(std::vector{point}).front(); }
+
+    bool forward(std::span<PROJPOINT> points) { return projector_.Forward(points.data(), int(points.size())); }
+    bool inverse(std::span<PROJPOINT> points) { return projector_.Inverse(points.data(), int(points.size())); }
+    bool isInRange(PROJPOINT const& point) { return projector_.LLInProjection(&point); }
+
+    /// Points all over the globe and where projections are delicate: poles, centre and antipode, the meridians
+    /// opposite to the centre and 90 degrees from it, the antimeridian, standard parallels, -0.0.
+    std::vector<PROJPOINT> samples() const;
+    /// Those of them that are in range.
+    std::vector<PROJPOINT> samplesInRange();
+
+    /// How far the map moves for a degree at a point, at most and about; infinite next to what cannot be shown.
+    double metresPerDegree(PROJPOINT const& point);
+
+    /// A length on the map that stands for `metres` on an Earth at scale 1.
+    double mapLength(double metres) const { return metres * record_.Scale * record_.MajorRadius / 6378137; }
+
+private:
+    std::string words_;
+    PROJDATA record_;
+    CProjector projector_;
+};
+
+/// The parameter sets of a type, in words.
+std::vector<std::string> parameterSets(ProjType type);
+
+/// Whether the point holds the marker.
+bool isMarked(PROJPOINT const& point);
+
+/// Degrees between two longitudes, 0 to 180.
+double longitudesApart(double a, double b);
+
+/// The types that project by themselves or through a State Plane zone: 1 to 28.
+std::vector<ProjType> projectingTypes();
+
+} // namespace ZrProj::test
