@@ -6,6 +6,9 @@
 # compilers' default), never in the "scalar" level, which is the reference; rounding is to nearest, set by
 # FloatingPointScope around every conversion.
 function(zrproj_processor_levels target prefix)
+    if(NOT ZRPROJ_SANITIZE) # sanitized formulas take the compiler a minute each with it
+        set(optimised -O3)
+    endif()
     set(levels scalar)
     set(flags_scalar -ffp-contract=off)
     if(ZRPROJ_SIMD)
@@ -24,7 +27,7 @@ function(zrproj_processor_levels target prefix)
         zrproj_warnings(${objects})
         target_include_directories(${objects} PRIVATE ${PROJECT_SOURCE_DIR}/include ${PROJECT_SOURCE_DIR}/src)
         target_compile_definitions(${objects} PRIVATE ZRPROJ_BUILDING ZRPROJ_LEVEL=${level} ZRPROJ_LEVEL_${level})
-        target_compile_options(${objects} PRIVATE -O3 -fno-math-errno ${flags_${level}})
+        target_compile_options(${objects} PRIVATE ${optimised} -fno-math-errno ${flags_${level}})
         target_sources(${target} INTERFACE $<TARGET_OBJECTS:${objects}>)
     endforeach()
 endfunction()

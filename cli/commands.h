@@ -1,0 +1,26 @@
+// The subcommands. Each adds its options to its part of the command line, and is run when it was the one given.
+#pragma once
+
+#include "cli/output.h"
+
+#include <memory>
+
+namespace CLI {
+class App;
+} // namespace CLI
+
+namespace ZrProj::Command {
+
+class Subcommand {
+public:
+    virtual ~Subcommand() = default;
+    /// Returns the exit status. Throws UsageError for options that cannot be followed.
+    virtual int run(Output& output) = 0;
+};
+
+std::unique_ptr<Subcommand> makeForward(CLI::App& app);
+std::unique_ptr<Subcommand> makeInverse(CLI::App& app);
+std::unique_ptr<Subcommand> makeList(CLI::App& app);
+std::unique_ptr<Subcommand> makeShow(CLI::App& app);
+
+} // namespace ZrProj::Command

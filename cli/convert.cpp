@@ -1,0 +1,102 @@
+// zrproj forward and zrproj inverse: the options that they share.
+#include "cli/commands.h"
+#include "cli/conversion.h"
+#include "cli/number_field.h"
+#include "cli/projection_options.h"
+#include "cli/text.h"
+#include "cli/units.h"
+#include "cli/usage_error.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cmath>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr int mostDecimals = 15;
+constexpr int metreDecimals = 3;  // millimetres
+constexpr int degreeDecimals = 9; // a tenth of a millimetre, so that the way there and back keeps the millimetre
+
+class Convert : public Subcommand {
+public:
+    Convert(CLI::App& app, Direction direction);
+    int run(Output& output) override;
+
+private:
+    LengthUnit const* unit() const;
+    int decimals() const;
+    ColumnRequest columns(ProjectionChoice const& projection) const;
+
+    Direction m_direction;
+    ProjectionOptions m_projection;
+    std::vector<std::string> m_files;
+    std::string m_columns, m_units, m_precision;
+    bool m_strict = false;
+};
+
+Convert::Convert(CLI::App& app, Direction direction) : m_direction(direction) {
+    auto const add = [&](char const* name, std::string& text, char const* type, char const* description) {
+        app.add_option(name, text, description)->type_name(type)->group("Input and output");
+    };
+    app.add_option("FILE", m_files, "Files of points; standard input where none is given, and for -")->option_text(" ");
+    m_projection.addTo(app);
+    add("--columns", m_columns, "X,Y", "Columns of the coordinates, x first: numbers from 1, or names of the header");
+    add("--units", m_units, "UNIT", "Unit of projected coordinates: m (the default), ft or us-ft");
+    add("--precision", m_precision, "N", "Decimals of the result, 0 to 15 (3 for lengths, 9 for degrees)");
+    app.add_flag("--strict", m_strict, "Status 1 also when a point cannot be converted, or not well")
+        ->disable_flag_override()
+        ->group("Input and output");
+    m_projection.addParametersTo(app);
+}
+
+LengthUnit const* Convert::unit() const {
+    if (m_units.empty())
+        return nullptr;
+    LengthUnit const* const unit = findLengthUnit(m_units);
+    if (!unit)
+        throw UsageError("--units: " + inQuotes(m_units) + " is none of m, ft and us-ft");
+    return unit;
+}
+
+int Convert::decimals() const {
+    if (m_precision.empty())
+        return m_direction == Direction::Forward ? metreDecimals : degreeDecimals;
+    Reading const number = readNumber(m_precision);
+    if (number.error || !(number.value >= 0 && number.value <= mostDecimals) ||
+        number.value != std::floor(number.value))
+        throw UsageError("--precision: " + inQuotes(m_precision) + " is not a whole number from 0 to 15");
+    return static_cast<int>(number.value);
+}
+
+ColumnRequest Convert::columns(ProjectionChoice const& projection) const {
+    bool const zone = projection.zonePerPoint && m_direction == Direction::Inverse;
+    ColumnRequest request{m_direction, {}, unit(), zone};
+    if (!m_columns.empty())
+        request.columns = parseColumns(m_columns, zone);
+    return request;
+}
+
+int Convert::run(Output& output) {
+    ProjectionChoice const projection = m_projection.choice();
+    ConversionJob job{projection, columns(projection), decimals(), m_strict, m_files};
+    if (job.files.empty())
+        job.files.emplace_back("-");
+    return Conversion(std::move(job), output).run();
+}
+
+} // namespace
+
+std::unique_ptr<Subcommand> makeForward(CLI::App& app) {
+    app.footer(R"(Example: the places of a spreadsheet export, in feet, in new columns
+  zrproj forward --state-plane "Arizona Central" --units ft places.csv)");
+    return std::make_unique<Convert>(app, Direction::Forward);
+}
+
+std::unique_ptr<Subcommand> makeInverse(CLI::App& app) {
+    app.footer(R"(Example: one point
+  echo 630084.301 4833438.586 | zrproj inverse --utm 17N)");
+    return std::make_unique<Convert>(app, Direction::Inverse);
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,59 @@
+// The options that say which projection: by its parameters, or by a UTM or State Plane zone.
+#pragma once
+
+#include <zrproj/zrproj.h>
+
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace CLI {
+class App;
+class Option;
+} // namespace CLI
+
+namespace ZrProj::Command {
+
+/// The projection that a command line asks for.
+struct ProjectionChoice {
+    PROJDATA record = {};
+    bool zonePerPoint = false; // --utm auto: UTM, the zone being each point's own
+};
+
+class ProjectionOptions {
+public:
+    ProjectionOptions();
+
+    /// Add the options to a subcommand: those that name a projection, and those of its parameters. This object must
+    /// stay where it is until they were parsed.
+    void addTo(CLI::App& app);
+    void addParametersTo(CLI::App& app);
+
+    /// What the options say, checked. Throws UsageError when they are no usable projection.
+    ProjectionChoice choice() const;
+
+private:
+    struct Value {
+        int id;
+        CLI::Option* option = nullptr;
+        std::string text;
+    };
+
+    void startFrom(ProjectionChoice& choice) const;
+    void startFromUtm(ProjectionChoice& choice) const;
+    ProjType givenProjection() const;
+    Value const& value(int id) const { return m_values[static_cast<std::size_t>(id - 1)]; }
+    bool given(int id) const;
+    std::optional<int> year() const;
+    void refuseUnused(ProjType type) const;
+    void setEllipsoid(PROJDATA& record) const;
+    void setValues(PROJDATA& record) const;
+
+    std::vector<Value> m_values; // one a catalogue parameter, in catalogue order
+    CLI::Option* m_utmOption = nullptr;
+    CLI::Option* m_statePlaneOption = nullptr;
+    CLI::Option* m_yearOption = nullptr;
+    std::string m_utm, m_statePlane, m_year;
+};
+
+} // namespace ZrProj::Command

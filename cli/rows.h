@@ -1,0 +1,76 @@
+// Lines with a point: taken apart, and written with the result.
+#pragma once
+
+#include "cli/layout.h"
+#include "cli/line_reader.h"
+#include "cli/output.h"
+#include "cli/transform.h"
+
+#include <cstdint>
+#include <string>
+#include <vector>
+
+namespace ZrProj::Command {
+
+/// Where a field stands that a line does not have.
+inline constexpr Field missingField{UINT32_MAX, UINT32_MAX};
+
+/// A line on its way from the input to the output. The texts are the reader's.
+struct Row {
+    InputLine line;
+    std::uint64_t number = 0;
+    bool verbatim = false; // a comment or an empty line
+    std::size_t fields = 0;
+    Field x = missingField, y = missingField; // where the coordinates stand
+};
+
+/// What a line's point reads as.
+struct RowPoint {
+    BlockPoint point;
+    std::string fault; // why it is Unread
+};
+
+class RowReader {
+public:
+    RowReader(Layout const& layout, ColumnRequest const& request)
+        : m_layout(layout), m_direction(request.direction), m_zone(request.zone) {}
+
+    /// Finds a line's fields, sets where its coordinates stand, and reads them.
+    RowPoint read(Row& row);
+
+private:
+    std::string_view text(Row const& row, int column);
+    std::string countFault(Row const& row) const;
+    bool takeCoordinate(Row const& row, bool isX, RowPoint& result);
+    void readZone(Row const& row, RowPoint& result);
+
+    Layout m_layout;
+    Direction m_direction;
+    bool m_zone; // whether a zone is to be read
+    std::vector<Field> m_fields;
+    std::string m_scratch;
+};
+
+class RowWriter {
+public:
+    /// zones: whether the result has a zone beside the coordinates.
+    RowWriter(Output& output, Direction direction, int decimals, bool zones)
+        : m_output(output), m_direction(direction), m_decimals(decimals), m_zones(zones) {}
+
+    /// The header with the names of the new columns; `unit` is that of projected coordinates.
+    std::string header(std::string_view line, Layout const& layout, LengthUnit const& unit) const;
+    void write(Row const& row, Layout const& layout, BlockPoint const& result);
+
+private:
+    void replace(Row const& row, Layout const& layout, BlockPoint const& result);
+    void append(Row const& row, Layout const& layout, BlockPoint const& result);
+    void number(double value, PointState state);
+    void zone(Layout const& layout, BlockPoint const& result);
+
+    Output& m_output;
+    Direction m_direction;
+    int m_decimals;
+    bool m_zones;
+};
+
+} // namespace ZrProj::Command

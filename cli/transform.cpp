@@ -1,0 +1,90 @@
+#include "cli/transform.h"
+
+#include <algorithm>
+#include <numeric>
+
+namespace ZrProj::Command {
+namespace {
+
+void scale(std::vector<PROJPOINT>& points, double factor) {
+    if (factor == 1)
+        return;
+    for (PROJPOINT& point : points)
+        point = {point.x * factor, point.y * factor};
+}
+
+} // namespace
+
+void PointBlock::clear() {
+    points.clear();
+    states.clear();
+    zones.clear();
+}
+
+void PointBlock::add(BlockPoint const& point) {
+    points.push_back(point.point);
+    states.push_back(point.state);
+    zones.push_back(point.zone);
+}
+
+Transform::Transform(ProjectionChoice const& choice, Direction direction) : m_choice(choice), m_direction(direction) {
+    converter(0);
+}
+
+PointConverter& Transform::converter(UtmZone zone) {
+    auto& result = m_converters[static_cast<std::size_t>(zone)];
+    if (!result) {
+        PROJDATA record = m_choice.record;
+        if (m_choice.zonePerPoint)
+            setUtmZone(record, zone);
+        result = std::make_unique<PointConverter>(record);
+    }
+    return *result;
+}
+
+void Transform::convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states) {
+    if (points.empty())
+        return;
+    if (m_direction == Direction::Forward)
+        converter(zone).forward(points, states);
+    else
+        converter(zone).inverse(points, states);
+}
+
+/// Sorts the points by zone, converts each zone's, and puts the results back in the points' order.
+void Transform::runByZone(PointBlock& block) {
+    if (m_direction == Direction::Forward)
+        std::transform(block.points.begin(), block.points.end(), block.zones.begin(), utmZoneOf);
+    std::vector<std::size_t> order(block.points.size());
+    std::iota(order.begin(), order.end(), std::size_t{0});
+    std::sort(order.begin(), order.end(), [&](auto a, auto b) { return block.zones[a] < block.zones[b]; });
+    m_sorted.clear();
+    for (std::size_t from : order)
+        m_sorted.add(block[from]);
+    for (std::size_t begin = 0; begin < order.size();) {
+        UtmZone const zone = m_sorted.zones[begin];
+        std::size_t end = begin;
+        while (end < order.size() && m_sorted.zones[end] == zone)
+            ++end;
+        convert(zone, std::span(m_sorted.points).subspan(begin, end - begin),
+                std::span(m_sorted.states).subspan(begin, end - begin));
+        begin = end;
+    }
+    for (std::size_t i = 0; i < order.size(); ++i) {
+        block.points[order[i]] = m_sorted.points[i];
+        block.states[order[i]] = m_sorted.states[i];
+    }
+}
+
+void Transform::run(PointBlock& block, LengthUnit const& unit) {
+    if (m_direction == Direction::Inverse)
+        scale(block.points, unit.metres);
+    if (m_choice.zonePerPoint)
+        runByZone(block);
+    else
+        convert(0, block.points, block.states);
+    if (m_direction == Direction::Forward)
+        scale(block.points, 1 / unit.metres);
+}
+
+} // namespace ZrProj::Command

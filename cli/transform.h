@@ -1,0 +1,51 @@
+// Blocks of points through the projection that the user chose, or each through its own UTM zone.
+#pragma once
+
+#include "cli/header.h"
+#include "cli/point_converter.h"
+#include "cli/projection_options.h"
+#include "cli/utm_zone.h"
+
+#include <array>
+#include <memory>
+#include <vector>
+
+namespace ZrProj::Command {
+
+/// A point on its way through a transform.
+struct BlockPoint {
+    PROJPOINT point{};
+    PointState state = PointState::Unread;
+    UtmZone zone = 0; // where each point has its own; told for Inverse, found for Forward
+};
+
+struct PointBlock {
+    std::vector<PROJPOINT> points;
+    std::vector<PointState> states;
+    std::vector<UtmZone> zones;
+
+    void clear();
+    void add(BlockPoint const& point);
+    BlockPoint operator[](std::size_t i) const { return {points[i], states[i], zones[i]}; }
+};
+
+class Transform {
+public:
+    /// Throws UsageError when the projection cannot convert.
+    Transform(ProjectionChoice const& choice, Direction direction);
+
+    /// Converts a block in place; `unit` is that of projected coordinates.
+    void run(PointBlock& block, LengthUnit const& unit);
+
+private:
+    void convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states);
+    PointConverter& converter(UtmZone zone);
+    void runByZone(PointBlock& block);
+
+    ProjectionChoice m_choice;
+    Direction m_direction;
+    std::array<std::unique_ptr<PointConverter>, utmZones> m_converters; // the first one only, without zones
+    PointBlock m_sorted;
+};
+
+} // namespace ZrProj::Command
