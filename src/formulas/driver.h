@@ -112,7 +112,7 @@ template <class P, class Direction>
 /// unplottable, or to fail the call, or to be good (a register may overflow where `double` does not).
 template <class P, class Direction>
 [[gnu::noinline]] PROJPOINT convertAlone(Converter const& frame, P const& formula, PROJPOINT point, Outcome& outcome) {
-    if (isMarked(point))
+    if (isMarked(point) && isFinite(Pair<double>{point.x, point.y}))
         return point;
     auto const in = Direction::enter(frame, Pair<double>{point.x, point.y});
     Pair<double> out{unplottable, unplottable};
@@ -176,10 +176,8 @@ template <class P, class Direction>
 Outcome convertArray(Converter const& converter, PROJPOINT* points, int count) noexcept {
     P const& formula = *std::launder(reinterpret_cast<P const*>(converter.constants));
     Outcome outcome;
-    for (int done = 0; done < count; done += blockPoints) {
-        int const left = count - done;
-        convertBlock<P, Direction>(converter, formula, points + done, left < blockPoints ? left : blockPoints, outcome);
-    }
+    for (; count > 0; points += blockPoints, count -= blockPoints)
+        convertBlock<P, Direction>(converter, formula, points, count < blockPoints ? count : blockPoints, outcome);
     return outcome;
 }
 

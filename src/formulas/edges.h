@@ -13,6 +13,11 @@ inline double longitudeDifference(double lon0, double lon) {
     return std::remainder(lon - lon0, 360.0);
 }
 
+/// Whether all angles are latitudes, `quarterTurn` being 90 degrees in their unit.
+template <class... Angles> bool areLatitudes(double quarterTurn, Angles... angles) {
+    return ((std::fabs(angles) <= quarterTurn) && ...);
+}
+
 /// The in-range test of a projection that shows the whole globe.
 inline bool isAnywhere(PROJDATA const&, PROJPOINT const&) noexcept {
     return true;

@@ -91,24 +91,38 @@ template <class R> [[gnu::always_inline]] inline R acos(R x) {
     return atan2(sqrt((1.0 - x) * (1.0 + x)), x);
 }
 
-/// e^x; 0 below -745 and infinite above 710. 1.1 ulp.
-template <class R> [[gnu::always_inline]] inline R exp(R x) {
+/// e^x as 2^n (1 + excess), for x between -746 and 710.
+template <class R> struct ExpParts { R shifted, n, excess; }; // shifted: n plus the number that leaves it in low bits
+
+template <class R> [[gnu::always_inline]] inline ExpParts<R> expParts(R x) {
     constexpr double fit[] = {0.5000000000000001,     0.16666666666666669,    0.041666666666623824,
                               0.008333333333330039,   0.0013888888917367081,  0.00019841269863171557,
                               2.4801521057868204e-05, 2.7557268276905696e-06, 2.7620201591031547e-07,
                               2.5100472505694996e-08};
     constexpr double magic = 0x1.8p52;
-    R const bounded = select(x < -746.0, R(-746.0), select(x > 710.0, R(710.0), x));
-    R const shifted = bounded * (1 / std::numbers::ln2) + magic;
+    R const shifted = x * (1 / std::numbers::ln2) + magic;
     R const n = shifted - magic;
-    R const r = (bounded - n * 0.6931471804855391) - n * 7.440617110012397e-11;
-    R const mantissa = 1.0 + (r + r * r * polynomial(r, fit));
+    R const r = (x - n * 0.6931471804855391) - n * 7.440617110012397e-11;
+    return {shifted, n, r + r * r * polynomial(r, fit)};
+}
+
+/// e^x; 0 below -745 and infinite above 710. 1.1 ulp.
+template <class R> [[gnu::always_inline]] inline R exp(R x) {
+    constexpr double magic = 0x1.8p52;
+    auto const parts = expParts(select(x < -746.0, R(-746.0), select(x > 710.0, R(710.0), x)));
     // 2^n in two factors, since n can be beyond the exponents of normal numbers.
     auto const power = [](R k) { return fromBits((bitsOf(k + magic) + 1023) << 52); };
-    R const half = (0.5 * n + magic) - magic;
-    return select(
-        x != x, x,
-        select(x > 709.8, R(std::numeric_limits<double>::infinity()), mantissa * power(half) * power(n - half)));
+    R const half = (0.5 * parts.n + magic) - magic;
+    return select(x != x, x,
+                  select(x > 709.8, R(std::numeric_limits<double>::infinity()),
+                         (1.0 + parts.excess) * power(half) * power(parts.n - half)));
+}
+
+/// e^x - 1, for x up to 709. 2.3 ulp.
+template <class R> [[gnu::always_inline]] inline R expm1(R x) {
+    auto const parts = expParts(select(x < -60.0, R(-60.0), x));
+    R const power = fromBits((bitsOf(parts.shifted) + 1023) << 52);
+    return power * parts.excess + (power - 1.0);
 }
 
 /// Natural logarithm. 1.1 ulp. -infinity for 0, as a division by zero where `double` looks at the flags; infinity for
@@ -133,6 +147,26 @@ template <class R> R log(R x) {
     R const raised = log(select(subnormal, x * 0x1p54, R(1.0))) - 54 * std::numbers::ln2;
     R const pole = -1.0 / abs(select(zero, x, R(1.0)));
     return select(regular, result, select(subnormal, raised, select(zero, pole, select(x > 0.0, x, R(unplottable)))));
+}
+
+/// log(1 + x), for x above -1. 1.6 ulp.
+template <class R> [[gnu::always_inline]] inline R log1p(R x) {
+    R const sum = 1.0 + x;
+    return log(sum) + (x - (sum - 1.0)) / sum;
+}
+
+/// Cube root; 0 for 0, without meaning for subnormal numbers. 1.2 ulp.
+template <class R> R cbrt(R x) {
+    // r = 1 / cbrt(|x|): within 4 % by taking a third of the bits off, then two steps of the fourth order.
+    R const size = abs(x);
+    R const third = (fromBits((bitsOf(size) >> 12) | 0x4330000000000000) - 0x1p52) / 3.0;
+    R r = fromBits(bitsOf(0x1.54fba5e353f7cp50 - third + 0x1p52) << 12);
+    for (int i = 0; i < 2; ++i) {
+        R const h = 1.0 - size * r * r * r;
+        r = r + r * h * (1.0 / 3 + h * (2.0 / 9 + h * (14.0 / 81)));
+    }
+    R const root = size * r * r;
+    return copySign(root + (size - root * root * root) * r * r / 3.0, x);
 }
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

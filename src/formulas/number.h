@@ -45,6 +45,11 @@ inline double fromBits(std::uint64_t bits) {
     return std::bit_cast<double>(bits);
 }
 
+/// table[index] of each lane; `index` a whole number.
+inline double lookUp(double const* table, double index) {
+    return table[static_cast<std::size_t>(index)];
+}
+
 #if defined(ZRPROJ_LEVEL_scalar)
 
 using Register = double;
@@ -133,6 +138,11 @@ inline Bits bitsOf(Register x) {
 }
 inline Register fromBits(Bits bits) {
     return Register(xsimd::bitwise_cast<xsimd::batch<double, Architecture>>(bits.v));
+}
+inline Register lookUp(double const* table, Register index) {
+    auto const bits = bitsOf(index + 0x1p52) & 0xFFFFFFFF;
+    auto const whole = xsimd::bitwise_cast<xsimd::batch<std::int64_t, Architecture>>(bits.v);
+    return Register(xsimd::batch<double, Architecture>::gather(table, whole));
 }
 inline Register copySign(Register magnitude, Register sign) {
     Register const negativeZero = -0.0;

@@ -18,6 +18,9 @@
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
 
+/// Where a sine stops meaning anything, radians: a map point that far north is nowhere.
+constexpr double greatestAngle = 1e15;
+
 /// The meridian distance in units of the semi-major axis, (3-21).
 struct MeridianSeries {
     double a0, a2, a4, a6; // coefficients of phi, -sin 2 phi, sin 4 phi, -sin 6 phi
@@ -67,7 +70,9 @@ struct Ellipsoidal {
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
-        R const mu = (m0 + p.y * perMetre) * muPerM; // (8-20), (7-19)
+        R const anyMu = (m0 + p.y * perMetre) * muPerM; // (8-20), (7-19)
+        auto const wild = abs(anyMu) > greatestAngle;
+        R const mu = select(wild, R(0.0), anyMu);
         R const phi1 = footpoint(mu);
         auto const at = sinCos(phi1);
         R const sec = 1.0 / at.cos, tan = at.sin * sec;
@@ -81,7 +86,7 @@ struct Ellipsoidal {
             phi1 - curvature * tan * D2 * (0.5 - D2 * (phi4 * (1 / 24.0) - D2 * phi6 * (1 / 720.0))); // (8-17)
         R const lambda5 = 5.0 - 2.0 * C1 + 28.0 * T1 - 3.0 * C1 * C1 + 8 * ep2 + 24.0 * T1 * T1;
         R const lambda = D * (1.0 - D2 * ((1.0 + 2.0 * T1 + C1) * (1 / 6.0) - D2 * lambda5 * (1 / 120.0))) * sec;
-        return {lambda0 + lambda, phi}; // (8-18)
+        return {lambda0 + lambda, select(wild, R(unplottable), phi)}; // (8-18)
     }
 
     /// The latitude on the central meridian that lies as far north as the point, (3-26).
@@ -112,11 +117,12 @@ struct Spherical {
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
         R const u = p.x / radius;
-        auto const D = sinCos(p.y / radius + phi0); // (8-8)
-        R const up = exp(u), down = 1.0 / up;
-        R const sine = 2.0 * D.sin / (up + down);
-        R const phi = asin(select(abs(sine) > 1.0, copySign(R(1.0), sine), sine)); // (8-6)
-        return {lambda0 + atan(0.5 * (up - down) / D.cos), phi};                   // (8-7)
+        R const anyD = p.y / radius + phi0; // (8-8)
+        auto const wild = abs(anyD) > greatestAngle;
+        auto const D = sinCos(select(wild, R(0.0), anyD));
+        R const up = exp(u), sinh = 0.5 * (up - 1.0 / up);
+        R const phi = atan2(D.sin, sqrt(sinh * sinh + D.cos * D.cos)); // (8-6), without its loss near the poles
+        return {lambda0 + atan(sinh / D.cos), select(wild, R(unplottable), phi)}; // (8-7)
     }
 };
 

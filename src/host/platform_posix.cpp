@@ -25,10 +25,11 @@ namespace {
     onModuleEnd();
 }
 
-/// A name in a directory that others may write to can be prepared by them: as a link to somebody's file, or as a pipe.
-bool isPlainUnlinkedFile(int descriptor) {
+/// A name in a directory that others may write to can be prepared by them: as a link to somebody's file, as a pipe, or
+/// as a file of theirs to read along in.
+bool isPlainFileOfOurs(int descriptor) {
     struct stat info = {};
-    return fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode) && info.st_nlink == 1;
+    return fstat(descriptor, &info) == 0 && S_ISREG(info.st_mode) && info.st_nlink == 1 && info.st_uid == geteuid();
 }
 
 } // namespace
@@ -60,7 +61,7 @@ void appendToFile(char const* fileName, std::string_view text) noexcept {
     if (descriptor < 0)
         return;
     // One write, so that lines of several processes stay whole.
-    if (isPlainUnlinkedFile(descriptor))
+    if (isPlainFileOfOurs(descriptor))
         static_cast<void>(!write(descriptor, text.data(), text.size()));
     close(descriptor);
 }

@@ -37,11 +37,11 @@ bool completeEllipsoid(PROJDATA& data) noexcept {
         return true;
     }
     LogPrintf("Have user-defined ellipsoid.\n");
-    if (!(data.MajorRadius > 0)) {
+    if (!withDefaultFloatingPoint([&] { return data.MajorRadius > 0; })) {
         LogPrintf("Bad ellipsoid radius!\n");
         return inconsistent();
     }
-    if (!(data.Flattening >= 0 && data.Flattening < 1)) {
+    if (!withDefaultFloatingPoint([&] { return data.Flattening >= 0 && data.Flattening < 1; })) {
         LogPrintf("Bad ellipsoid flattening!\n");
         return inconsistent();
     }
@@ -108,7 +108,7 @@ constexpr Direction inverse{&formulas::Converter::inverse, "Inverse projection f
 
 /// A handle whose type computes nothing: unprojected, undefined, or without a formula.
 bool convertNothing(PROJDATA& record, std::span<PROJPOINT> points) noexcept {
-    record.iResult = markNotFinite(points) ? 1 : 0;
+    record.iResult = withDefaultFloatingPoint([&] { return markNotFinite(points); }) ? 1 : 0;
     return record.Type == ProjTypeUnprojectedLatLong || inconsistent();
 }
 
@@ -150,19 +150,21 @@ void* ProjCreateProjection(PROJDATA* data) {
         LogPrintf("Invalid parameter error:  \"%s\"\n", message);
         return nullptr;
     }
-    FloatingPointScope const scope;
     if (data->Type != ProjTypeUnprojectedLatLong && !completeEllipsoid(*data))
         return nullptr;
-    if (data->Type == ProjTypeUniversalTransverseMercator)
-        completeUtm(*data);
     std::unique_ptr<ProjectionBlock> block(new (std::nothrow) ProjectionBlock);
     if (!block) {
         inconsistent();
         return nullptr;
     }
-    block->record = *data;
-    completeScales(block->record);
-    prepare(*block);
+    {
+        FloatingPointScope const scope;
+        if (data->Type == ProjTypeUniversalTransverseMercator)
+            completeUtm(*data);
+        block->record = *data;
+        completeScales(block->record);
+        prepare(*block);
+    }
     logRecord(&block->record);
     LogPrintf("ProjCreateProjection:  Returning HPROJ of %p\n", static_cast<void*>(&block->record));
     return &block.release()->record;
@@ -213,7 +215,8 @@ bool ProjLLInProjection(void* handle, PROJPOINT const* point) {
 }
 
 bool ProjLLOffsetSplitObject(void* handle, PROJPOINT const* points, unsigned count, double* out1, double* out2) {
-    LogPrintf("ProjLLOffsetSplitObject(hProj=%p, pPts=%p, nPts=%u)\n", handle, static_cast<void const*>(points), count);
+    LogPrintf("ProjLLOffsetSplitObject(hProj=%p, pPts=%p, nPts=%u, pOut1=%p, pOut2=%p)\n", handle,
+              static_cast<void const*>(points), count, static_cast<void*>(out1), static_cast<void*>(out2));
     if (!handle || !points || count == 0 || !out1 || !out2)
         return false;
     auto const& block = ProjectionBlock::of(handle);

@@ -20,7 +20,10 @@ constinit ElementaryProbe const elementaryProbe{
     run<decltype([](Register x, Register) { return asin(x); })>,
     run<decltype([](Register x, Register) { return acos(x); })>,
     run<decltype([](Register x, Register) { return exp(x); })>,
+    run<decltype([](Register x, Register) { return expm1(x); })>,
     run<decltype([](Register x, Register) { return log(x); })>,
+    run<decltype([](Register x, Register) { return log1p(x); })>,
+    run<decltype([](Register x, Register) { return cbrt(x); })>,
 };
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

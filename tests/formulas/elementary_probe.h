@@ -7,7 +7,7 @@ namespace ZrProj::formulas {
 
 struct ElementaryProbe {
     using Function = void (*)(double const* x, double const* y, double* result, int count);
-    Function sin, cos, atan2, asin, acos, exp, log;
+    Function sin, cos, atan2, asin, acos, exp, expm1, log, log1p, cbrt;
 };
 
 namespace scalar {

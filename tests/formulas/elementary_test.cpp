@@ -61,9 +61,17 @@ Card const cards[] = {
     {&ElementaryProbe::acos, [](long double x, long double) { return std::acos(x); }, -1, 1, 2.5},
     {&ElementaryProbe::exp, [](long double x, long double) { return std::exp(x); }, -700, 700, 1.1},
     {&ElementaryProbe::exp, [](long double x, long double) { return std::exp(x); }, -2, 2, 1.1},
+    {&ElementaryProbe::expm1, [](long double x, long double) { return std::expm1(x); }, -2, 2, 2.3},
+    {&ElementaryProbe::expm1, [](long double x, long double) { return std::expm1(x); }, -1e-9, 1e-9, 2.3},
+    {&ElementaryProbe::expm1, [](long double x, long double) { return std::expm1(x); }, -700, 700, 2.3},
     {&ElementaryProbe::log, [](long double x, long double) { return std::log(x); }, 0.5, 2, 1.1},
     {&ElementaryProbe::log, [](long double x, long double) { return std::log(x); }, 0, 1e200, 1.1},
     {&ElementaryProbe::log, [](long double x, long double) { return std::log(x); }, 0, 2e-308, 1.1},
+    {&ElementaryProbe::log1p, [](long double x, long double) { return std::log1p(x); }, -1, 2, 1.6},
+    {&ElementaryProbe::log1p, [](long double x, long double) { return std::log1p(x); }, -1e-9, 1e-9, 1.6},
+    {&ElementaryProbe::log1p, [](long double x, long double) { return std::log1p(x); }, 0, 1e17, 1.6},
+    {&ElementaryProbe::cbrt, [](long double x, long double) { return std::cbrt(x); }, -10, 10, 1.2},
+    {&ElementaryProbe::cbrt, [](long double x, long double) { return std::cbrt(x); }, 1e-300, 1e300, 1.2},
 };
 
 /// The function of one pair, at the level.
@@ -109,6 +117,7 @@ TEST(Elementary, IsExactWhereSingularPointsAreTested) {
         EXPECT_EQ(at(level, &ElementaryProbe::acos, -1), 2 * halfPi);
         EXPECT_EQ(at(level, &ElementaryProbe::exp, 0), 1);
         EXPECT_EQ(at(level, &ElementaryProbe::log, 1), 0);
+        EXPECT_EQ(at(level, &ElementaryProbe::cbrt, 0), 0);
     });
 }
 

@@ -198,7 +198,12 @@ TEST(Conversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
     test::forEachLevel([](formulas::Level) {
         Handle const utm(utm17());
         auto const good = forward(utm.handle, -80.5, 33);
-        for (auto const& bad : {PROJPOINT{notANumber, 1}, {1, notANumber}, {infinity, 1}, {-80, -infinity}}) {
+        for (auto const& bad : {PROJPOINT{notANumber, 1},
+                                {1, notANumber},
+                                {infinity, 1},
+                                {-80, -infinity},
+                                {notANumber, DBL_MAX},
+                                {DBL_MAX, infinity}}) {
             for (auto const convert : {ProjForward, ProjInverse}) {
                 PROJPOINT points[] = {{-80.5, 33}, bad, {-80.5, 33}};
                 EXPECT_TRUE(convert(utm.handle, points, 3));
@@ -272,6 +277,9 @@ TEST(Conversion, AgreesBetweenLevels) {
 TEST(Conversion, FailsTheCallOnAnArithmeticException) {
     test::forEachLevel([](formulas::Level) {
         Handle const utm(utm17());
+        PROJPOINT north[] = {{500000, 1e24}, {500000, 1e50}}; // too far to mean an angle, but no exception
+        EXPECT_TRUE(ProjInverse(utm.handle, north, 2));
+        EXPECT_TRUE(isMarked(north[0]) && isMarked(north[1]));
         PROJPOINT points[] = {{500000, 1e6}, {1e300, 1e300}, {500000, 2e6}};
         EXPECT_FALSE(ProjInverse(utm.handle, points, 3));
         EXPECT_EQ(ProjResult(utm.handle), 1);
@@ -284,8 +292,10 @@ TEST(Conversion, FailsTheCallOnAnArithmeticException) {
 TEST(Conversion, IsNotHitByTheHostsTraps) {
     PROJDATA record = utm17();
     Handle const utm(record);
-    Handle const sphere(recordOf(ProjTypeTransverseMercator));
-    double const inputs[] = {5e-324, -5e-324, 1e-310, infinity, notANumber, DBL_MAX, 1e300, 0, -81 + 1e-300};
+    Handle const plain(recordOf(ProjTypeUnprojectedLatLong));
+    double const signalling = std::numeric_limits<double>::signaling_NaN();
+    double const inputs[] = {signalling, 5e-324,  -5e-324, 1e-310, infinity,
+                             notANumber, DBL_MAX, 1e300,   0,      -81 + 1e-300};
     std::vector<PROJPOINT> points;
     for (double const x : inputs)
         for (double const y : inputs)
@@ -295,6 +305,7 @@ TEST(Conversion, IsNotHitByTheHostsTraps) {
     bool untouched = false;
     {
         TrapsEnabled const traps;
+        ProjForward(plain.handle, std::vector(points).data(), count);
         ProjForward(utm.handle, points.data(), count);
         ProjInverse(utm.handle, again.data(), count);
         double out1, out2;

@@ -12,18 +12,28 @@ inline char const* nameOf(formulas::Level level) {
     return names[static_cast<int>(level)];
 }
 
+/// Holds a level in use while it lives.
+class LevelScope {
+public:
+    explicit LevelScope(formulas::Level level) { formulas::useLevel(level); }
+    ~LevelScope() { formulas::useLevel(before_); }
+    LevelScope(LevelScope const&) = delete;
+    LevelScope& operator=(LevelScope const&) = delete;
+
+private:
+    formulas::Level before_ = formulas::levelInUse();
+};
+
 /// Calls `check(level)` with each available level in use, and puts the first level back.
 template <class Check> void forEachLevel(Check const& check) {
-    auto const before = formulas::levelInUse();
     for (auto const level :
          {formulas::Level::scalar, formulas::Level::baseline, formulas::Level::avx2, formulas::Level::avx512}) {
         if (!formulas::isAvailable(level))
             continue;
         SCOPED_TRACE(nameOf(level));
-        formulas::useLevel(level);
+        LevelScope const scope(level);
         check(level);
     }
-    formulas::useLevel(before);
 }
 
 } // namespace ZrProj::test

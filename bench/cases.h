@@ -1,0 +1,33 @@
+// What is measured: a record or two of every projection type.
+#pragma once
+
+#include <zrproj/projection.h>
+
+#include <span>
+
+namespace ZrProj::bench {
+
+/// The names are those of PROJDATA.
+struct Parameters {
+    double lon0 = 0, lat0 = 0, lat1 = 0, lat2 = 0, lon1 = 0, lon2 = 0, k0 = 0, alpha = 0;
+};
+
+/// Degrees.
+struct Box {
+    double west, east, south, north;
+};
+
+struct Case {
+    char const* name;
+    ProjType type;
+    EllipsoidType ellipsoid;
+    Parameters parameters;
+    Box box;          // where the points lie: inside the usable area
+    char const* proj; // the definition that means the same to PROJ
+
+    PROJDATA record() const;
+};
+
+std::span<Case const> cases();
+
+} // namespace ZrProj::bench

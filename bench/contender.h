@@ -1,0 +1,27 @@
+// Who is measured.
+#pragma once
+
+#include "cases.h"
+
+#include <functional>
+#include <string>
+#include <vector>
+
+namespace ZrProj::bench {
+
+struct Contender {
+    using Convert = std::function<void(PROJPOINT* points, int count)>; // in place
+
+    std::string name;
+    bool isOurs = false;
+    double degree = 1; // how it writes a degree
+    Convert forward, inverse;
+};
+
+/// zrproj at every processor level that this machine has; empty where the type has no formula.
+std::vector<Contender> zrprojContenders(Case const& definition);
+std::vector<Contender> projContenders(Case const& definition);
+/// Empty where GeographicLib does not have the projection.
+std::vector<Contender> geographicLibContenders(Case const& definition);
+
+} // namespace ZrProj::bench

@@ -1,0 +1,134 @@
+// Every projection, both ways, for single points, short arrays and long ones, at each processor level and beside other
+// libraries. A closing table sets zrproj's best level beside each of the others.
+#include "table.h"
+
+#include <cmath>
+#include <cstdio>
+#include <ctime>
+#include <random>
+
+using namespace ZrProj;
+using namespace ZrProj::bench;
+
+namespace {
+
+using Points = std::vector<PROJPOINT>;
+
+constexpr int longest = 1 << 20;
+constexpr int counts[] = {1, 100, longest};
+constexpr int atLeast = 1 << 14; // points between two readings of the clock
+
+Points geographicPoints(Box const& box, double degree) {
+    std::mt19937_64 random(1);
+    std::uniform_real_distribution<double> lon(box.west, box.east), lat(box.south, box.north);
+    Points points(longest);
+    for (auto& point : points)
+        point = {degree * lon(random), degree * lat(random)};
+    return points;
+}
+
+/// What a contender starts from; kept until another one, or the other direction, asks.
+Points const& sourceOf(Case const& definition, Contender const& contender, bool inverse) {
+    static Contender const* owner = nullptr;
+    static bool isInverse = false;
+    static Points points;
+    if (owner != &contender || isInverse != inverse) {
+        points = geographicPoints(definition.box, contender.degree);
+        if (inverse)
+            contender.forward(points.data(), longest);
+        owner = &contender;
+        isInverse = inverse;
+    }
+    return points;
+}
+
+/// Converts the same points in each iteration; putting them back is not timed. Processor time: what other programs do
+/// meanwhile does not count.
+void measure(benchmark::State& state, Case const& definition, Contender const& contender, bool inverse, int count) {
+    auto const& source = sourceOf(definition, contender, inverse);
+    auto const& convert = inverse ? contender.inverse : contender.forward;
+    int const calls = (atLeast + count - 1) / count;
+    Points points(static_cast<std::size_t>(calls) * static_cast<std::size_t>(count));
+    for (auto _ : state) {
+        std::copy_n(source.begin(), points.size(), points.begin());
+        auto const start = std::clock();
+        for (int i = 0; i < calls; ++i)
+            convert(points.data() + i * count, count);
+        state.SetIterationTime(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
+    }
+    using benchmark::Counter;
+    state.counters[perPoint] =
+        Counter(static_cast<double>(points.size()), Counter::kIsIterationInvariantRate | Counter::kInvert);
+}
+
+void registerRows(Group const& group) {
+    for (bool const inverse : {false, true})
+        for (auto const& contender : group.contenders)
+            for (int const count : counts) {
+                auto const name = rowName(group.definition, inverse ? "inverse" : "forward", contender, count);
+                benchmark::RegisterBenchmark(name.c_str(), measure, group.definition, std::cref(contender), inverse,
+                                             count)
+                    ->UseManualTime();
+            }
+}
+
+void append(std::vector<Contender>& contenders, std::vector<Contender> more) {
+    std::ranges::move(more, std::back_inserter(contenders));
+}
+
+std::vector<Contender> contendersFor(Case const& definition) {
+    auto contenders = zrprojContenders(definition);
+    if (contenders.empty()) {
+        std::printf("%s: no formula yet, left out\n", definition.name);
+        return contenders;
+    }
+#if defined(ZRPROJ_BENCH_PROJ)
+    append(contenders, projContenders(definition));
+#endif
+#if defined(ZRPROJ_BENCH_GEOGRAPHICLIB)
+    append(contenders, geographicLibContenders(definition));
+#endif
+    return contenders;
+}
+
+/// Tells when PROJ's definition does not mean the same.
+void compareResults(Group const& group) {
+    auto const few = [&](Contender const& contender) {
+        Points points = geographicPoints(group.definition.box, contender.degree);
+        points.resize(1000);
+        contender.forward(points.data(), 1000);
+        return points;
+    };
+    for (auto const& peer : group.contenders) {
+        if (peer.name != "PROJ")
+            continue;
+        Points const ours = few(group.contenders.front()), theirs = few(peer);
+        double farthest = 0;
+        for (std::size_t i = 0; i < ours.size(); ++i)
+            farthest = std::max(farthest, std::hypot(ours[i].x - theirs[i].x, ours[i].y - theirs[i].y));
+        if (!(farthest < 1))
+            std::printf("%s: up to %.0f m from PROJ's\n", group.definition.name, farthest);
+    }
+}
+
+} // namespace
+
+int main(int argc, char** argv) {
+    char shortTime[] = "--benchmark_min_time=0.02"; // unless the command line says otherwise
+    std::vector<char*> arguments(argv, argv + argc);
+    arguments.insert(arguments.begin() + 1, shortTime);
+    int count = static_cast<int>(arguments.size());
+    benchmark::Initialize(&count, arguments.data());
+    if (benchmark::ReportUnrecognizedArguments(count, arguments.data()))
+        return 2;
+    std::vector<Group> groups;
+    for (auto const& definition : cases())
+        groups.push_back({definition, contendersFor(definition)});
+    for (auto const& group : groups) {
+        compareResults(group);
+        registerRows(group);
+    }
+    Collector collector;
+    benchmark::RunSpecifiedBenchmarks(&collector);
+    printTable(groups, collector, longest);
+}

@@ -1,0 +1,57 @@
+// The unit sphere seen from a centre, where azimuthal projections and the oblique Mercators start.
+//
+// phi1   latitude of the centre          theta   longitude east of the centre's meridian
+#pragma once
+
+#include "formulas/edges.h"
+#include "formulas/elementary.h"
+
+#include <zrproj/projection.h>
+
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
+
+/// How near a place may come to a singular point of the sphere, in radians: maps show it from `edge` on, answer from
+/// twice as far, and promise it from four times as far, so that what is promised comes back and what is answered is
+/// shown.
+inline constexpr double edge = 1e-14;
+
+/// A place on the sphere by its directions from the centre: to the east, to the north, and out of the ground.
+template <class R> struct Place { R east, north, up; };
+
+/// A place by longitude and latitude, the latitude's sine and cosine times any positive length.
+template <class R> struct OnSphere {
+    R theta;
+    SinCos<R> phi;
+};
+
+struct CentredFrame {
+    double sin1, cos1; // of phi1
+
+    template <class R> Place<R> place(SinCos<R> phi, R theta) const {
+        auto const at = sinCos(theta);
+        R const out = phi.cos * at.cos;
+        return {phi.cos * at.sin, cos1 * phi.sin - sin1 * out, sin1 * phi.sin + cos1 * out};
+    }
+
+    /// The way back, for a place of any length above 0.
+    template <class R> OnSphere<R> onSphere(Place<R> p) const {
+        R const out = cos1 * p.up - sin1 * p.north;
+        return {atan2(p.east, out), {sin1 * p.up + cos1 * p.north, sqrt(p.east * p.east + out * out)}};
+    }
+};
+
+/// Where a point lies in the frame of a centre, both in degrees: for tests of the range.
+inline Place<double> placeInDegrees(double lat1, double lon1, PROJPOINT const& point) {
+    constexpr double degree = pi / 180;
+    auto const centre = sinCos(lat1 * degree);
+    return CentredFrame{centre.sin, centre.cos}.place(sinCos(point.y * degree),
+                                                      std::remainder(point.x - lon1, 360.0) * degree);
+}
+
+/// The in-range test of a map that shows everything but the antipode of the centre; degrees.
+inline bool isClearOfAntipode(double lat1, double lon1, PROJPOINT const& point) {
+    auto const p = placeInDegrees(lat1, lon1, point);
+    return areLatitudes(90, lat1) && (p.up > 0 || std::hypot(p.east, p.north) > 4 * edge);
+}
+
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL

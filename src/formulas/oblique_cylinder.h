@@ -1,0 +1,47 @@
+// Mercator's projection of the unit sphere about an oblique line, a great circle: what the oblique Mercators share.
+//
+// Source    Snyder (1987), Map Projections: A Working Manual, pp. 66-75; equation numbers are his.
+// Departs   the line's pole is taken for the centre of a frame; the logarithm of (9-4) and (9-30) is written so that
+//           it loses no digits near the poles.
+// Domain    all but the line's two poles.
+#pragma once
+
+#include "formulas/auxiliary_latitude.h"
+#include "formulas/centred_frame.h"
+#include "formulas/outline.h"
+
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
+
+/// Sine and cosine of the latitude on a sphere of an isometric latitude within +-350.
+template <class R> SinCos<R> mercatorLatitude(R psi) {
+    R const E = exp(psi), E2 = E * E, scale = 1.0 / (E2 + 1.0);
+    return {(E2 - 1.0) * scale, 2.0 * E * scale};
+}
+
+/// Distances along the line, from where it crosses the equator with the pole on its left, and across, towards the pole.
+template <class R> struct AlongAcross { R along, across; };
+
+struct ObliqueCylinder {
+    CentredFrame pole;
+
+    /// Infinitely far across is NaN.
+    template <class R> AlongAcross<R> forward(SinCos<R> phi, R theta) const {
+        auto const p = pole.place(phi, theta);
+        R const cosine = sqrt(p.east * p.east + p.north * p.north);
+        auto const shown = cosine > edge;
+        R const across = isometric(SinCos<R>{p.up, select(shown, cosine, R(1.0))}); // (9-4), (9-30)
+        return {atan2(p.north, p.east), select(shown, across, R(unplottable))};     // (9-3), (9-31)
+    }
+
+    /// Of length 1; NaN in theta for what lies outside the map.
+    template <class R> OnSphere<R> inverse(AlongAcross<R> p) const {
+        constexpr double farthest = 32.23619130191664; // log(2 / (2 edge))
+        auto const inside = (abs(p.along) <= pi * (1 + coordinateNoise)) & (abs(p.across) <= farthest);
+        auto const at = sinCos(select(inside, p.along, R(0.0)));
+        auto const up = mercatorLatitude(select(inside, p.across, R(0.0)));
+        auto const q = pole.onSphere(Place<R>{up.cos * at.cos, up.cos * at.sin, up.sin});
+        return {select(inside, q.theta, R(unplottable)), q.phi};
+    }
+};
+
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -1,0 +1,77 @@
+// Equidistant conic: true along the meridians and two standard parallels.
+//
+// Source    Snyder (1987), Map Projections: A Working Manual, pp. 111-115; equation numbers are his.
+// Departs   the meridian distance and its inverse by the series of auxiliary_latitude.h; distances from the first
+//           standard parallel instead of the apex.
+// Domain    the globe.
+//
+// phi, lambda   latitude, longitude          phi0, phi1, phi2   latitude of origin, standard parallels
+// M             meridian distance          m   radius of a parallel          n   cone constant
+#include "formulas/cone.h"
+#include "formulas/driver.h"
+#include "formulas/edges.h"
+#include "formulas/formula_set.h"
+#include "formulas/meridian.h"
+
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace {
+
+/// (16-11), by differences that stay exact where the parallels are close or nearly opposite.
+double coneConstant(double phi1, double phi2, Meridian const& meridian) {
+    double const e2 = meridian.e2, middle = (phi1 + phi2) / 2, half = (phi2 - phi1) / 2;
+    double const sin1 = sin(phi1), sin2 = sin(phi2);
+    double const squares = sin(2 * middle) * sin(2 * half); // sin^2 phi2 - sin^2 phi1
+    double const widths = meridian.parallel(phi1) + meridian.parallel(phi2);
+    double const narrowing = squares * (1 - e2) / ((1 - e2 * sin1 * sin1) * (1 - e2 * sin2 * sin2) * widths); // m1 - m2
+    double mu = 2 * half;
+    for (int k = 1; k <= meridian.rectifying.terms; ++k)
+        mu += 2 * meridian.rectifying.toXi[k - 1] * cos(2 * k * middle) * sin(2 * k * half);
+    return narrowing / (meridian.radius * mu);
+}
+
+struct EquidistantConic {
+    Meridian meridian;
+    double m1; // M of the first standard parallel, to which distances refer
+    Cone cone;
+
+    EquidistantConic(PROJDATA const& work, double side, double phi1, double phi2)
+        : meridian(work.Flattening), m1(meridian.distance(phi1)),
+          cone(coneOf(work, side, phi1, coneConstant(phi1, phi2, meridian))) {
+        cone.origin = meridian.distance(side * work.Lat0) - m1;
+    }
+
+    Cone coneOf(PROJDATA const& work, double side, double phi1, double n) const {
+        double const quadrant = meridian.quadrant();
+        return {{work, side, meridian.parallel(phi1) / n, quadrant - m1, -quadrant - m1}, n};
+    }
+
+    template <class R> Xy<R> forward(LonLat<R> p) const {
+        R const phi = cone.side * p.lat;
+        R const north = meridian.distance(phi, sinCos(phi)) - m1;
+        return cone.toMap(cone.theta(p.lon), cone.rho - north, north); // (14-1), (14-2), (14-4), (16-10)
+    }
+
+    template <class R> LonLat<R> inverse(Xy<R> p) const {
+        auto const at = cone.fromMap(p);                              // (14-10), (14-11)
+        return cone.geographic(at, meridian.latitude(m1 + at.north)); // (16-12)
+    }
+};
+
+void prepare(Converter& converter, PROJDATA const& work) noexcept {
+    double const side = sideOf(work.Lat1, work.Lat2);
+    EquidistantConic const formula(work, side, side * work.Lat1, side * work.Lat2);
+    if (formula.meridian.converged() && areLatitudes(halfPi, work.Lat0, work.Lat1, work.Lat2))
+        hold(converter, formula);
+    else
+        hold(converter, Nowhere{});
+}
+
+bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
+    return areLatitudes(90, record.Lat0, record.Lat1, record.Lat2);
+}
+
+} // namespace
+
+constinit Formula const equidistantConic{prepare, inProjection, splitOppositeToLon0};
+
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL

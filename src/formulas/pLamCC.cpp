@@ -1,0 +1,101 @@
+// Lambert conformal conic: conformal, straight meridians, true along one or two standard parallels.
+//
+// Source    Snyder (1987), Map Projections: A Working Manual, pp. 104-110; equation numbers are his.
+// Departs   radii are measured from the standard parallel next to the equator, by expm1 and log1p, so that a cone that
+//           is nearly a cylinder loses nothing; the inverse of (7-9) is the series of auxiliary_latitude.h.
+// Domain    all but the pole away from the cone. Parallels on both sides, equally far, have no cone: no map.
+//
+// phi, lambda   latitude, longitude          phi0, phi1, phi2   latitude of origin, standard parallels
+// psi           isometric latitude, log(1/t) of the source          m   radius of a parallel
+// n             cone constant          rho, theta   polar coordinates about the apex
+#include "formulas/cone.h"
+#include "formulas/driver.h"
+#include "formulas/edges.h"
+#include "formulas/formula_set.h"
+#include "formulas/isometric_latitude.h"
+
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace {
+
+/// (15-8), by differences that stay exact where the parallels are close or nearly opposite.
+double coneConstant(double phi1, double phi2, double e2) {
+    if (phi1 == phi2)
+        return sin(phi1); // as in (15-9)
+    double const e = std::sqrt(e2), middle = (phi1 + phi2) / 2, half = (phi2 - phi1) / 2;
+    auto const one = sinCos(phi1), two = sinCos(phi2);
+    double const rise = 2 * cos(middle) * sin(half); // sin phi2 - sin phi1
+    double const psi = 2 * std::atanh(sin(half) / cos(middle)) -
+                       e * std::atanh(e * rise / (1 - e2 * one.sin * two.sin)); // psi2 - psi1
+    double const narrowing = std::log1p(2 * sin(middle) * sin(half) / two.cos) +
+                             std::log1p(-e2 * rise * (one.sin + two.sin) / (1 - e2 * one.sin * one.sin)) / 2;
+    return narrowing / psi; // narrowing = log(m1 / m2)
+}
+
+struct LambertConformalConic {
+    IsometricLatitude isometric;
+    Cone cone;
+    double psiRef; // of the standard parallel nearer to the equator, to which radii refer
+    double end;    // how far north the last latitude before the pole lies; between it and the pole is no latitude
+
+    LambertConformalConic(PROJDATA const& work, double side, double phi1, double phi2)
+        : isometric(work.Flattening), cone(coneOf(work, side, phi1, phi2)),
+          psiRef(isometric.of(sinCos(nearer(phi1, phi2)))), end(northOf(isometric.last)) {
+        cone.bottom = northOf(-isometric.last);
+        cone.origin = abs(work.Lat0) == halfPi ? cone.top : northOf(isometric.of(sinCos(side * work.Lat0)));
+    }
+
+    static double nearer(double phi1, double phi2) { return abs(phi1) < abs(phi2) ? phi1 : phi2; }
+
+    static Cone coneOf(PROJDATA const& work, double side, double phi1, double phi2) {
+        double const e2 = work.Flattening * (2 - work.Flattening), n = coneConstant(phi1, phi2, e2);
+        auto const at = sinCos(nearer(phi1, phi2));
+        double const rho = at.cos / std::sqrt(1 - e2 * at.sin * at.sin) / n; // (14-15), (15-7), (15-10)
+        return {{work, side, rho, rho, 0}, n};
+    }
+
+    /// How far north of the parallel of reference, along the meridian.
+    template <class R> R northOf(R psi) const { return -cone.rho * expm1(cone.n * (psiRef - psi)); }
+
+    template <class R> Xy<R> forward(LonLat<R> p) const {
+        R const phi = cone.side * p.lat;
+        R const north = select(phi >= halfPi, R(cone.top), northOf(isometric.of(sinCos(phi)))); // (15-7)
+        auto const map = cone.toMap(cone.theta(p.lon), cone.rho - north, north); // (14-1), (14-2), (14-4)
+        return {map.x, select(phi <= -halfPi, R(unplottable), map.y)};
+    }
+
+    template <class R> LonLat<R> inverse(Xy<R> p) const {
+        auto at = cone.fromMap(p); // (14-10), (14-11)
+        auto const pole = (at.north > end + at.noise) | (at.north >= cone.top);
+        R const psi = psiRef - log1p(select(pole, R(0.0), -at.north) / cone.rho) / cone.n; // (15-11)
+        at.outside = at.outside | (pole & (at.north < cone.top - at.noise));
+        return cone.geographic(at, select(pole, R(halfPi), isometric.geodetic(psi)));
+    }
+};
+
+/// Whether there is a cone, and its other pole is not asked for as the origin; for angles in one unit.
+bool hasCone(double phi0, double phi1, double phi2, double quarterTurn) {
+    double const side = sideOf(phi1, phi2);
+    return phi1 + phi2 != 0 && abs(phi1) < quarterTurn && abs(phi2) < quarterTurn && abs(phi0) <= quarterTurn &&
+           side * phi0 != -quarterTurn;
+}
+
+void prepare(Converter& converter, PROJDATA const& work) noexcept {
+    if (!hasCone(work.Lat0, work.Lat1, work.Lat2, halfPi))
+        return hold(converter, Nowhere{});
+    double const side = sideOf(work.Lat1, work.Lat2);
+    LambertConformalConic const formula(work, side, side * work.Lat1, side * work.Lat2);
+    if (formula.isometric.converged())
+        hold(converter, formula);
+    else
+        hold(converter, Nowhere{});
+}
+
+bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
+    return hasCone(record.Lat0, record.Lat1, record.Lat2, 90) && sideOf(record.Lat1, record.Lat2) * point.y > -90;
+}
+
+} // namespace
+
+constinit Formula const lambertConformalConic{prepare, inProjection, splitOppositeToLon0};
+
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL

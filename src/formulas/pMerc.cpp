@@ -1,0 +1,53 @@
+// Mercator: conformal, meridians and parallels straight, true along the equator.
+//
+// Source    Snyder (1987), Map Projections: A Working Manual, pp. 38-47; equation numbers are his.
+// Departs   the inverse takes the latitude from the series of auxiliary_latitude.h.
+// Domain    all but the poles.
+//
+// phi, lambda   latitude, longitude          psi   isometric latitude
+#include "formulas/cylinder.h"
+#include "formulas/driver.h"
+#include "formulas/edges.h"
+#include "formulas/formula_set.h"
+#include "formulas/isometric_latitude.h"
+
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace {
+
+struct Mercator {
+    IsometricLatitude isometric;
+    double a;
+    Cylinder cylinder;
+
+    explicit Mercator(PROJDATA const& work)
+        : isometric(work.Flattening),
+          a(work.MajorRadius), cylinder{work.Lon0, a, a * isometric.last, a * isometric.of(sinCos(work.Lat0))} {}
+
+    template <class R> Xy<R> forward(LonLat<R> p) const {
+        auto const map = cylinder.toMap(p.lon, a * isometric.of(sinCos(p.lat))); // (7-6), (7-7)
+        return {map.x, select(abs(p.lat) >= halfPi, R(unplottable), map.y)};
+    }
+
+    template <class R> LonLat<R> inverse(Xy<R> p) const {
+        auto const at = cylinder.fromMap(p); // (7-12)
+        return {at.lon, select(at.outside, R(unplottable), isometric.geodetic(at.north * (1 / a)))};
+    }
+};
+
+void prepare(Converter& converter, PROJDATA const& work) noexcept {
+    Mercator const formula(work);
+    if (formula.isometric.converged() && areLatitudes(halfPi, work.Lat0))
+        hold(converter, formula);
+    else
+        hold(converter, Nowhere{});
+}
+
+bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
+    return areLatitudes(90, record.Lat0) && std::fabs(point.y) < 90;
+}
+
+} // namespace
+
+constinit Formula const mercator{prepare, inProjection, splitOppositeToLon0};
+
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL

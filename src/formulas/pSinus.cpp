@@ -1,0 +1,52 @@
+// Sinusoidal: equal area, the parallels straight and true, evenly spaced.
+//
+// Source    Snyder (1987), Map Projections: A Working Manual, pp. 243-248; equation numbers are his.
+// Departs   the meridian distance and its inverse by the series of auxiliary_latitude.h.
+// Domain    the globe.
+//
+// phi, lambda   latitude, longitude          M   meridian distance          m   radius of a parallel
+#include "formulas/driver.h"
+#include "formulas/edges.h"
+#include "formulas/formula_set.h"
+#include "formulas/longitude.h"
+#include "formulas/meridian.h"
+
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace {
+
+struct Sinusoidal {
+    Meridian meridian;
+    double a, lambda0;
+
+    explicit Sinusoidal(PROJDATA const& work) : meridian(work.Flattening), a(work.MajorRadius), lambda0(work.Lon0) {}
+
+    template <class R> Xy<R> forward(LonLat<R> p) const {
+        auto const phi = sinCos(p.lat);
+        return {a * (meridian.parallel(phi) * longitudeFrom(lambda0, p.lon)), // (30-8)
+                a * meridian.distance(p.lat, phi)};                           // (30-9)
+    }
+
+    template <class R> LonLat<R> inverse(Xy<R> p) const {
+        double const unit = 1 / a, top = a * meridian.quadrant() * (1 + coordinateNoise);
+        auto const far = (abs(p.x) > 4 * a) | (abs(p.y) > top);
+        R const x = select(far, R(0.0), p.x) * unit, y = select(far, R(0.0), p.y) * unit;
+        R const phi = meridian.latitude(y); // (30-10)
+        R const noise = coordinateNoise * (1.0 + abs(x));
+        auto const east = onParallel(x, meridian.parallel(sinCos(phi)), noise); // (30-11)
+        return {lambda0 + east.lambda, select(far | east.outside, R(unplottable), phi)};
+    }
+};
+
+void prepare(Converter& converter, PROJDATA const& work) noexcept {
+    Sinusoidal const formula(work);
+    if (formula.meridian.converged())
+        hold(converter, formula);
+    else
+        hold(converter, Nowhere{});
+}
+
+} // namespace
+
+constinit Formula const sinusoidal{prepare, isAnywhere, splitOppositeToLon0};
+
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -1,0 +1,67 @@
+#include "support/cases.h"
+#include "support/levels.h"
+#include "support/registry.h"
+
+#include <gtest/gtest.h>
+
+#include <cfloat>
+
+using namespace ZrProj;
+using test::isMarked;
+using test::Projection;
+
+TEST(ObliqueMercator, AgreesWithReferenceValues) {
+    test::expectProjectionCases("oblique_mercator.txt");
+}
+
+TEST(ObliqueMercator, LaysItsLineAlongX) {
+    test::forEachLevel([](formulas::Level) {
+        // Either order of the points, and a line whose pole the cross product finds in the south.
+        for (auto const* words : {"type=25 ellipsoid=48 lat1=20 lon1=-100 lat2=40 lon2=-60 k0=0.5",
+                                  "type=25 ellipsoid=48 lat1=40 lon1=-60 lat2=20 lon2=-100 k0=0.5"}) {
+            Projection line(words);
+            auto const west = line.forward(PROJPOINT{-100, 20}), east = line.forward(PROJPOINT{-60, 40});
+            EXPECT_NEAR(west.y, 0, 1e-8);
+            EXPECT_NEAR(east.y, 0, 1e-8);
+            EXPECT_NEAR(east.x - west.x, 0.5 * 6370997 * 0.6899457022936587, 1e-7); // radians between them
+            EXPECT_GT(line.forward(PROJPOINT{-80, 60}).y, 0);                       // north is to the left
+        }
+        // A meridian, straight north and over the pole to the other side, 90 degrees from the meridian either way.
+        Projection meridian("type=25 ellipsoid=48 lat1=10 lon1=30 lat2=50 lon2=30");
+        auto const one = meridian.forward(PROJPOINT{30, 10}), two = meridian.forward(PROJPOINT{30, 50});
+        EXPECT_NEAR(one.y, 0, 1e-8);
+        EXPECT_NEAR(std::abs(two.x - one.x), 6370997 * 0.6981317007977318, 1e-7);
+        EXPECT_FALSE(meridian.isInRange({120, 0}));
+        EXPECT_FALSE(meridian.isInRange({-60, 0}));
+        EXPECT_TRUE(meridian.isInRange({-60, 1e-9}));
+    });
+}
+
+TEST(ObliqueMercator, MarksThePolesOfItsLineAndWhatLiesBeyond) {
+    test::forEachLevel([](formulas::Level) {
+        Projection meridian("type=25 ellipsoid=47 lat1=10 lon1=30 lat2=50 lon2=30");
+        PROJPOINT points[] = {{120, 0}, {-60, -0.0}, {120, 1e-6}, {30, 90}};
+        EXPECT_TRUE(meridian.tryForward(points));
+        EXPECT_TRUE(isMarked(points[0]) && isMarked(points[1]));
+        EXPECT_FALSE(isMarked(points[2]) || isMarked(points[3]));
+        PROJPOINT far[] = {{1e300, 0}, {0, -1e300}, {DBL_MAX / 2, DBL_MAX / 2}, {0, 2.2e8}, {2.1e7, 0}};
+        EXPECT_TRUE(meridian.tryInverse(far));
+        for (auto const& point : far)
+            EXPECT_TRUE(isMarked(point));
+    });
+}
+
+TEST(ObliqueMercator, TakesTheEarthForASphereAndNeedsALine) {
+    Projection flat("type=25 radius=6370997 rf=100 lat1=20 lon1=-100 lat2=40 lon2=-60");
+    Projection round("type=25 ellipsoid=48 lat1=20 lon1=-100 lat2=40 lon2=-60");
+    PROJPOINT const point{20, -55}, a = flat.forward(point), b = round.forward(point);
+    EXPECT_EQ(a.x, b.x);
+    EXPECT_EQ(a.y, b.y);
+    for (auto const* words : {"type=25 ellipsoid=48 lat1=30 lon1=10 lat2=-30 lon2=190", // antipodes
+                              "type=25 ellipsoid=48 lat1=30 lon1=10 lat2=120 lon2=40"}) {
+        Projection nowhere(words);
+        EXPECT_TRUE(isMarked(nowhere.forward(point)));
+        EXPECT_TRUE(isMarked(nowhere.inverse(PROJPOINT{1e5, 1e5})));
+        EXPECT_FALSE(nowhere.isInRange(point));
+    }
+}
