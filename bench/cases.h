@@ -23,7 +23,7 @@ struct Case {
     EllipsoidType ellipsoid;
     Parameters parameters;
     Box box;          // where the points lie: inside the usable area
-    char const* proj; // the definition that means the same to PROJ
+    char const* proj; // the definition that means the same to PROJ, or comes nearest
 
     PROJDATA record() const;
 };

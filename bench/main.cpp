@@ -1,10 +1,12 @@
 // Every projection, both ways, for single points, short arrays and long ones, at each processor level and beside other
-// libraries. A closing table sets zrproj's best level beside each of the others.
+// libraries. A closing table sets zrproj beside each of the others.
 #include "table.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <ctime>
+#include <iterator>
 #include <random>
 
 using namespace ZrProj;
@@ -16,7 +18,7 @@ using Points = std::vector<PROJPOINT>;
 
 constexpr int longest = 1 << 20;
 constexpr int counts[] = {1, 100, longest};
-constexpr int atLeast = 1 << 14; // points between two readings of the clock
+constexpr std::size_t atLeast = 1 << 14; // points between two readings of the clock
 
 Points geographicPoints(Box const& box, double degree) {
     std::mt19937_64 random(1);
@@ -47,13 +49,13 @@ Points const& sourceOf(Case const& definition, Contender const& contender, bool 
 void measure(benchmark::State& state, Case const& definition, Contender const& contender, bool inverse, int count) {
     auto const& source = sourceOf(definition, contender, inverse);
     auto const& convert = inverse ? contender.inverse : contender.forward;
-    int const calls = (atLeast + count - 1) / count;
-    Points points(static_cast<std::size_t>(calls) * static_cast<std::size_t>(count));
+    auto const length = static_cast<std::size_t>(count), calls = (atLeast + length - 1) / length;
+    Points points(calls * length);
     for (auto _ : state) {
         std::copy_n(source.begin(), points.size(), points.begin());
         auto const start = std::clock();
-        for (int i = 0; i < calls; ++i)
-            convert(points.data() + i * count, count);
+        for (std::size_t i = 0; i < points.size(); i += length)
+            convert(&points[i], count);
         state.SetIterationTime(static_cast<double>(std::clock() - start) / CLOCKS_PER_SEC);
     }
     using benchmark::Counter;
@@ -107,7 +109,7 @@ void compareResults(Group const& group) {
         for (std::size_t i = 0; i < ours.size(); ++i)
             farthest = std::max(farthest, std::hypot(ours[i].x - theirs[i].x, ours[i].y - theirs[i].y));
         if (!(farthest < 1))
-            std::printf("%s: up to %.0f m from PROJ's\n", group.definition.name, farthest);
+            std::printf("%s: not quite PROJ's map, up to %.0f m apart\n", group.definition.name, farthest);
     }
 }
 
@@ -128,7 +130,7 @@ int main(int argc, char** argv) {
         compareResults(group);
         registerRows(group);
     }
-    Collector collector;
+    Collector collector(Collector::OO_Tabular);
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(groups, collector, longest);
 }

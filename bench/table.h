@@ -19,6 +19,7 @@ std::string rowName(Case const& definition, char const* direction, Contender con
 /// Prints the rows as usual, and keeps what they say.
 class Collector : public benchmark::ConsoleReporter {
 public:
+    using ConsoleReporter::ConsoleReporter;
     void ReportRuns(std::vector<Run> const& runs) override;
 
     /// Nanoseconds a point; 0 where the row has not run.

@@ -8,7 +8,7 @@ set(doc_dir ${CMAKE_INSTALL_DATAROOTDIR}/doc/zrproj)
 install(TARGETS zrproj EXPORT ZrProj)
 install(DIRECTORY ${PROJECT_SOURCE_DIR}/include/zrproj TYPE INCLUDE)
 install(FILES LICENSE README.md CHANGELOG.md DESTINATION ${doc_dir})
-install(DIRECTORY docs/ DESTINATION ${doc_dir})
+install(DIRECTORY docs/ DESTINATION ${doc_dir} PATTERN generator EXCLUDE)
 
 # The library needs nothing of others, so the exported targets are the whole package.
 install(EXPORT ZrProj NAMESPACE ZrProj:: FILE ZrProjConfig.cmake DESTINATION ${package_dir})

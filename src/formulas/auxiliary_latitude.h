@@ -16,6 +16,7 @@ namespace ZrProj::formulas::ZRPROJ_LEVEL {
 /// An auxiliary latitude xi(phi), both ways.
 struct AuxiliaryLatitude {
     static constexpr int maxTerms = 32;
+    static constexpr double flattest = 0.2; // flattening that the accuracy holds for; the limit of maps made with it
 
     /// Coefficients of sin 2 phi, sin 4 phi, ... in xi - phi, and of sin 2 xi, ... in phi - xi. Not `converged`: the
     /// ellipsoid is too flat for the series, and the results have no meaning.

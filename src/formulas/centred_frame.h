@@ -3,8 +3,8 @@
 // phi1   latitude of the centre          theta   longitude east of the centre's meridian
 #pragma once
 
-#include "formulas/edges.h"
 #include "formulas/elementary.h"
+#include "formulas/outline.h"
 
 #include <zrproj/projection.h>
 
@@ -40,6 +40,19 @@ struct CentredFrame {
     }
 };
 
+/// 1 / (1 + cos c), c being the distance from the centre, without cancellation; 1 at the antipode, where there is none.
+template <class R> struct HalfwayScale {
+    R value;
+    Condition<R> antipode;
+};
+
+template <class R> HalfwayScale<R> halfwayScale(Place<R> p) {
+    R const sine2 = p.east * p.east + p.north * p.north;
+    Condition<R> const far = p.up < 0.0, antipode = far & (sine2 < edge * edge);
+    R const divisor = select(antipode, R(1.0), select(far, sine2, 1.0 + p.up));
+    return {select(far, 1.0 - p.up, R(1.0)) / divisor, antipode};
+}
+
 /// Where a point lies in the frame of a centre, both in degrees: for tests of the range.
 inline Place<double> placeInDegrees(double lat1, double lon1, PROJPOINT const& point) {
     constexpr double degree = pi / 180;
@@ -48,10 +61,10 @@ inline Place<double> placeInDegrees(double lat1, double lon1, PROJPOINT const& p
                                                       std::remainder(point.x - lon1, 360.0) * degree);
 }
 
-/// The in-range test of a map that shows everything but the antipode of the centre; degrees.
+/// Whether a point is well clear of the antipode of a centre; degrees.
 inline bool isClearOfAntipode(double lat1, double lon1, PROJPOINT const& point) {
     auto const p = placeInDegrees(lat1, lon1, point);
-    return areLatitudes(90, lat1) && (p.up > 0 || std::hypot(p.east, p.north) > 4 * edge);
+    return p.up > 0 || std::hypot(p.east, p.north) > 4 * edge;
 }
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -22,6 +22,7 @@ struct Converter {
     Run forward = nullptr;
     Run inverse = nullptr;
     double xOrg = 0, yOrg = 0, scale = 1;
+    bool hasMap = false; // false where the record defines no map: every point is unplottable
     alignas(std::max_align_t) std::byte constants[2048]; // read by the two functions only
 };
 

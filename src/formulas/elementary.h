@@ -143,7 +143,8 @@ template <class R> R log(R x) {
     auto const regular = (x >= DBL_MIN) & (x <= DBL_MAX);
     if (all(regular)) // most often; the values of regular lanes are the same either way
         return result;
-    auto const zero = x == 0.0, subnormal = (x > 0.0) & (x < DBL_MIN);
+    auto const zero = x == 0.0;
+    auto const subnormal = (x > 0.0) & (x < DBL_MIN);
     R const raised = log(select(subnormal, x * 0x1p54, R(1.0))) - 54 * std::numbers::ln2;
     R const pole = -1.0 / abs(select(zero, x, R(1.0)));
     return select(regular, result, select(subnormal, raised, select(zero, pole, select(x > 0.0, x, R(unplottable)))));

@@ -19,8 +19,6 @@ struct Meridian {
         : rectifying(rectifyingLatitude(flattening)), radius(rectifyingRadius(flattening)),
           e2(flattening * (2 - flattening)) {}
 
-    bool converged() const { return rectifying.converged; }
-
     /// From the equator to a pole.
     double quadrant() const { return radius * halfPi; }
 

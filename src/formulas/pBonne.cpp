@@ -4,6 +4,7 @@
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 138-140; equation numbers are his.
 // Departs   the meridian distance and its inverse by the series of auxiliary_latitude.h; distances from the standard
 //           parallel instead of the centre.
+// Accuracy  1e-8 m forward, 2e-13 degrees back.
 // Domain    the globe.
 //
 // phi, lambda   latitude, longitude from the central meridian          phi1   standard parallel
@@ -47,19 +48,22 @@ struct Bonne {
     }
 };
 
+bool hasMap(PROJDATA const& record, double quarterTurn) {
+    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat1);
+}
+
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     // Nearer to the equator than this, the arcs' curvature no longer changes a coordinate.
     constexpr double straight = 1e-20;
     double const side = sideOf(work.Lat1, 0), phi1 = side * work.Lat1;
-    Bonne const formula(work, side, phi1 > straight ? phi1 : straight);
-    if (formula.meridian.converged() && areLatitudes(halfPi, work.Lat1))
-        hold(converter, formula);
+    if (hasMap(work, halfPi))
+        hold(converter, Bonne(work, side, phi1 > straight ? phi1 : straight));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
-    return areLatitudes(90, record.Lat1);
+    return hasMap(record, 90);
 }
 
 } // namespace

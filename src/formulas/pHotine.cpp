@@ -102,23 +102,23 @@ struct Setting {
           line(isSet<&PROJDATA::bUseAlpha>(work) ? lineOfAzimuth(sphere, work) : lineOfPoints(sphere, work)),
           cylinder{{line.sinAlpha / sphere.D, // gamma0, (9-37)
                     line.heading() * std::hypot(sphere.tangent, line.cosAlpha) / sphere.D}},
-          defined(line.defined && areLatitudes(halfPi, work.Lat0)) {}
+          defined(line.defined && areLatitudes(halfPi, work.Lat0) && work.Flattening <= AuxiliaryLatitude::flattest) {}
 
     /// u of the centre over A / B, (9-39).
     double centre() const { return std::atan2(line.heading() * sphere.tangent, std::fabs(line.cosAlpha)); }
 };
 
 struct Hotine {
-    double B, logE, lambda0, size; // size: A / B
-    double origin;                 // the origin's u over A / B
-    double xu, xa, yu, ya;         // x and y from u and -v
+    double B, logE, lambda0, size;          // size: A / B
+    double origin;                          // the origin's u over A / B
+    double xu = 1, xa = 0, yu = 0, ya = -1; // x and y from u and -v
     ObliqueCylinder cylinder;
     IsometricLatitude isometricLatitude;
 
     Hotine(PROJDATA const& work, Setting const& at)
         : B(at.sphere.B), logE(at.sphere.logE), lambda0(at.line.lambda0),
           size(work.MajorRadius * work.K0 * at.sphere.size), origin(isSet<&PROJDATA::bUOffset>(work) ? at.centre() : 0),
-          xu(1), xa(0), yu(0), ya(-1), cylinder(at.cylinder), isometricLatitude(work.Flattening) {
+          cylinder(at.cylinder), isometricLatitude(work.Flattening) {
         if (isSet<&PROJDATA::bRotate>(work)) { // (9-33), (9-34)
             xu = ya = at.line.sinAlpha;
             yu = at.line.cosAlpha;
@@ -148,18 +148,21 @@ struct Hotine {
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     Setting const setting(work);
-    Hotine const formula(work, setting);
-    if (setting.defined && formula.isometricLatitude.converged())
-        hold(converter, formula);
+    if (setting.defined)
+        hold(converter, Hotine(work, setting));
     else
         hold(converter, Nowhere{});
 }
 
 PROJDATA inRadians(PROJDATA record) {
-    constexpr double PROJDATA::*angles[] = {&PROJDATA::Lat0, &PROJDATA::Lon0, &PROJDATA::Lat1, &PROJDATA::Lon1,
-                                            &PROJDATA::Lat2, &PROJDATA::Lon2, &PROJDATA::Alpha};
-    for (auto const angle : angles)
-        record.*angle = record.*angle * pi / 180;
+    constexpr double radian = pi / 180;
+    record.Lat0 *= radian;
+    record.Lon0 *= radian;
+    record.Lat1 *= radian;
+    record.Lon1 *= radian;
+    record.Lat2 *= radian;
+    record.Lon2 *= radian;
+    record.Alpha *= radian;
     return record;
 }
 

@@ -38,12 +38,9 @@ struct LambertAzimuthal {
     template <class R> Xy<R> forward(LonLat<R> p) const {
         R const beta = authalic.auxiliary(p.lat, sinCos(p.lat));
         auto const at = centre.place(sinCos(beta), longitudeFrom(lambda0, p.lon));
-        // 2 / (1 + cos c), or 2 (1 - cos c) / sin^2 c in the far hemisphere
-        R const sine2 = at.east * at.east + at.north * at.north;
-        auto const far = at.up < 0.0, antipode = far & (sine2 < edge * edge);
-        R const divisor = select(antipode, R(1.0), select(far, sine2, 1.0 + at.up));
-        R const k = sqrt(2.0 * select(far, 1.0 - at.up, R(1.0)) / divisor);                   // (24-19)
-        return {select(antipode, R(unplottable), xSize * k * at.east), ySize * k * at.north}; // (24-17), (24-18)
+        auto const scale = halfwayScale(at);
+        R const k = sqrt(2.0 * scale.value);                                                        // (24-19)
+        return {select(scale.antipode, R(unplottable), xSize * k * at.east), ySize * k * at.north}; // (24-17), (24-18)
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
@@ -57,16 +54,19 @@ struct LambertAzimuthal {
     }
 };
 
+bool hasMap(PROJDATA const& record, double quarterTurn) {
+    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat1);
+}
+
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    LambertAzimuthal const formula(work);
-    if (formula.authalic.converged && areLatitudes(halfPi, work.Lat1))
-        hold(converter, formula);
+    if (hasMap(work, halfPi))
+        hold(converter, LambertAzimuthal(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return isClearOfAntipode(record.Lat1, record.Lon0, point);
+    return hasMap(record, 90) && isClearOfAntipode(record.Lat1, record.Lon0, point);
 }
 
 } // namespace

@@ -2,6 +2,7 @@
 //
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 38-47; equation numbers are his.
 // Departs   the inverse takes the latitude from the series of auxiliary_latitude.h.
+// Accuracy  2e-8 m forward, 1e-13 degrees back, to 85 degrees; at 89.9, rounding of the latitude is 1e-6 m on the map.
 // Domain    all but the poles.
 //
 // phi, lambda   latitude, longitude          psi   isometric latitude
@@ -34,16 +35,19 @@ struct Mercator {
     }
 };
 
+bool hasMap(PROJDATA const& record, double quarterTurn) {
+    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat0);
+}
+
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    Mercator const formula(work);
-    if (formula.isometric.converged() && areLatitudes(halfPi, work.Lat0))
-        hold(converter, formula);
+    if (hasMap(work, halfPi))
+        hold(converter, Mercator(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return areLatitudes(90, record.Lat0) && std::fabs(point.y) < 90;
+    return hasMap(record, 90) && std::fabs(point.y) < 90;
 }
 
 } // namespace

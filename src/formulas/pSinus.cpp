@@ -2,6 +2,7 @@
 //
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 243-248; equation numbers are his.
 // Departs   the meridian distance and its inverse by the series of auxiliary_latitude.h.
+// Accuracy  1e-8 m forward, 1e-13 degrees back.
 // Domain    the globe.
 //
 // phi, lambda   latitude, longitude          M   meridian distance          m   radius of a parallel
@@ -37,16 +38,23 @@ struct Sinusoidal {
     }
 };
 
+bool hasMap(PROJDATA const& record) {
+    return record.Flattening <= AuxiliaryLatitude::flattest;
+}
+
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    Sinusoidal const formula(work);
-    if (formula.meridian.converged())
-        hold(converter, formula);
+    if (hasMap(work))
+        hold(converter, Sinusoidal(work));
     else
         hold(converter, Nowhere{});
 }
 
+bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
+    return hasMap(record);
+}
+
 } // namespace
 
-constinit Formula const sinusoidal{prepare, isAnywhere, splitOppositeToLon0};
+constinit Formula const sinusoidal{prepare, inProjection, splitOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

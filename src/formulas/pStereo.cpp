@@ -41,12 +41,9 @@ struct Stereographic {
     template <class R> Xy<R> forward(LonLat<R> p) const {
         R const chi = conformal.auxiliary(p.lat, sinCos(p.lat));
         auto const at = centre.place(sinCos(chi), longitudeFrom(lambda0, p.lon));
-        // 1 / (1 + cos c), or (1 - cos c) / sin^2 c in the far hemisphere
-        R const sine2 = at.east * at.east + at.north * at.north;
-        auto const far = at.up < 0.0, antipode = far & (sine2 < edge * edge);
-        R const divisor = select(antipode, R(1.0), select(far, sine2, 1.0 + at.up));
-        R const A = size * select(far, 1.0 - at.up, R(1.0)) / divisor;        // (21-27)
-        return {select(antipode, R(unplottable), A * at.east), A * at.north}; // (21-24), (21-25)
+        auto const scale = halfwayScale(at);
+        R const A = size * scale.value;                                             // (21-27)
+        return {select(scale.antipode, R(unplottable), A * at.east), A * at.north}; // (21-24), (21-25)
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
@@ -60,16 +57,19 @@ struct Stereographic {
     }
 };
 
+bool hasMap(PROJDATA const& record, double quarterTurn) {
+    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat0);
+}
+
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    Stereographic const formula(work);
-    if (formula.conformal.converged && areLatitudes(halfPi, work.Lat0))
-        hold(converter, formula);
+    if (hasMap(work, halfPi))
+        hold(converter, Stereographic(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return isClearOfAntipode(record.Lat0, record.Lon0, point);
+    return hasMap(record, 90) && isClearOfAntipode(record.Lat0, record.Lon0, point);
 }
 
 } // namespace

@@ -1,5 +1,5 @@
-// The State Plane definitions of 1983: one row a zone, in StateZoneType order; an empty row where a zone has none. Angles
-// are text in degrees, minutes and seconds, and lengths are metres.
+// The State Plane definitions of 1983: one row a zone, in StateZoneType order; an empty row where a zone has none.
+// Angles are text in degrees, minutes and seconds, and lengths are metres.
 #include "zone_definition.h"
 
 namespace ZrProj {

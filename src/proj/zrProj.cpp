@@ -211,7 +211,8 @@ bool ProjLLInProjection(void* handle, PROJPOINT const* point) {
         return false;
     if (!block.formula)
         return inconsistent();
-    return withDefaultFloatingPoint([&] { return block.formula->inProjection(block.area, *point); });
+    return block.converter.hasMap &&
+           withDefaultFloatingPoint([&] { return block.formula->inProjection(block.area, *point); });
 }
 
 bool ProjLLOffsetSplitObject(void* handle, PROJPOINT const* points, unsigned count, double* out1, double* out2) {

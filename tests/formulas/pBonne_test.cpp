@@ -12,11 +12,14 @@ TEST(Bonne, AgreesWithReferenceValues) {
 
 TEST(Bonne, GoesOverIntoSinusoidal) {
     test::forEachLevel([](formulas::Level) {
-        Projection cone("type=21 ellipsoid=47 lat1=-1e-14"), straight("type=19 ellipsoid=47");
-        for (auto const& point : {PROJPOINT{179, 20}, {-179, -70}, {-60, 45}}) {
-            auto const map = cone.forward(point), expected = straight.forward(point);
-            EXPECT_NEAR(map.x, expected.x, 1e-7);
-            EXPECT_NEAR(map.y, expected.y, 1e-7);
+        for (auto const* words : {"type=21 ellipsoid=47 lat1=-1e-14", "type=21 ellipsoid=47 lat1=1e-300"}) {
+            Projection cone(words), straight("type=19 ellipsoid=47");
+            for (auto const& point : {PROJPOINT{179, 20}, {-179, -70}, {-60, 45}}) {
+                auto const map = cone.forward(point), expected = straight.forward(point);
+                EXPECT_NEAR(map.x, expected.x, 1e-7);
+                EXPECT_NEAR(map.y, expected.y, 1e-7);
+                EXPECT_NEAR(cone.inverse(map).x, point.x, 1e-11);
+            }
         }
     });
 }

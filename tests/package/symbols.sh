@@ -8,5 +8,5 @@ exported() { nm --dynamic --defined-only --demangle "$1" | cut -d ' ' -f 3- | LC
 if [[ $1 == --write ]]; then
     exported "$3" >"$2"
 else
-    diff --label "$1" --label exported -U 0 "$1" <(exported "$2")
+    exported "$2" | diff --label "$1" --label exported -U 0 "$1" -
 fi
