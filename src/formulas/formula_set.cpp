@@ -19,6 +19,7 @@ constinit FormulaSet const formulaSet = [] {
     set.byType[ProjTypeEquidistantCylindrical] = &equidistantCylindrical;
     set.byType[ProjTypeRobinson] = &robinson;
     set.byType[ProjTypeVanDerGrinten] = &vanDerGrinten;
+    set.byType[ProjTypeCassini] = &cassini;
     set.byType[ProjTypeTransverseMercator] = &transverseMercator;
     set.byType[ProjTypeGaussKruger] = &transverseMercator;
     set.byType[ProjTypeSinusoidal] = &sinusoidal;
@@ -30,6 +31,7 @@ constinit FormulaSet const formulaSet = [] {
     set.byType[ProjTypeObliqueMercator] = &obliqueMercator;
     set.byType[ProjTypeEquidistantConic] = &equidistantConic;
     set.byType[ProjTypeGnomonic] = &gnomonic;
+    set.byType[ProjTypeAzimuthalEquidistant] = &azimuthalEquidistant;
     return set;
 }();
 

@@ -17,6 +17,7 @@ extern Formula const hotine;
 extern Formula const equidistantCylindrical;
 extern Formula const robinson;
 extern Formula const vanDerGrinten;
+extern Formula const cassini;
 extern Formula const transverseMercator;
 extern Formula const sinusoidal;
 extern Formula const lambertAzimuthal;
@@ -27,5 +28,6 @@ extern Formula const eckertVI;
 extern Formula const obliqueMercator;
 extern Formula const equidistantConic;
 extern Formula const gnomonic;
+extern Formula const azimuthalEquidistant;
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -39,12 +39,12 @@ struct VanDerGrinten {
         auto const inside = square <= 1 + coordinateNoise;
         // alpha is the angle of the point (inner, 2 x), at the distance `ray`.
         R const inner = larger((1.0 - y) * (1.0 + y) - x * x, R(0.0));
-        R const ray = sqrt(inner * inner + 4.0 * x * x);
-        auto const pole = ray == 0.0;
-        R const u = 2.0 * x / select(pole, R(1.0), inner + ray);
+        R const anyRay = sqrt(inner * inner + 4.0 * x * x);
+        auto const pole = anyRay == 0.0;
+        R const ray = select(pole, R(1.0), anyRay), u = 2.0 * x / (inner + ray);
         R const beyond = 1.0 / ((1.0 + y) * (1.0 + y) + x * x);
         R const E = ((1.0 - y) * (1.0 - y) + x * x) * beyond, oneMinusE = 4.0 * y * beyond; // 1 / rho^2
-        R const cosAlpha = inner / select(pole, R(1.0), ray), versine = select(pole, R(0.0), u * 2.0 * x / ray);
+        R const cosAlpha = inner / ray, versine = u * 2.0 * x / ray;
         R const delta = oneMinusH(cosAlpha, versine, E, oneMinusE);
         R const h2 = E * (1.0 - delta) * (1.0 - delta), gap = oneMinusE + E * delta * (2.0 - delta);
         auto const high = h2 < 0.25;

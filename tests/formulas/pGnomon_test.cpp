@@ -5,7 +5,6 @@
 #include <gtest/gtest.h>
 
 #include <cfloat>
-#include <cmath>
 
 using namespace ZrProj;
 using test::isMarked;
@@ -51,7 +50,4 @@ TEST(Gnomonic, DrawsGreatCirclesStraightOnASphere) {
     auto const a = map.forward(PROJPOINT{170, 0}), b = map.forward(PROJPOINT{-150, 0}),
                c = map.forward(PROJPOINT{-170, 0});
     EXPECT_NEAR((b.x - a.x) * (c.y - a.y) - (b.y - a.y) * (c.x - a.x), 0, 1e-2); // the equator; square metres
-    Projection nowhere("type=27 ellipsoid=48 lat1=-100");
-    EXPECT_TRUE(isMarked(nowhere.forward(PROJPOINT{5, 10})));
-    EXPECT_FALSE(nowhere.isInRange({5, 10}));
 }

@@ -4,8 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cfloat>
-#include <cmath>
 #include <cstring>
 
 using namespace ZrProj;
@@ -71,7 +69,7 @@ TEST(Hotine, ReadsItsFlagsAsBytes) {
     EXPECT_FALSE(unsplit.LLOffsetSplitObject(&west, 1, &offset, &other));
 }
 
-TEST(Hotine, MarksThePolesOfItsLineAndWhatLiesBeyond) {
+TEST(Hotine, MarksThePolesOfItsLine) {
     test::forEachLevel([](formulas::Level) {
         for (auto const* words : {"type=12 ellipsoid=47 lat0=0 lon0=20 alpha=90 usealpha=1 rotate=1 uoffset=1",
                                   "type=12 ellipsoid=48 lat0=0 lon0=20 alpha=-90 usealpha=1"}) {
@@ -82,11 +80,6 @@ TEST(Hotine, MarksThePolesOfItsLineAndWhatLiesBeyond) {
             EXPECT_FALSE(isMarked(points[2]) || isMarked(points[3]));
             EXPECT_FALSE(equator.isInRange({30, 90}));
             EXPECT_TRUE(equator.isInRange({30, 89.9999}));
-            PROJPOINT far[] = {{1e300, 0}, {0, -1e300}, {DBL_MAX / 2, DBL_MAX / 2}, {0, 2.2e8}, {2.1e7, 0}, {0, 0}};
-            EXPECT_TRUE(equator.tryInverse(far));
-            for (int i = 0; i < 5; ++i)
-                EXPECT_TRUE(isMarked(far[i])) << i;
-            EXPECT_FALSE(isMarked(far[5]));
         }
     });
 }

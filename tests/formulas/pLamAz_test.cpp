@@ -4,7 +4,6 @@
 
 #include <gtest/gtest.h>
 
-#include <cfloat>
 #include <cmath>
 
 using namespace ZrProj;
@@ -29,9 +28,6 @@ TEST(LambertAzimuthal, MarksTheAntipodeAndNothingNearIt) {
         Projection polar("type=20 ellipsoid=47 lat1=-90 lon0=30");
         EXPECT_TRUE(isMarked(polar.forward(PROJPOINT{77, 90})));
         EXPECT_FALSE(polar.isInRange({77, 90}));
-        Projection nowhere("type=20 ellipsoid=47 lat1=-100");
-        EXPECT_TRUE(isMarked(nowhere.forward(PROJPOINT{5, 10})));
-        EXPECT_FALSE(nowhere.isInRange({5, 10}));
     });
 }
 
@@ -49,10 +45,6 @@ TEST(LambertAzimuthal, KeepsItsRimAndMarksWhatLiesOutside) {
             EXPECT_NEAR(std::hypot(back.x, back.y), rim, 1e-7);
             EXPECT_TRUE(isMarked(map.inverse(PROJPOINT{on.x * (1 + 1e-12), on.y * (1 + 1e-12)})));
         }
-        PROJPOINT far[] = {{1e300, 0}, {0, -1e300}, {DBL_MAX / 2, DBL_MAX / 2}};
-        EXPECT_TRUE(map.tryInverse(far));
-        for (auto const& point : far)
-            EXPECT_TRUE(isMarked(point));
     });
 }
 

@@ -4,7 +4,7 @@
 
 #include <gtest/gtest.h>
 
-#include <cfloat>
+#include <cmath>
 
 using namespace ZrProj;
 using test::isMarked;
@@ -37,17 +37,13 @@ TEST(ObliqueMercator, LaysItsLineAlongX) {
     });
 }
 
-TEST(ObliqueMercator, MarksThePolesOfItsLineAndWhatLiesBeyond) {
+TEST(ObliqueMercator, MarksThePolesOfItsLine) {
     test::forEachLevel([](formulas::Level) {
         Projection meridian("type=25 ellipsoid=47 lat1=10 lon1=30 lat2=50 lon2=30");
         PROJPOINT points[] = {{120, 0}, {-60, -0.0}, {120, 1e-6}, {30, 90}};
         EXPECT_TRUE(meridian.tryForward(points));
         EXPECT_TRUE(isMarked(points[0]) && isMarked(points[1]));
         EXPECT_FALSE(isMarked(points[2]) || isMarked(points[3]));
-        PROJPOINT far[] = {{1e300, 0}, {0, -1e300}, {DBL_MAX / 2, DBL_MAX / 2}, {0, 2.2e8}, {2.1e7, 0}};
-        EXPECT_TRUE(meridian.tryInverse(far));
-        for (auto const& point : far)
-            EXPECT_TRUE(isMarked(point));
     });
 }
 

@@ -62,10 +62,3 @@ TEST(Stereographic, IsTheSameAtAPoleAndBesideIt) {
         }
     });
 }
-
-TEST(Stereographic, NeedsALatitudeForItsCentre) {
-    Projection nowhere("type=6 ellipsoid=47 lat0=100");
-    EXPECT_TRUE(isMarked(nowhere.forward(PROJPOINT{5, 10})));
-    EXPECT_TRUE(isMarked(nowhere.inverse(PROJPOINT{5, 10})));
-    EXPECT_FALSE(nowhere.isInRange({5, 10}));
-}

@@ -41,9 +41,7 @@ double mapApart(PROJPOINT const& a, PROJPOINT const& b) {
 
 /// What a round trip may lose, in degrees, where more than what 4e-8 m on the map mean.
 double roundTripDegrees(PROJDATA const& record) {
-    if (isTransverseMercator(record.Type))
-        return 2e-8;
-    return record.Type == ProjTypeCassini ? 1e-8 : 1e-11;
+    return isTransverseMercator(record.Type) ? 2e-8 : 1e-11;
 }
 
 /// Whether the type promises anything at a point: the series mean something near their meridian, and do not wrap.

@@ -90,7 +90,7 @@ TEST(Catalogue, ReadsAndWritesParametersByIdentifier) {
     double read = 0;
     ASSERT_TRUE(ProjSetParam(record, 4, &northing) && ProjGetParam(record, 4, &read));
     EXPECT_EQ(read, northing);
-    EXPECT_EQ(record->yOrg, northing);
+    EXPECT_EQ(+record->yOrg, northing);
     EXPECT_FALSE(ProjSetParam(record, 0, &northing));
     EXPECT_FALSE(ProjGetParam(record, 23, &read));
     EXPECT_FALSE(ProjGetParam(nullptr, 4, &read));

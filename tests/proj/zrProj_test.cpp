@@ -66,21 +66,22 @@ std::vector<PROJPOINT> pointsAround(double lon0, std::size_t count, unsigned see
 
 } // namespace
 
+// Fields of the packed record are compared as values (+field): no reference may be bound to them.
 TEST(Creation, CompletesTheRecord) {
     PROJDATA record = utm17();
     record.bSouth = true;
     record.Reserved[255] = 0x5A;
     void* const handle = ProjCreateProjection(&record);
     ASSERT_TRUE(handle);
-    EXPECT_EQ(record.K0, 0.9996);
-    EXPECT_EQ(record.xOrg, 500000);
-    EXPECT_EQ(record.yOrg, 10000000);
-    EXPECT_EQ(record.MajorRadius, 6378137);
-    EXPECT_EQ(record.Flattening, 1 / 298.257223563);
-    EXPECT_EQ(record.Scale, 0); // only the handle's scale becomes 1
+    EXPECT_EQ(+record.K0, 0.9996);
+    EXPECT_EQ(+record.xOrg, 500000);
+    EXPECT_EQ(+record.yOrg, 10000000);
+    EXPECT_EQ(+record.MajorRadius, 6378137);
+    EXPECT_EQ(+record.Flattening, 1 / 298.257223563);
+    EXPECT_EQ(+record.Scale, 0); // only the handle's scale becomes 1
     PROJDATA inside;
     ASSERT_TRUE(ProjGetHandleInfo(handle, &inside));
-    EXPECT_EQ(inside.Scale, 1);
+    EXPECT_EQ(+inside.Scale, 1);
     EXPECT_EQ(inside.Reserved[255], 0x5A);
     EXPECT_FALSE(ProjGetHandleInfo(handle, nullptr));
     EXPECT_FALSE(ProjGetHandleInfo(nullptr, &inside));
@@ -363,7 +364,7 @@ TEST(StatePlane, ConvertsThroughItsZone) {
     EXPECT_FALSE(ProjLLInProjection(zone.handle, &point));
     PROJDATA inside;
     ASSERT_TRUE(ProjGetHandleInfo(zone.handle, &inside));
-    EXPECT_EQ(inside.Type, ProjTypeStatePlane1983);
+    EXPECT_TRUE(inside.Type == ProjTypeStatePlane1983);
     record.Scale = 3937.0 / 1200;
     Handle const feet(record);
     EXPECT_NEAR(forward(feet.handle, -86, 33).x, forward(tm.handle, -86, 33).x * 3937 / 1200, 1e-6);

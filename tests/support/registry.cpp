@@ -243,6 +243,10 @@ void addNeighbours(std::vector<PROJPOINT>& points, PROJPOINT centre) {
         for (double const step : {0.0, 1e-12, 1e-9, 1e-6, 1e-3, 0.1})
             for (auto const [east, north] : {PROJPOINT{1, 0}, {-1, 0}, {0, 1}, {0, -1}, {1, 1}, {-1, 1}})
                 points.push_back({p.x + step * east, p.y + step * north});
+    std::mt19937_64 random(24);
+    std::uniform_real_distribution<double> beside(-1, 1);
+    for (int i = 0; i < 300; ++i)
+        points.push_back({antipode.x + beside(random), antipode.y + beside(random)});
 }
 
 } // namespace

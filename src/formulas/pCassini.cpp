@@ -1,0 +1,237 @@
+// Cassini, or Cassini-Soldner: northings along the central meridian, eastings at right angles to it, both true.
+//
+// Source    Snyder (1987), Map Projections: A Working Manual, pp. 92-95; equation numbers are his.
+// Departs   the ellipsoid by geodesics, geodesic.h, instead of the series (13-7) to (13-13), which lose millimetres 3
+//           degrees from the central meridian.
+// Accuracy  1e-8 m on the Earth; round trip 2e-13 degrees, 2e-12 at the map's edges. 3e-7 m for flattenings of 1/50
+//           (measured).
+// Domain    the globe, the half beyond the poles too; flattenings up to 1/50, beyond which there is no map. Its edges
+//           are where geodesics from the central meridian meet: a quarter turn from it, in sigma, on the equator, their
+//           mirror images, or all others on a sphere; and on the meridian's far side. Of such a place's points on the
+//           edges the northern one is shown, of all the others the one on the equator.
+//
+// phi, lambda     latitude, longitude from the central meridian          B   as in the source
+// D, beta1        latitude and reduced latitude of the foot: the place on the central meridian as far north as the
+//                 point, beyond 90 degrees on the far side of a pole
+#include "formulas/driver.h"
+#include "formulas/edges.h"
+#include "formulas/formula_set.h"
+#include "formulas/geodesic.h"
+#include "formulas/longitude.h"
+#include "formulas/world.h"
+
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace {
+
+/// The foot's latitude: the one at the southern end of the map belongs to the northern end.
+template <class R> R withinSeams(R foot) {
+    return select(foot < -pi + 4 * seam, R(pi), foot);
+}
+template <class R> Condition<R> isBetweenSeams(R foot) {
+    return (foot > -pi + 2 * seam) & (foot <= pi * (1 + coordinateNoise));
+}
+
+struct Spherical {
+    double radius, phi0, lambda0;
+
+    explicit Spherical(PROJDATA const& work) : radius(work.MajorRadius), phi0(work.Lat0), lambda0(work.Lon0) {}
+
+    template <class R> Xy<R> forward(LonLat<R> p) const {
+        auto const phi = sinCos(p.lat), lambda = sinCos(longitudeFrom(lambda0, p.lon));
+        R const B = phi.cos * lambda.sin, out = phi.cos * lambda.cos; // (8-5)
+        R const across = sqrt(phi.sin * phi.sin + out * out);
+        R const D = select(across < 4 * seam, R(0.0), withinSeams(atan2(phi.sin, out)));
+        return {radius * atan2(B, across), radius * (D - phi0)}; // (13-1), (13-2)
+    }
+
+    template <class R> LonLat<R> inverse(Xy<R> p) const {
+        R const east = inUnitsOf(radius, p.x), D = inUnitsOf(radius, p.y) + phi0; // (13-6)
+        R const x = clamped(east, -halfPi, halfPi);
+        auto const focus = (abs(D) < 10 * coordinateNoise) & (abs(east) <= halfPi * (1 + coordinateNoise));
+        auto const inside = isBetweenSeams(D) & ((abs(east) < halfPi - 2 * seam) | focus);
+        auto const arc = sinCos(x), foot = sinCos(D);
+        R const out = arc.cos * foot.cos;
+        R const phi = atan2(arc.cos * foot.sin, sqrt(arc.sin * arc.sin + out * out)); // (13-4)
+        return {lambda0 + atan2(arc.sin, out), select(inside, phi, R(unplottable))};  // (13-5)
+    }
+};
+
+/// A geodesic that leaves the central meridian at right angles, its length in units of the semi-minor axis.
+template <class R> struct Offset {
+    SinCos<R> beta1;
+    R length;
+};
+
+/// The central meridian, a geodesic whose sigma is the reduced latitude; lengths in units of the semi-minor axis.
+struct CentralMeridian {
+    double A1;
+    Waves<double> toTau, toSigma;
+
+    explicit CentralMeridian(double n) : A1(lengthOverTau(n)), toTau(wavesToTau(n)), toSigma(wavesToSigma(n)) {}
+
+    template <class R> R northing(R sigma, SinCos<R> at) const { return A1 * (sigma + evenSines(toTau.c, at)); }
+    template <class R> R sigma(R tau) const { return tau + evenSines(toSigma.c, sinCos(tau)); }
+};
+
+struct Ellipsoidal {
+    GeodesicSeries series;
+    CentralMeridian meridian;
+    double f, b, y0, lambda0; // y0: the northing of Lat0 from the equator
+    double focus;             // the size of the astroid on the equator, as an arc
+    int steps;                // of Newton's method close to the central meridian
+
+    static constexpr double closeBy = 0.08; // radians
+
+    explicit Ellipsoidal(PROJDATA const& work)
+        : series(work.Flattening), meridian(work.Flattening / (2 - work.Flattening)), f(work.Flattening),
+          b(work.MajorRadius * (1 - f)), y0(northing(series.reduced(work.Lat0))), lambda0(work.Lon0), focus(f * halfPi),
+          steps(1 + int(200 * f)) {}
+
+    template <class R> Xy<R> forward(LonLat<R> p) const {
+        R const lambda = longitudeFrom(lambda0, p.lon), east = abs(lambda);
+        auto map = closeForward(p.lat, east);
+        auto const far = east > closeBy;
+        if (any(far)) { // the values of the others are the same either way
+            auto const offset = offsetTo(series.reduced(p.lat), east);
+            map = {select(far, offset.length, map.x), select(far, northing(offset.beta1), map.y)};
+        }
+        return {copySign(b * map.x, lambda), b * (map.y - y0)};
+    }
+
+    template <class R> LonLat<R> inverse(Xy<R> p) const {
+        R const x = abs(inUnitsOf(b, p.x)), tau = (inUnitsOf(b, p.y) + y0) * (1 / meridian.A1);
+        auto const foot = sinCos(meridian.sigma(clamped(tau, -pi, pi)));
+        auto const line = lineFrom(foot);
+        R const tau12 = x / line.A1;
+        auto const northernEdge = (foot.sin > -10 * coordinateNoise) & (tau12 <= halfPi * (1 + coordinateNoise));
+        auto const inside = isBetweenSeams(tau) & ((tau12 < halfPi - 2 * seam) | northernEdge);
+        auto const end = series.end(line, tau12);
+        return {lambda0 + copySign(end.lambda12, p.x), select(inside, series.geodetic(end.beta2), R(unplottable))};
+    }
+
+private:
+    template <class R> R northing(SinCos<R> beta1) const {
+        return meridian.northing(withinSeams(atan2(beta1.sin, beta1.cos)), beta1);
+    }
+
+    template <class R> GeodesicLine<R> lineFrom(SinCos<R> beta1) const { return series.line(beta1, {R(1.0), R(0.0)}); }
+
+    /// Up to `closeBy` from the central meridian: omega = lambda + f cos(beta1) I3(sigma12), (8), by Newton's method,
+    /// in powers of the squared sine of sigma12. Returns the length and the northing.
+    template <class R> Xy<R> closeForward(R phi, R lambda) const {
+        auto const at = sinCos(phi), beta = angleOfPoint<R>({(1 - f) * at.sin, at.cos});
+        R const k2 = series.k2(beta.sin), c2 = beta.cos * beta.cos;
+        R const first = f * c2 * (1.0 - 0.25 * k2);
+        R excess = first * (1.0 + first) * lambda * (1.0 + (2.0 / 3) * (c2 - 1.0) * lambda * lambda); // omega - lambda
+        R epsilon = 0.0, move = 0.0;
+        SinCos<R> omega{};
+        for (int i = 0; i < steps; ++i) {
+            omega = ofSmall(lambda + excess);
+            R const w2 = omega.sin * omega.sin, q = c2 * w2;
+            epsilon = epsilonOf(k2 * inverse1Minus(q));
+            auto const third = series.series3(epsilon);
+            R const waves = 2.0 * evenSinesOverFirst(third.C3, 4.0 * q - 2.0);
+            R const lag = f * c2 * omega.sin * omega.cos * third.A3 * (polynomial(q, arcsineOverCosine) - waves);
+            R const slope = f * c2 * (1.0 - epsilon) * (1.0 - 2.0 * w2 + 2.0 * q);
+            move = (lag - excess) * inverse1Minus(slope);
+            excess = excess + move;
+        }
+        epsilon = epsilon * (1.0 + 2.0 * c2 * omega.sin * omega.cos * move);
+        return closeEnd(phi, at, beta, sumOf(omega, {move, R(1.0)}), epsilon);
+    }
+
+    template <class R> Xy<R> closeEnd(R phi, SinCos<R> at, SinCos<R> beta, SinCos<R> omega, R epsilon) const {
+        R const p = beta.cos * omega.sin, q = p * p, secant = polynomial(q, inverseRoot1Minus);
+        SinCos<R> const foot{beta.sin * secant, beta.cos * omega.cos * secant}, sigma2{(1.0 - q) * secant, -p};
+        R const less = at.sin * foot.cos - at.cos * foot.sin; // the sine of phi - beta1
+        R const beta1 = phi - less * polynomial(less * less, arcsine);
+        R const sigma12 = p * polynomial(q, arcsine);
+        return {lengthOverTau(epsilon) * (sigma12 + evenSines(wavesToTau(epsilon).c, sigma2)),
+                meridian.northing(beta1, foot)};
+    }
+
+    /// Series for a square up to 0.0064: arcsine over sine, the same over cosine, 1 / cosine.
+    static constexpr double arcsine[] = {1, 1.0 / 6, 3.0 / 40, 5.0 / 112, 35.0 / 1152, 63.0 / 2816, 231.0 / 13312};
+    static constexpr double arcsineOverCosine[] = {1, 2.0 / 3, 8.0 / 15, 16.0 / 35, 128.0 / 315, 256.0 / 693};
+    static constexpr double inverseRoot1Minus[] = {1,          1.0 / 2,    3.0 / 8,      5.0 / 16,
+                                                   35.0 / 128, 63.0 / 256, 231.0 / 1024, 429.0 / 2048};
+
+    template <class R> static R inverse1Minus(R x) {
+        R const x2 = x * x;
+        return (1.0 + x) * (1.0 + x2) * (1.0 + x2 * x2);
+    }
+
+    template <class R> static SinCos<R> ofSmall(R angle) {
+        constexpr double sine[] = {1, -1.0 / 6, 1.0 / 120, -1.0 / 5040, 1.0 / 362880};
+        constexpr double cosine[] = {1, -1.0 / 2, 1.0 / 24, -1.0 / 720, 1.0 / 40320, -1.0 / 3628800};
+        R const square = angle * angle;
+        return {angle * polynomial(square, sine), polynomial(square, cosine)};
+    }
+
+    /// By Newton's method on the foot and the length: two or three steps, a few more within metres of where the astroid
+    /// on the equator ends.
+    template <class R> Offset<R> offsetTo(SinCos<R> beta, R lambda) const {
+        auto offset = estimate(beta, lambda);
+        auto arrived = lambda != lambda;
+        for (int i = 0; i < 40 && !all(arrived); ++i) {
+            auto const line = lineFrom(offset.beta1);
+            auto const end = series.end(line, offset.length / line.A1);
+            auto const miss = series.miss(end, beta, lambda);
+            R const reach = series.meridianScale(offset.beta1) * series.geodesicScale(line, end);
+            R const turn = clamped(-miss.right / larger(reach, R(1e-13)), -0.5, 0.5);
+            auto const turned = angleOfPoint(sumOf(offset.beta1, sinCos(turn)));
+            offset.beta1 = {select(arrived, offset.beta1.sin, turned.sin),
+                            select(arrived, offset.beta1.cos, turned.cos)};
+            offset.length = offset.length + select(arrived, R(0.0), miss.ahead / (1 - f));
+            arrived = arrived | isLast(miss, turn);
+        }
+        R const tau12 = offset.length / lineFrom(offset.beta1).A1;
+        offset.beta1.sin = select(tau12 > halfPi - 4 * seam, abs(offset.beta1.sin), offset.beta1.sin);
+        return offset;
+    }
+
+    /// Within some 1e-5 of the geodesic; its length by (15) to the first order in k^2.
+    template <class R> Offset<R> estimate(SinCos<R> beta, R lambda) const {
+        auto const first = onSphere(beta, lambda);
+        auto const second = onSphere(beta, lambda + f * first.beta1.cos * first.sigma12);
+        R const wave = second.sigma12 + second.arc.sin * second.arc.cos;
+        Offset<R> const usual{second.beta1, second.sigma12 + 0.25 * series.k2(second.beta1.sin) * wave};
+        auto const focal = second.sigma12 > halfPi - 3 * focus;
+        if (!any(focal)) // most often; the values of the others are the same either way
+            return usual;
+        auto const before = beforeFocus((halfPi - lambda) / focus, beta.sin / focus);
+        return {{select(focal, before.angle.sin, usual.beta1.sin), select(focal, before.angle.cos, usual.beta1.cos)},
+                select(focal, halfPi - focus * before.kappa, usual.length)};
+    }
+
+    /// The great circle from the central meridian to a place on the auxiliary sphere.
+    template <class R> struct Circle {
+        SinCos<R> beta1, arc;
+        R sigma12;
+    };
+
+    template <class R> static Circle<R> onSphere(SinCos<R> beta, R omega) {
+        auto const at = sinCos(omega);
+        R const out = beta.cos * at.cos, east = beta.cos * at.sin, up = sqrt(beta.sin * beta.sin + out * out);
+        return {angleOfPoint<R>({beta.sin, out}), {east, up}, atan2(east, up)};
+    }
+};
+
+void prepare(Converter& converter, PROJDATA const& work) noexcept {
+    if (!areLatitudes(halfPi, work.Lat0) || work.Flattening > GeodesicSeries::flattest)
+        hold(converter, Nowhere{});
+    else if (work.Flattening == 0)
+        hold(converter, Spherical(work));
+    else
+        hold(converter, Ellipsoidal(work));
+}
+
+bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
+    return std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
+}
+
+} // namespace
+
+constinit Formula const cassini{prepare, inProjection, splitOppositeToLon0};
+
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL
