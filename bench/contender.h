@@ -18,7 +18,7 @@ struct Contender {
     Convert forward, inverse;
 };
 
-/// zrproj at every processor level that this machine has; empty where the type has no formula.
+/// zrproj at every processor level that this machine has.
 std::vector<Contender> zrprojContenders(Case const& definition);
 std::vector<Contender> projContenders(Case const& definition);
 /// Empty where GeographicLib does not have the projection.

@@ -80,10 +80,6 @@ void append(std::vector<Contender>& contenders, std::vector<Contender> more) {
 
 std::vector<Contender> contendersFor(Case const& definition) {
     auto contenders = zrprojContenders(definition);
-    if (contenders.empty()) {
-        std::printf("%s: no formula yet, left out\n", definition.name);
-        return contenders;
-    }
 #if defined(ZRPROJ_BENCH_PROJ)
     append(contenders, projContenders(definition));
 #endif

@@ -32,8 +32,6 @@ Contender contenderAt(NamedLevel const& at, Case const& definition) {
 
 std::vector<Contender> zrprojContenders(Case const& definition) {
     std::vector<Contender> contenders;
-    if (!formulas::formulaOf(definition.type))
-        return contenders;
     for (auto const& level : levels)
         if (formulas::isAvailable(level.level))
             contenders.push_back(contenderAt(level, definition));

@@ -218,18 +218,12 @@ Projection atScalarLevel(std::string const& words) {
 
 class Sweep : public testing::TestWithParam<ProjType> {
 protected:
-    void SetUp() override {
-        if (test::isYetToCome(GetParam()))
-            GTEST_SKIP() << "no formula yet";
-    }
-
     /// Calls check(projection) for each of the type's parameter sets at each processor level.
     template <class Check> static void forEachProjection(Check const& check) {
         test::forEachLevel([&](formulas::Level) {
             for (auto const& words : test::parameterSets(GetParam())) {
                 Projection projection(words);
-                if (!test::isYetToCome(projection.record().Type))
-                    check(projection);
+                check(projection);
             }
         });
     }
@@ -246,22 +240,6 @@ std::string nameOf(testing::TestParamInfo<ProjType> const& type) {
 INSTANTIATE_TEST_SUITE_P(Projections, Sweep, testing::ValuesIn(test::projectingTypes()), nameOf);
 
 } // namespace
-
-TEST(SweepRegistry, KnowsWhichTypesConvert) {
-    for (auto const type : test::projectingTypes()) {
-        auto const sets = test::parameterSets(type);
-        ASSERT_FALSE(sets.empty()) << type;
-        for (auto const& words : sets) {
-            Projection projection(words);
-            auto points = projection.samples();
-            bool const inRange = std::ranges::any_of(points, [&](auto const& p) { return projection.isInRange(p); });
-            bool const listed = test::isYetToCome(projection.record().Type);
-            EXPECT_EQ(inRange, !listed) << words << ": take the type off, or put it on, the list notYet";
-            PROJPOINT point{projection.record().Lon0 + 1, 40};
-            EXPECT_EQ(projection.tryForward({&point, 1}), !listed) << words;
-        }
-    }
-}
 
 TEST_P(Sweep, RoundTrips) {
     forEachProjection([](Projection& projection) {
@@ -311,8 +289,6 @@ TEST(SweepOdd, ParameterSetsOfLittleUseFailNoCall) {
     test::forEachLevel([](formulas::Level) {
         for (auto const& words : test::oddParameterSets()) {
             Projection projection(words);
-            if (test::isYetToCome(projection.record().Type))
-                continue;
             projection.inverse(projection.forward(projection.samples()));
             expectRoundTrips(projection);
             expectMapsBack(projection, mapSamples(projection, 0.4), 1e-6);

@@ -306,6 +306,7 @@ std::vector<std::string> parameterSets(ProjType type) {
     for (std::string const words : sets)
         if (recordOf(words).Type == type)
             result.push_back(words);
+    EXPECT_FALSE(result.empty()) << type;
     return result;
 }
 

@@ -3,19 +3,11 @@
 
 #include <zrproj/projection.h>
 
-#include <algorithm>
-#include <array>
 #include <span>
 #include <string>
 #include <vector>
 
 namespace ZrProj::test {
-
-/// The types whose formulas are still to come.
-inline constexpr std::array<ProjType, 0> notYet{};
-inline bool isYetToCome(ProjType type) {
-    return std::ranges::find(notYet, type) != notYet.end();
-}
 
 /// A projection as the checks see it. Made with the processor level in use.
 class Projection {
