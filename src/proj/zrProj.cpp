@@ -10,15 +10,14 @@
 #include <cmath>
 #include <memory>
 #include <new>
-#include <source_location>
 #include <span>
 
 namespace ZrProj {
 namespace {
 
 /// Reports an internal inconsistency at the place of the call. Always false.
-bool inconsistent(std::source_location place = std::source_location::current()) noexcept {
-    return AssertFailed(".\\zrProj.cpp", static_cast<int>(place.line()));
+bool inconsistent(int line = __builtin_LINE()) noexcept {
+    return AssertFailed(".\\zrProj.cpp", line);
 }
 
 bool isStatePlane(ProjType type) {
