@@ -23,7 +23,7 @@ struct Converter {
     Run inverse = nullptr;
     double xOrg = 0, yOrg = 0, scale = 1;
     bool hasMap = false; // false where the record defines no map: every point is unplottable
-    alignas(std::max_align_t) std::byte constants[2048]; // read by the two functions only
+    alignas(std::max_align_t) std::byte constants[3072]; // read by the two functions only
 };
 
 /// The operations of a projection type. `work` has its angles in radians and the ellipsoid in MajorRadius and
