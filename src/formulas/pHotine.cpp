@@ -155,20 +155,19 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 }
 
 PROJDATA inRadians(PROJDATA record) {
-    constexpr double radian = pi / 180;
-    record.Lat0 *= radian;
-    record.Lon0 *= radian;
-    record.Lat1 *= radian;
-    record.Lon1 *= radian;
-    record.Lat2 *= radian;
-    record.Lon2 *= radian;
-    record.Alpha *= radian;
+    record.Lat0 *= degree;
+    record.Lon0 *= degree;
+    record.Lat1 *= degree;
+    record.Lon1 *= degree;
+    record.Lat2 *= degree;
+    record.Lon2 *= degree;
+    record.Alpha *= degree;
     return record;
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     Setting const at(inRadians(record));
-    double const lambda = point.x * (pi / 180), phi = point.y * (pi / 180);
+    double const lambda = point.x * degree, phi = point.y * degree;
     double const L = at.sphere.B * longitudeFrom(at.line.lambda0, lambda);
     auto const p = at.cylinder.pole.place(mercatorLatitude(at.sphere.isometricOn(phi)), L + halfPi);
     bool const covered = std::fabs(L) > pi && std::fabs(point.y) < 90;

@@ -66,7 +66,7 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    auto const radians = [](double degrees) { return degrees * pi / 180; };
+    auto const radians = [](double degrees) { return degrees * degree; };
     NorthernPole const pole({radians(record.Lon1), radians(record.Lat1)}, {radians(record.Lon2), radians(record.Lat2)});
     double const theta = longitudeFrom(pole.lambda, radians(point.x));
     auto const p = CentredFrame{pole.sin, pole.cos}.place(sinCos(radians(point.y)), theta);
