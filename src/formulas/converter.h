@@ -19,14 +19,13 @@ struct Outcome {
 };
 
 /// A projection made ready for one record: the formula's constants and the functions that run it over arrays, in place,
-/// between degrees and map coordinates.
+/// between degrees and map coordinates; null where the record defines no map.
 struct Converter {
     using Run = Outcome (*)(Converter const& converter, PROJPOINT* points, int count) noexcept;
 
     Run forward = nullptr;
     Run inverse = nullptr;
     double xOrg = 0, yOrg = 0, scale = 1;
-    bool hasMap = false; // false where the record defines no map: every point is unplottable
     alignas(std::max_align_t) std::byte constants[3072]; // read by the two functions only
 };
 

@@ -175,19 +175,12 @@ Outcome convertArray(Converter const& converter, PROJPOINT* points, int count) n
     return outcome;
 }
 
-/// The map of a record that defines none: every point is unplottable.
-struct Nowhere {
-    template <class R> Xy<R> forward(LonLat<R>) const { return {unplottable, unplottable}; }
-    template <class R> LonLat<R> inverse(Xy<R>) const { return {unplottable, unplottable}; }
-};
-
 /// Makes `formula` what the converter runs.
 template <class P> void hold(Converter& converter, P const& formula) {
     static_assert(std::is_trivially_copyable_v<P> && sizeof(P) <= sizeof converter.constants);
     std::memcpy(converter.constants, &formula, sizeof formula);
     converter.forward = convertArray<P, Forward<P>>;
     converter.inverse = convertArray<P, Inverse<P>>;
-    converter.hasMap = !std::is_same_v<P, Nowhere>;
 }
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -182,8 +182,8 @@ private:
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     if (!areLatitudes(work.Lat1) || work.Flattening > GeodesicSeries::flattest)
-        hold(converter, Nowhere{});
-    else if (work.Flattening == 0)
+        return;
+    if (work.Flattening == 0)
         hold(converter, Spherical(work));
     else if (std::fabs(work.Lat1) == halfPi)
         hold(converter, Polar(work));

@@ -58,8 +58,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
     double const side = sideOf(work.Lat1, 0), phi1 = side * work.Lat1;
     if (hasMap(work))
         hold(converter, Bonne(work, side, phi1 > straight ? phi1 : straight));
-    else
-        hold(converter, Nowhere{});
 }
 
 } // namespace

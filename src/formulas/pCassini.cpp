@@ -167,8 +167,8 @@ private:
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     if (!areLatitudes(work.Lat0) || work.Flattening > GeodesicSeries::flattest)
-        hold(converter, Nowhere{});
-    else if (work.Flattening == 0)
+        return;
+    if (work.Flattening == 0)
         hold(converter, Spherical(work));
     else
         hold(converter, Ellipsoidal(work));

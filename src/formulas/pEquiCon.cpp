@@ -66,8 +66,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
     double const side = sideOf(work.Lat1, work.Lat2);
     if (hasMap(work))
         hold(converter, EquidistantConic(work, side, side * work.Lat1, side * work.Lat2));
-    else
-        hold(converter, Nowhere{});
 }
 
 } // namespace

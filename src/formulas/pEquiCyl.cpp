@@ -40,8 +40,6 @@ bool hasMap(PROJDATA const& work) {
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     if (hasMap(work))
         hold(converter, EquidistantCylindrical(work));
-    else
-        hold(converter, Nowhere{});
 }
 
 } // namespace

@@ -44,8 +44,6 @@ struct Gnomonic {
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     if (areLatitudes(work.Lat1))
         hold(converter, Gnomonic(work));
-    else
-        hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {

@@ -150,8 +150,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
     Setting const setting(work);
     if (setting.defined)
         hold(converter, Hotine(work, setting));
-    else
-        hold(converter, Nowhere{});
 }
 
 PROJDATA inRadians(PROJDATA record) {

@@ -85,8 +85,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
     double const side = sideOf(work.Lat1, work.Lat2);
     if (hasMap(work))
         hold(converter, LambertConformalConic(work, side, side * work.Lat1, side * work.Lat2));
-    else
-        hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {

@@ -42,8 +42,6 @@ bool hasMap(PROJDATA const& work) {
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     if (hasMap(work))
         hold(converter, Mercator(work));
-    else
-        hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const&, PROJPOINT const& point) noexcept {

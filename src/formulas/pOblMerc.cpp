@@ -61,8 +61,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
     NorthernPole const pole({work.Lon1, work.Lat1}, {work.Lon2, work.Lat2});
     if (pole.defined)
         hold(converter, ObliqueMercator(work, pole));
-    else
-        hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {

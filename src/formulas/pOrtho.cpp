@@ -60,8 +60,6 @@ struct Orthographic {
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     if (areLatitudes(work.Lat0))
         hold(converter, Orthographic(work));
-    else
-        hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {

@@ -81,8 +81,6 @@ bool hasMap(PROJDATA const& work) {
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     if (hasMap(work))
         hold(converter, Polyconic(work));
-    else
-        hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {

@@ -45,8 +45,6 @@ bool hasMap(PROJDATA const& work) {
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     if (hasMap(work))
         hold(converter, Sinusoidal(work));
-    else
-        hold(converter, Nowhere{});
 }
 
 } // namespace

@@ -86,7 +86,7 @@ void prepare(ProjectionBlock& block) noexcept {
     }
 }
 
-/// Marks infinite and NaN points; what is left of a conversion that computes nothing.
+/// What is left of a conversion that computes nothing: marks infinite and NaN points.
 bool markNotFinite(std::span<PROJPOINT> points) noexcept {
     bool marked = false;
     for (auto& point : points) {
@@ -96,6 +96,20 @@ bool markNotFinite(std::span<PROJPOINT> points) noexcept {
         marked = true;
     }
     return marked;
+}
+
+/// The conversion of a record that defines no map.
+formulas::Outcome markAll(std::span<PROJPOINT> points) noexcept {
+    formulas::Outcome outcome;
+    for (auto& point : points) {
+        bool const marked =
+            (point.x == DBL_MAX && std::isfinite(point.y)) || (point.y == DBL_MAX && std::isfinite(point.x));
+        if (marked)
+            continue;
+        point = {DBL_MAX, DBL_MAX};
+        outcome.unplottable = true;
+    }
+    return outcome;
 }
 
 struct Direction {
@@ -121,11 +135,10 @@ bool convert(void* handle, PROJPOINT* points, int count, Direction const& direct
     auto& block = ProjectionBlock::of(handle);
     if (!block.formula)
         return convertNothing(block.record, {points, static_cast<std::size_t>(count)});
-    formulas::Outcome outcome;
-    {
-        FloatingPointScope const scope;
-        outcome = (block.converter.*direction.run)(block.converter, points, count);
-    }
+    auto const run = block.converter.*direction.run;
+    auto const outcome = withDefaultFloatingPoint([&] {
+        return run ? run(block.converter, points, count) : markAll({points, static_cast<std::size_t>(count)});
+    });
     block.record.iResult = outcome.unplottable || outcome.failed ? 1 : 0;
     if (outcome.failed)
         LogPrintf("%s", direction.failure);
@@ -210,7 +223,7 @@ bool ProjLLInProjection(void* handle, PROJPOINT const* point) {
         return false;
     if (!block.formula)
         return inconsistent();
-    return block.converter.hasMap &&
+    return block.converter.forward &&
            withDefaultFloatingPoint([&] { return block.formula->inProjection(block.area, *point); });
 }
 
