@@ -2,7 +2,6 @@
 #include "cli/commands.h"
 #include "cli/name_match.h"
 #include "cli/parameters.h"
-#include "cli/point_converter.h"
 #include "cli/state_plane.h"
 #include "cli/table.h"
 #include "cli/text.h"
@@ -16,30 +15,14 @@
 namespace ZrProj::Command {
 namespace {
 
-/// A record of a type that passes the checks, whatever the type.
-PROJDATA sampleRecord(ProjType type) {
-    PROJDATA record = {};
-    record.Type = type;
-    record.Ellipsoid = EllipsoidTypeWgs84;
-    record.Lat1 = 30;
-    record.Lat2 = 60;
-    record.Lon2 = 30;
-    record.Alpha = 30;
-    record.bUseAlpha = true;
-    return record;
-}
-
 Table projections() {
-    Table table{{"No", "Projection", "Converts", "Parameters"}, "rlll", {}};
+    Table table{{"No", "Projection", "Parameters"}, "rll", {}};
     for (int i = 0; i < ProjNumProjections(); ++i) {
         auto const type = static_cast<ProjType>(i);
         std::string options;
         for (int index = 0; index < ProjNumParams(type); ++index)
             options += (index ? " " : "") + parameter(ProjEnumParam(type, index)).option;
-        char const* const converts = type == ProjTypeUnprojectedLatLong ? ""
-                                     : canConvert(sampleRecord(type))   ? "yes"
-                                                                        : "not yet";
-        table.rows.push_back({std::to_string(i), projectionName(type), converts, options});
+        table.rows.push_back({std::to_string(i), projectionName(type), options});
     }
     return table;
 }

@@ -19,6 +19,16 @@ bool isMarked(PROJPOINT point) {
     return point.x == DBL_MAX || point.y == DBL_MAX;
 }
 
+/// Whether there is a map at all: some of these points are on every one.
+bool hasMap(CProjector& projector, PROJDATA const& record) {
+    for (double const lat : {-60.0, -0.5, 0.5, 60.0}) {
+        PROJPOINT const point{std::remainder(record.Lon0 + 0.5, 360), lat};
+        if (projector.LLInProjection(&point))
+            return true;
+    }
+    return false;
+}
+
 /// The record that the formulas see: of a State Plane zone its definition's.
 PROJDATA underlying(PROJDATA const& record) {
     PROJDATA result = record;
@@ -34,26 +44,15 @@ bool isSeries(ProjType type) {
 
 } // namespace
 
-bool canConvert(PROJDATA const& record) {
-    PROJDATA copy = record;
-    CProjector projector(&copy);
-    PROJDATA const formulas = underlying(record);
-    for (double step : {0.0, 0.5, -0.5}) {
-        PROJPOINT point{formulas.Lon0 + step, formulas.Lat0 + step};
-        if (projector.Forward(&point, 1))
-            return true;
-    }
-    return false;
-}
-
 PointConverter::PointConverter(PROJDATA record) : m_record(underlying(record)), m_series(isSeries(m_record.Type)) {
     if (record.Type == ProjTypeUnprojectedLatLong)
         throw UsageError(projectionName(record.Type) + " leaves points as they are; there is nothing to convert");
     record.Lon0 = m_record.Type == record.Type ? std::remainder(record.Lon0, 360) : record.Lon0;
-    if (!canConvert(record) || !m_projector.Create(&record))
-        throw UsageError("this version has no formulas for " + projectionName(m_record.Type) + " yet");
+    m_projector.Create(&record);
     m_projector.GetInfo(&record);
     m_record = underlying(record);
+    if (!hasMap(m_projector, m_record))
+        throw UsageError("with these parameters " + projectionName(m_record.Type) + " has no map");
 }
 
 /// The longitude within 180 degrees of the central one.

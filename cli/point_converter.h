@@ -52,8 +52,4 @@ private:
     bool m_series;                           // of the Transverse Mercator family
     std::vector<PROJPOINT> m_before, m_back; // the points as they came, and as they come back
 };
-
-/// Whether this version of the library has the formulas of a record that ProjCheckParams accepts.
-bool canConvert(PROJDATA const& record);
-
 } // namespace ZrProj::Command

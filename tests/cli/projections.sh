@@ -41,7 +41,7 @@ shows 'POSC code of two zones' '*State Zone  South Dakota North*' show --state-p
 shows 'the zone that the year leaves' '*Puerto Rico and Virgin Islands (1927)*' show --state-plane puerto --year 1927
 shows 'the completed record' '*WGS 84*6378137 metres*1/298.257223563*0.9996*-81 degrees*500000 metres*10000000 metres' \
     show --utm 17S
-shows 'projections' '* 4 *Universal Transverse Mercator (UTM)*yes*--k0 --lon0*28 *' list projections
+shows 'projections' '* 4 *Universal Transverse Mercator (UTM)*--k0 --lon0*28 *' list projections
 shows 'ellipsoids' '*Ellipsoid*47  WGS 84 *6378137.000*298.257223563*7030' list ellipsoids wgs84
 shows 'zones' '*USGS*407*26747*-*California VII' list zones 'california vii'
 shows 'parameters' '*--2nd-standard-parallel *--lat2*degrees*' list param parallel
