@@ -58,7 +58,7 @@ struct BursaWolf {
 BursaWolf methodOf(DATUM2WGS84 const& record) {
     Figures const own(record.MajorRadius, record.Flattening);
     Figures const wgs84(EllipsoidRadius(EllipsoidTypeWgs84), EllipsoidFlattening(EllipsoidTypeWgs84));
-    double const factor = 1 + record.Scale * 0.000001;
+    double const factor = 1 + record.Scale / 1e6;
     return record.bFromWGS84 ? BursaWolf(record, -1, 1 / factor, wgs84, own) : BursaWolf(record, 1, factor, own, wgs84);
 }
 
