@@ -48,8 +48,8 @@ struct BursaWolf {
 
     template <class R> Pair<R> geodetic(R X, R Y, R Z) const {
         R const p2 = X * X + Y * Y, p = sqrt(p2), r = sqrt(Z * Z + p2);
-        R const up = Z * (oneLessF + e2a / r), toU = 1.0 / sqrt(up * up + p2); // tan u = up / p
-        R const sinU = up * toU, cosU = p * toU;
+        R const up = Z * (oneLessF * r + e2a), out = p * r; // tan u = up / out
+        R const toU = 1.0 / sqrt(up * up + out * out), sinU = up * toU, cosU = out * toU;
         R const phi = atan2(Z * oneLessF + e2a * sinU * sinU * sinU, oneLessF * (p - e2a * cosU * cosU * cosU));
         return {atan2(Y, X) * radian, phi * radian};
     }
