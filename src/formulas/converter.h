@@ -26,6 +26,7 @@ struct Converter {
     Run forward = nullptr;
     Run inverse = nullptr;
     double xOrg = 0, yOrg = 0, scale = 1;
+    double fullTurn = 360; // what a longitude of 360 degrees comes back as: where that is an edge, just inside
     alignas(std::max_align_t) std::byte constants[3072]; // read by the two functions only
 };
 

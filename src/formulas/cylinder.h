@@ -15,6 +15,7 @@ template <class R> struct OnCylinder {
 };
 
 struct Cylinder {
+    double a;                  // semi-major axis
     double lambda0, perRadian; // length of a radian of longitude
     double top;                // how far north of the equator the map ends
     double origin;             // how far north of it the parallel of origin lies
@@ -24,12 +25,15 @@ struct Cylinder {
     }
 
     template <class R> OnCylinder<R> fromMap(Xy<R> p) const {
-        double const right = pi * perRadian * (1 + coordinateNoise), upper = top * (1 + coordinateNoise);
+        double const right = pi * perRadian + noiseOf(pi * perRadian), upper = top + noiseOf(top);
         R const y = p.y + origin;
         Condition<R> const outside = (abs(p.x) > right) | (abs(y) > upper);
         R const lambda = select(outside, R(0.0), p.x) * (1 / perRadian);
         return {lambda0 + clamped(lambda, -pi, pi), clamped(y, -top, top), outside};
     }
+
+private:
+    double noiseOf(double edge) const { return coordinateNoise * (edge > a ? edge : a); }
 };
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

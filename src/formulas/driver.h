@@ -57,8 +57,10 @@ template <class P> struct Inverse {
         auto const geographic = formula.inverse(Xy<R>{p.x, p.y});
         return {geographic.lon, geographic.lat};
     }
-    template <class R> static Pair<R> leave(Converter const&, Pair<R> p) {
-        return normalised(Pair<R>{p.x * radian, p.y * radian});
+    template <class R> static Pair<R> leave(Converter const& frame, Pair<R> p) {
+        R const lon = p.x * radian;
+        auto const turned = (abs(lon) >= 360.0) & (abs(lon) < 360 + 1e-12);
+        return normalised(Pair<R>{select(turned, copySign(R(frame.fullTurn), lon), lon), p.y * radian});
     }
 };
 

@@ -5,8 +5,8 @@
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 
-/// What rounding, a false origin's included, may move a point of the map, as a fraction of its coordinates and of the
-/// semi-major axis.
+/// What rounding, that of a false origin up to ten semi-major axes included, may move a point of the map, as a fraction
+/// of its coordinates and of the semi-major axis.
 inline constexpr double coordinateNoise = 1e-14;
 
 /// A condition on an R.

@@ -52,7 +52,7 @@ struct Spherical {
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
         R const x = inUnitsOf(radius, p.x), y = inUnitsOf(radius, p.y), c = sqrt(x * x + y * y); // (25-15)
-        auto const alpha1 = angleOfPoint<R>({x, y}), arc = sinCos(c);
+        auto const alpha1 = angleOfPoint<R>({x, y}), arc = sinCos(smaller(c, R(pi)));
         auto const at = frame.onSphere(Place<R>{alpha1.sin * arc.sin, alpha1.cos * arc.sin, arc.cos});
         return {lambda0 + at.theta, select(isInside(c, x, y), atan2(at.phi.sin, at.phi.cos), R(unplottable))};
     }
@@ -112,7 +112,7 @@ struct Ellipsoidal {
         R const x = abs(inUnitsOf(b, p.x)), y = inUnitsOf(b, p.y);
         auto const line = series.line(centre<R>(), angleOfPoint<R>({x, y}));
         R const tau12 = sqrt(x * x + y * y) / line.A1;
-        auto const end = series.end(line, tau12);
+        auto const end = series.end(line, smaller(tau12, R(pi)));
         auto const inside =
             (tau12 < pi - 2 * seam) | ((y > -10 * coordinateNoise) & (tau12 <= pi * (1 + coordinateNoise)));
         return {lambda0 + copySign(end.lambda12, p.x), select(inside, series.geodetic(end.beta2), R(unplottable))};

@@ -50,7 +50,7 @@ struct Spherical {
         R const x = clamped(east, -halfPi, halfPi);
         auto const focus = (abs(D) < 10 * coordinateNoise) & (abs(east) <= halfPi * (1 + coordinateNoise));
         auto const inside = isBetweenSeams(D) & ((abs(east) < halfPi - 2 * seam) | focus);
-        auto const arc = sinCos(x), foot = sinCos(D);
+        auto const arc = sinCos(x), foot = sinCos(clamped(D, -pi, pi));
         R const out = arc.cos * foot.cos;
         R const phi = atan2(arc.cos * foot.sin, sqrt(arc.sin * arc.sin + out * out)); // (13-4)
         return {lambda0 + atan2(arc.sin, out), select(inside, phi, R(unplottable))};  // (13-5)
@@ -105,7 +105,7 @@ struct Ellipsoidal {
         R const tau12 = x / line.A1;
         auto const northernEdge = (foot.sin > -10 * coordinateNoise) & (tau12 <= halfPi * (1 + coordinateNoise));
         auto const inside = isBetweenSeams(tau) & ((tau12 < halfPi - 2 * seam) | northernEdge);
-        auto const end = series.end(line, tau12);
+        auto const end = series.end(line, smaller(tau12, R(halfPi)));
         return {lambda0 + copySign(end.lambda12, p.x), select(inside, series.geodetic(end.beta2), R(unplottable))};
     }
 

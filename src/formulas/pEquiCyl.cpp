@@ -21,7 +21,7 @@ struct EquidistantCylindrical {
 
     explicit EquidistantCylindrical(PROJDATA const& work)
         : meridian(work.Flattening),
-          a(work.MajorRadius), cylinder{work.Lon0, a * meridian.parallel(work.Lat1), a * meridian.quadrant(), 0} {}
+          a(work.MajorRadius), cylinder{a, work.Lon0, a * meridian.parallel(work.Lat1), a * meridian.quadrant(), 0} {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         return cylinder.toMap(p.lon, a * meridian.distance(p.lat, sinCos(p.lat)));

@@ -22,7 +22,7 @@ struct Mercator {
 
     explicit Mercator(PROJDATA const& work)
         : isometric(work.Flattening),
-          a(work.MajorRadius), cylinder{work.Lon0, a, a * isometric.last, a * isometric.of(sinCos(work.Lat0))} {}
+          a(work.MajorRadius), cylinder{a, work.Lon0, a, a * isometric.last, a * isometric.of(sinCos(work.Lat0))} {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const map = cylinder.toMap(p.lon, a * isometric.of(sinCos(p.lat))); // (7-6), (7-7)

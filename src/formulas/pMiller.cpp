@@ -19,7 +19,8 @@ struct Miller {
     Cylinder cylinder;
 
     explicit Miller(PROJDATA const& work)
-        : stretch(1.25 * work.MajorRadius), cylinder{work.Lon0, work.MajorRadius, northOf(halfPi), 0} {}
+        : stretch(1.25 * work.MajorRadius), cylinder{work.MajorRadius, work.Lon0, work.MajorRadius, northOf(halfPi),
+                                                     0} {}
 
     template <class R> R northOf(R phi) const { return stretch * isometric(sinCos(0.8 * phi)); }
 

@@ -82,6 +82,7 @@ void prepare(ProjectionBlock& block) noexcept {
         block.converter.xOrg = work.xOrg;
         block.converter.yOrg = work.yOrg;
         block.converter.scale = work.Scale;
+        block.converter.fullTurn = std::fabs(work.Lon0) == 180 ? std::nextafter(360, 0) : 360;
         block.formula->prepare(block.converter, withRadians(work));
     }
 }
