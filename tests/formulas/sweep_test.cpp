@@ -41,7 +41,7 @@ double mapApart(PROJPOINT const& a, PROJPOINT const& b) {
 
 /// What a round trip may lose, in degrees, where more than what 4e-8 m on the map mean.
 double roundTripDegrees(PROJDATA const& record) {
-    return isTransverseMercator(record.Type) ? 2e-8 : 1e-11;
+    return isTransverseMercator(record.Type) ? 2e-8 : 1e-12;
 }
 
 /// Whether the type promises anything at a point: the series mean something near their meridian, and do not wrap.
@@ -54,10 +54,10 @@ bool isSamePlace(Projection& projection, PROJPOINT const& point, PROJPOINT const
     double const east = std::fabs(point.y) == 90 ? 0 : test::longitudesApart(point.x, back.x);
     if (std::max(east, std::fabs(point.y - back.y)) <= degrees)
         return true;
-    if (degrees > 1e-11)
+    if (degrees > 1e-12)
         return groundApart(point, back) <= degrees;
     double const apart = mapApart(projection.forward(point), projection.forward(back));
-    return groundApart(point, back) <= 1e-4 && apart <= projection.mapLength(4e-8) + projection.mapMove(point, degrees);
+    return groundApart(point, back) <= 1e-4 && apart <= projection.mapLength(2e-8) + projection.mapMove(point, degrees);
 }
 
 void expectRoundTrips(Projection& projection) {
