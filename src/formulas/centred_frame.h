@@ -3,6 +3,7 @@
 // phi1   latitude of the centre          theta   longitude east of the centre's meridian
 #pragma once
 
+#include "formulas/converter.h"
 #include "formulas/elementary.h"
 #include "formulas/outline.h"
 
@@ -55,7 +56,6 @@ template <class R> HalfwayScale<R> halfwayScale(Place<R> p) {
 
 /// Where a point lies in the frame of a centre, both in degrees: for tests of the range.
 inline Place<double> placeInDegrees(double lat1, double lon1, PROJPOINT const& point) {
-    constexpr double degree = pi / 180;
     auto const centre = sinCos(lat1 * degree);
     return CentredFrame{centre.sin, centre.cos}.place(sinCos(point.y * degree),
                                                       std::remainder(point.x - lon1, 360.0) * degree);

@@ -8,6 +8,10 @@
 
 namespace ZrProj::formulas {
 
+/// A degree in radians, a radian in degrees. A record's angles and the points go by the same numbers, so that a point
+/// on the central meridian is on it in radians too.
+inline constexpr double degree = 0.017453292519943295, radian = 57.29577951308232;
+
 /// What became of an array of points.
 struct Outcome {
     bool unplottable = false; // at least one point was marked

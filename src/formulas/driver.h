@@ -54,18 +54,11 @@ inline Pair<double> normalised(Pair<double> degrees) {
 }
 #endif
 
-template <class R> R toRadians(R degrees) {
-    return degrees * 3.141592653589793 / 180.0;
-}
-template <class R> R toDegrees(R radians) {
-    return radians * 180.0 / 3.141592653589793;
-}
-
 /// Degrees to map coordinates: (formula + false origin) * scale.
 template <class P> struct Forward {
     template <class R> static Pair<R> enter(Converter const&, Pair<R> p) {
         auto const degrees = normalised(p);
-        return {toRadians(degrees.x), toRadians(degrees.y)};
+        return {degrees.x * degree, degrees.y * degree};
     }
     template <class R> static Pair<R> convert(P const& formula, Pair<R> p) {
         auto const map = formula.forward(LonLat<R>{p.x, p.y});
@@ -94,7 +87,7 @@ template <class P> struct Inverse {
         return {geographic.lon, geographic.lat};
     }
     template <class R> static Pair<R> leave(Converter const&, Pair<R> p) {
-        return normalised(Pair<R>{toDegrees(p.x), toDegrees(p.y)});
+        return normalised(Pair<R>{p.x * radian, p.y * radian});
     }
 };
 
@@ -131,10 +124,11 @@ template <class P, class Direction>
 
 inline constexpr int blockPoints = 256;
 
-/// `points` in, x and y out: the map coordinates of up to blockPoints points. `good` tells which of them stand.
+/// `points` in, x and y out: the map coordinates of up to blockPoints points. `good` tells which of them stand. That
+/// the arrays are apart from the constants lets what is worked out of constants alone move out of the loop.
 template <class P, class Direction>
-[[gnu::noinline]] bool convertRegisters(Converter const& frame, P const& formula, int count, double* x, double* y,
-                                        double* good) {
+[[gnu::noinline]] bool convertRegisters(Converter const& frame, P const& formula, int count, double* __restrict x,
+                                        double* __restrict y, double* __restrict good) {
     bool allGood = true;
     for (int i = 0; i < count; i += lanes) {
         Pair<Register> const from{load(x + i), load(y + i)};

@@ -1,5 +1,8 @@
-// Where a projection's map has its edges: the in-range and split tests that several types share. Degrees throughout.
+// Where a projection's map has its edges: the in-range and split tests that several types share. Degrees, but where
+// radians are named.
 #pragma once
+
+#include "formulas/elementary.h"
 
 #include <zrproj/projection.h>
 
@@ -13,9 +16,9 @@ inline double longitudeDifference(double lon0, double lon) {
     return std::remainder(lon - lon0, 360.0);
 }
 
-/// Whether all angles are latitudes, `quarterTurn` being 90 degrees in their unit.
-template <class... Angles> bool areLatitudes(double quarterTurn, Angles... angles) {
-    return ((std::fabs(angles) <= quarterTurn) && ...);
+/// Whether all angles, in radians, are latitudes.
+template <class... Angles> bool areLatitudes(Angles... angles) {
+    return ((std::fabs(angles) <= halfPi) && ...);
 }
 
 /// The in-range test of a projection that shows the whole globe.

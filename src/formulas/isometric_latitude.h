@@ -23,8 +23,6 @@ struct IsometricLatitude {
         : flattened(eccentricArtanh(flattening)), conformal(conformalLatitude(flattening)),
           last(of(sinCos(nextToPole))) {}
 
-    bool converged() const { return flattened.converged && conformal.converged; }
-
     /// psi of a geodetic latitude by its sine and cosine; some 37 at a pole.
     template <class R> R of(SinCos<R> phi) const { return isometric(phi) - phi.sin * flattened(phi.sin * phi.sin); }
 

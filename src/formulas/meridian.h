@@ -28,7 +28,7 @@ struct Meridian {
 
     /// The latitude of M; a pole's, where M is beyond.
     template <class R> R latitude(R distance) const {
-        R const mu = clamped(distance / radius, -halfPi, halfPi);
+        R const mu = clamped(distance * (1 / radius), -halfPi, halfPi);
         return rectifying.geodetic(mu, sinCos(mu));
     }
 

@@ -92,25 +92,20 @@ struct AlbersEqualArea {
     }
 };
 
-bool hasMap(PROJDATA const& record, double quarterTurn) {
-    return record.Flattening <= AuxiliaryLatitude::flattest &&
-           areLatitudes(quarterTurn, record.Lat0, record.Lat1, record.Lat2);
+bool hasMap(PROJDATA const& work) {
+    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0, work.Lat1, work.Lat2);
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     double const side = sideOf(work.Lat1, work.Lat2);
-    if (hasMap(work, halfPi))
+    if (hasMap(work))
         hold(converter, AlbersEqualArea(work, side, side * work.Lat1, side * work.Lat2));
     else
         hold(converter, Nowhere{});
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
-    return hasMap(record, 90);
-}
-
 } // namespace
 
-constinit Formula const albers{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const albers{prepare, isAnywhere, splitOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -48,26 +48,22 @@ struct Bonne {
     }
 };
 
-bool hasMap(PROJDATA const& record, double quarterTurn) {
-    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat1);
+bool hasMap(PROJDATA const& work) {
+    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat1);
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     // Nearer to the equator than this, the arcs' curvature no longer changes a coordinate.
     constexpr double straight = 1e-20;
     double const side = sideOf(work.Lat1, 0), phi1 = side * work.Lat1;
-    if (hasMap(work, halfPi))
+    if (hasMap(work))
         hold(converter, Bonne(work, side, phi1 > straight ? phi1 : straight));
     else
         hold(converter, Nowhere{});
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
-    return hasMap(record, 90);
-}
-
 } // namespace
 
-constinit Formula const bonne{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const bonne{prepare, isAnywhere, splitOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

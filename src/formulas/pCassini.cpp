@@ -166,7 +166,7 @@ private:
 };
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (!areLatitudes(halfPi, work.Lat0) || work.Flattening > GeodesicSeries::flattest)
+    if (!areLatitudes(work.Lat0) || work.Flattening > GeodesicSeries::flattest)
         hold(converter, Nowhere{});
     else if (work.Flattening == 0)
         hold(converter, Spherical(work));

@@ -34,23 +34,19 @@ struct EquidistantCylindrical {
     }
 };
 
-bool hasMap(PROJDATA const& record, double quarterTurn) {
-    return record.Flattening <= AuxiliaryLatitude::flattest && std::fabs(record.Lat1) < quarterTurn;
+bool hasMap(PROJDATA const& work) {
+    return work.Flattening <= AuxiliaryLatitude::flattest && std::fabs(work.Lat1) < halfPi;
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work, halfPi))
+    if (hasMap(work))
         hold(converter, EquidistantCylindrical(work));
     else
         hold(converter, Nowhere{});
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
-    return hasMap(record, 90);
-}
-
 } // namespace
 
-constinit Formula const equidistantCylindrical{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const equidistantCylindrical{prepare, isAnywhere, splitOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

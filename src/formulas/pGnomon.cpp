@@ -41,14 +41,14 @@ struct Gnomonic {
 };
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (areLatitudes(halfPi, work.Lat1))
+    if (areLatitudes(work.Lat1))
         hold(converter, Gnomonic(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return areLatitudes(90, record.Lat1) && placeInDegrees(record.Lat1, record.Lon0, point).up > 4 * edge;
+    return placeInDegrees(record.Lat1, record.Lon0, point).up > 4 * edge;
 }
 
 } // namespace

@@ -86,7 +86,7 @@ Line lineOfPoints(LineSphere const& sphere, PROJDATA const& work) {
     Line line{work.Lon1 + half + std::atan2(side * x, -side * y) / sphere.B, sphere.D * side * z / length, 0, true};
     double const square = (1 - line.sinAlpha) * (1 + line.sinAlpha); // (9-24)
     line.cosAlpha = square > 0 ? std::sqrt(square) : 0;
-    line.defined = length > edge && std::fabs(line.sinAlpha) <= 1 + edge && areLatitudes(halfPi, work.Lat1, work.Lat2);
+    line.defined = length > edge && std::fabs(line.sinAlpha) <= 1 + edge && areLatitudes(work.Lat1, work.Lat2);
     return line;
 }
 
@@ -102,7 +102,7 @@ struct Setting {
           line(isSet<&PROJDATA::bUseAlpha>(work) ? lineOfAzimuth(sphere, work) : lineOfPoints(sphere, work)),
           cylinder{{line.sinAlpha / sphere.D, // gamma0, (9-37)
                     line.heading() * std::hypot(sphere.tangent, line.cosAlpha) / sphere.D}},
-          defined(line.defined && areLatitudes(halfPi, work.Lat0) && work.Flattening <= AuxiliaryLatitude::flattest) {}
+          defined(line.defined && areLatitudes(work.Lat0) && work.Flattening <= AuxiliaryLatitude::flattest) {}
 
     /// u of the centre over A / B, (9-39).
     double centre() const { return std::atan2(line.heading() * sphere.tangent, std::fabs(line.cosAlpha)); }
@@ -155,24 +155,23 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 }
 
 PROJDATA inRadians(PROJDATA record) {
-    constexpr double radian = pi / 180;
-    record.Lat0 *= radian;
-    record.Lon0 *= radian;
-    record.Lat1 *= radian;
-    record.Lon1 *= radian;
-    record.Lat2 *= radian;
-    record.Lon2 *= radian;
-    record.Alpha *= radian;
+    record.Lat0 *= degree;
+    record.Lon0 *= degree;
+    record.Lat1 *= degree;
+    record.Lon1 *= degree;
+    record.Lat2 *= degree;
+    record.Lon2 *= degree;
+    record.Alpha *= degree;
     return record;
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     Setting const at(inRadians(record));
-    double const lambda = point.x * (pi / 180), phi = point.y * (pi / 180);
+    double const lambda = point.x * degree, phi = point.y * degree;
     double const L = at.sphere.B * longitudeFrom(at.line.lambda0, lambda);
     auto const p = at.cylinder.pole.place(mercatorLatitude(at.sphere.isometricOn(phi)), L + halfPi);
     bool const covered = std::fabs(L) > pi && std::fabs(point.y) < 90;
-    return at.defined && !covered && std::hypot(p.east, p.north) > 4 * edge;
+    return !covered && std::hypot(p.east, p.north) > 4 * edge;
 }
 
 bool offsetSplitObject(PROJDATA const& record, PROJPOINT const* points, unsigned count, double* out1,

@@ -53,19 +53,19 @@ struct LambertAzimuthal {
     }
 };
 
-bool hasMap(PROJDATA const& record, double quarterTurn) {
-    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat1);
+bool hasMap(PROJDATA const& work) {
+    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat1);
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work, halfPi))
+    if (hasMap(work))
         hold(converter, LambertAzimuthal(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return hasMap(record, 90) && isClearOfAntipode(record.Lat1, record.Lon0, point);
+    return isClearOfAntipode(record.Lat1, record.Lon0, point);
 }
 
 } // namespace

@@ -75,23 +75,23 @@ struct LambertConformalConic {
 };
 
 /// Whether there is a cone, and its other pole is not asked for as the origin.
-bool hasMap(PROJDATA const& record, double quarterTurn) {
-    double const side = sideOf(record.Lat1, record.Lat2);
-    return record.Flattening <= AuxiliaryLatitude::flattest && record.Lat1 + record.Lat2 != 0 &&
-           std::fabs(record.Lat1) < quarterTurn && std::fabs(record.Lat2) < quarterTurn &&
-           areLatitudes(quarterTurn, record.Lat0) && side * record.Lat0 != -quarterTurn;
+bool hasMap(PROJDATA const& work) {
+    double const side = sideOf(work.Lat1, work.Lat2);
+    return work.Flattening <= AuxiliaryLatitude::flattest && work.Lat1 + work.Lat2 != 0 &&
+           std::fabs(work.Lat1) < halfPi && std::fabs(work.Lat2) < halfPi && areLatitudes(work.Lat0) &&
+           side * work.Lat0 != -halfPi;
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
     double const side = sideOf(work.Lat1, work.Lat2);
-    if (hasMap(work, halfPi))
+    if (hasMap(work))
         hold(converter, LambertConformalConic(work, side, side * work.Lat1, side * work.Lat2));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return hasMap(record, 90) && sideOf(record.Lat1, record.Lat2) * point.y > -90;
+    return sideOf(record.Lat1, record.Lat2) * point.y > -90;
 }
 
 } // namespace

@@ -35,19 +35,19 @@ struct Mercator {
     }
 };
 
-bool hasMap(PROJDATA const& record, double quarterTurn) {
-    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat0);
+bool hasMap(PROJDATA const& work) {
+    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0);
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work, halfPi))
+    if (hasMap(work))
         hold(converter, Mercator(work));
     else
         hold(converter, Nowhere{});
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return hasMap(record, 90) && std::fabs(point.y) < 90;
+bool inProjection(PROJDATA const&, PROJPOINT const& point) noexcept {
+    return std::fabs(point.y) < 90;
 }
 
 } // namespace

@@ -31,7 +31,7 @@ struct NorthernPole {
         double const z = phi1.cos * phi2.cos * turn.sin;
         double const length = std::sqrt(x * x + y * y + z * z);
         double const up = z > edge ? 1 : -1; // a meridian's pole, on the equator, is the one that (9-7) gives
-        defined = length > edge && areLatitudes(halfPi, one.lat, two.lat);
+        defined = length > edge && areLatitudes(one.lat, two.lat);
         lambda = one.lon + std::atan2(up * y, up * x);
         sin = up * z / length;
         cos = std::hypot(x, y) / length;
@@ -67,11 +67,11 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    auto const radians = [](double degrees) { return degrees * pi / 180; };
+    auto const radians = [](double degrees) { return degrees * degree; };
     NorthernPole const pole({radians(record.Lon1), radians(record.Lat1)}, {radians(record.Lon2), radians(record.Lat2)});
     double const theta = longitudeFrom(pole.lambda, radians(point.x));
     auto const p = CentredFrame{pole.sin, pole.cos}.place(sinCos(radians(point.y)), theta);
-    return pole.defined && std::hypot(p.east, p.north) > 4 * edge;
+    return std::hypot(p.east, p.north) > 4 * edge;
 }
 
 } // namespace

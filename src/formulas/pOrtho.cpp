@@ -58,14 +58,14 @@ struct Orthographic {
 };
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (areLatitudes(halfPi, work.Lat0))
+    if (areLatitudes(work.Lat0))
         hold(converter, Orthographic(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return areLatitudes(90, record.Lat0) && placeInDegrees(record.Lat0, record.Lon0, point).up > -edge / 2;
+    return placeInDegrees(record.Lat0, record.Lon0, point).up > -edge / 2;
 }
 
 } // namespace

@@ -74,19 +74,19 @@ struct Polyconic {
     }
 };
 
-bool hasMap(PROJDATA const& record, double quarterTurn) {
-    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat0);
+bool hasMap(PROJDATA const& work) {
+    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0);
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work, halfPi))
+    if (hasMap(work))
         hold(converter, Polyconic(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return hasMap(record, 90) && std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
+    return std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
 }
 
 } // namespace

@@ -38,8 +38,8 @@ struct Sinusoidal {
     }
 };
 
-bool hasMap(PROJDATA const& record) {
-    return record.Flattening <= AuxiliaryLatitude::flattest;
+bool hasMap(PROJDATA const& work) {
+    return work.Flattening <= AuxiliaryLatitude::flattest;
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
@@ -49,12 +49,8 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
         hold(converter, Nowhere{});
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
-    return hasMap(record);
-}
-
 } // namespace
 
-constinit Formula const sinusoidal{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const sinusoidal{prepare, isAnywhere, splitOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

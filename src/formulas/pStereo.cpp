@@ -57,19 +57,19 @@ struct Stereographic {
     }
 };
 
-bool hasMap(PROJDATA const& record, double quarterTurn) {
-    return record.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(quarterTurn, record.Lat0);
+bool hasMap(PROJDATA const& work) {
+    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0);
 }
 
 void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work, halfPi))
+    if (hasMap(work))
         hold(converter, Stereographic(work));
     else
         hold(converter, Nowhere{});
 }
 
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return hasMap(record, 90) && isClearOfAntipode(record.Lat0, record.Lon0, point);
+    return isClearOfAntipode(record.Lat0, record.Lon0, point);
 }
 
 } // namespace

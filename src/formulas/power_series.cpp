@@ -5,12 +5,10 @@ namespace ZrProj::formulas::ZRPROJ_LEVEL {
 PowerSeries eccentricArtanh(double flattening) {
     double const e2 = flattening * (2 - flattening);
     PowerSeries series;
-    double power = e2;
-    for (; power > 1e-18 && series.terms < PowerSeries::maxTerms; power *= e2) {
+    for (double power = e2; power > 1e-18 && series.terms < PowerSeries::maxTerms; power *= e2) {
         series.c[series.terms] = power / (2 * series.terms + 1);
         ++series.terms;
     }
-    series.converged = power < 1e-16;
     return series;
 }
 

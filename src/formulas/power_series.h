@@ -10,7 +10,6 @@ struct PowerSeries {
     static constexpr int maxTerms = 64;
 
     int terms = 0;
-    bool converged = true; // else the ellipsoid is too flat for the series
     double c[maxTerms] = {};
 
     template <class R> R operator()(R x) const {
@@ -21,7 +20,7 @@ struct PowerSeries {
     }
 };
 
-/// The series of e artanh(e s) / s in s^2.
+/// The series of e artanh(e s) / s in s^2, for flattenings up to 0.3.
 PowerSeries eccentricArtanh(double flattening);
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

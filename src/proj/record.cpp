@@ -1,5 +1,6 @@
 #include "proj/record.h"
 
+#include "formulas/converter.h"
 #include "frame/log.h"
 
 namespace ZrProj {
@@ -30,7 +31,7 @@ void logNumbers(PROJDATA const& r) {
 } // namespace
 
 PROJDATA withRadians(PROJDATA const& record) noexcept {
-    auto const radians = [](double degrees) { return degrees * 3.141592653589793 / 180; };
+    auto const radians = [](double degrees) { return degrees * formulas::degree; };
     PROJDATA work = record;
     work.Lat0 = radians(record.Lat0);
     work.Lon0 = radians(record.Lon0);
