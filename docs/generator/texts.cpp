@@ -49,7 +49,7 @@ constexpr Member world[]{
 
 constexpr Family table[]{
     {"Conic", R"($ echo -75,35 | zrproj forward --projection albers --ellipsoid 'Clarke 1866' --lat1 29.5 --lat2 45.5 --lat0 23 --lon0 -96
-1885472.726,1535925.003
+1885472.726,1535925.005
 )", conic},
     {"Cylindrical", R"($ echo 10,60 | zrproj forward --projection mercator --ellipsoid 'WGS 84'
 1113194.908,8362698.549

@@ -171,7 +171,7 @@ void expectUndisturbed(Projection& projection, Conversion conversion, PROJPOINT 
     EXPECT_TRUE(done) << projection.words();
 }
 
-/// A point's bits are the same alone, and as the last of an array of any length up to 100.
+/// A point's bits are the same alone, and as the last of an array of any length up to 100, and in several blocks.
 void expectSameBitsAnywhere(Projection& projection, Conversion conversion, Points const& points) {
     Points alone = points;
     for (auto& point : alone)
@@ -184,6 +184,13 @@ void expectSameBitsAnywhere(Projection& projection, Conversion conversion, Point
             if (!sameBits(array[i], alone[i]))
                 faults.add(points[i], " at ", i, " of ", count, " -> ", array[i], ", alone ", alone[i]);
     }
+    Points blocks; // more than the driver takes at once
+    for (int i = 0; i < 7; ++i)
+        blocks.insert(blocks.end(), points.begin(), points.end());
+    (projection.*conversion)(blocks);
+    for (std::size_t i = 0; i < blocks.size(); ++i)
+        if (!sameBits(blocks[i], alone[i % points.size()]))
+            faults.add(points[i % points.size()], " at ", i, " of ", blocks.size(), " -> ", blocks[i]);
 }
 
 /// 100 points, some of them hostile.
