@@ -8,6 +8,7 @@
 
 #include <cstdint>
 #include <string>
+#include <utility>
 #include <vector>
 
 namespace ZrProj::Command {
@@ -32,8 +33,8 @@ struct RowPoint {
 
 class RowReader {
 public:
-    RowReader(Layout const& layout, ColumnRequest const& request)
-        : m_layout(layout), m_direction(request.direction), m_zone(request.zone) {}
+    RowReader(Layout layout, ColumnRequest const& request)
+        : m_layout(std::move(layout)), m_direction(request.direction), m_zone(request.zone) {}
 
     /// Finds a line's fields, sets where its coordinates stand, and reads them.
     RowPoint read(Row& row);

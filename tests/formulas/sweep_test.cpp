@@ -6,7 +6,6 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
-#include <bit>
 #include <cfloat>
 #include <cmath>
 #include <limits>
@@ -16,6 +15,7 @@
 using namespace ZrProj;
 using test::Faults;
 using test::Projection;
+using test::sameBits;
 
 namespace {
 
@@ -145,11 +145,6 @@ Points between(Points const& points, PROJPOINT good) {
         mixed.push_back(good);
     }
     return mixed;
-}
-
-bool sameBits(PROJPOINT const& a, PROJPOINT const& b) {
-    auto const bits = [](double x) { return std::bit_cast<std::uint64_t>(x); };
-    return bits(a.x) == bits(b.x) && bits(a.y) == bits(b.y);
 }
 
 using Conversion = bool (Projection::*)(std::span<PROJPOINT>);

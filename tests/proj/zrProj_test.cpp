@@ -1,20 +1,23 @@
 #include "support/error_host.h"
 #include "support/floating_point.h"
 #include "support/levels.h"
+#include "support/registry.h"
 
 #include <zrproj/zrproj.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <random>
 #include <thread>
 #include <vector>
 
 using namespace ZrProj;
+using test::isMarked;
+using test::sameBits;
 
 namespace {
 
@@ -40,14 +43,6 @@ struct Handle {
     Handle& operator=(Handle const&) = delete;
     void* handle;
 };
-
-bool isMarked(PROJPOINT const& point) {
-    return point.x == DBL_MAX && point.y == DBL_MAX;
-}
-
-bool sameBits(PROJPOINT const& a, PROJPOINT const& b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
-}
 
 PROJPOINT forward(void* handle, double lon, double lat) {
     PROJPOINT point{lon, lat};
@@ -296,7 +291,7 @@ TEST(Conversion, RunsOnSeveralThreadsAtOnce) {
     for (auto& thread : running)
         thread.join();
     for (std::size_t i = 0; i < threads; ++i)
-        EXPECT_EQ(std::memcmp(serial[i].data(), parallel[i].data(), count * sizeof(PROJPOINT)), 0) << i;
+        EXPECT_TRUE(std::ranges::equal(serial[i], parallel[i], sameBits)) << i;
 }
 
 TEST(StatePlane, ConvertsThroughItsZone) {
