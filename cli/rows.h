@@ -8,7 +8,6 @@
 
 #include <cstdint>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace ZrProj::Command {
@@ -34,7 +33,7 @@ struct RowPoint {
 class RowReader {
 public:
     RowReader(Layout layout, ColumnRequest const& request)
-        : m_layout(std::move(layout)), m_direction(request.direction), m_zone(request.zone) {}
+        : m_layout(layout), m_direction(request.direction), m_zone(request.zone) {}
 
     /// Finds a line's fields, sets where its coordinates stand, and reads them.
     RowPoint read(Row& row);
