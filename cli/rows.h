@@ -32,7 +32,7 @@ struct RowPoint {
 
 class RowReader {
 public:
-    RowReader(Layout const& layout, ColumnRequest const& request)
+    RowReader(Layout layout, ColumnRequest const& request)
         : m_layout(layout), m_direction(request.direction), m_zone(request.zone) {}
 
     /// Finds a line's fields, sets where its coordinates stand, and reads them.

@@ -3,12 +3,12 @@
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 98-103; equation numbers are his.
 // Departs   q of (3-12) as a power series, and measured from the pole, where q itself has few digits; distances from
 //           the pole's arc instead of the apex; the inverse by the authalic latitude's series.
-// Accuracy  2e-8 m forward; back what 2e-8 m on the map mean, 1e-12 degrees but for the vicinity of the poles.
+// Accuracy  5e-8 m; round trip 1e-12 degrees or 2e-8 m.
 // Domain    the globe.
 //
 // phi, lambda   latitude, longitude          phi0, phi1, phi2   latitude of origin, standard parallels
-// q             sin phi on a sphere, doubled; u = q(90) - q          m   radius of a parallel          n   cone
-// constant
+// q             sin phi on a sphere, doubled; u = q(90) - q
+// m             radius of a parallel          n   cone constant
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/cone.h"
 #include "formulas/driver.h"

@@ -2,8 +2,8 @@
 //
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 191-202, for the sphere and the poles; equation
 //           numbers are his. Elsewhere on the ellipsoid by geodesics, geodesic.h.
-// Accuracy  2e-8 m on the Earth up to 175 degrees from the centre, then as much as the antipode spreads a place's
-//           rounding; round trip 2e-13 degrees, 2e-12 at the map's edge. 3e-7 m for flattenings of 1/50 (measured).
+// Accuracy  2e-8 m, and towards the antipode as much as it spreads the rounding of a place; 1e-6 m for flattenings of
+//           1/50; round trip 1e-12 degrees or 2e-8 m.
 // Domain    the globe; flattenings up to 1/50, beyond which there is no map. The map's edge is half a turn from the
 //           centre, in sigma, where geodesics cease to be the shortest: on the parallel opposite to the centre's they
 //           meet their mirror images in the equator; on a sphere, or from a pole, all others. Of such a place's points

@@ -3,8 +3,8 @@
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 92-95; equation numbers are his.
 // Departs   the ellipsoid by geodesics, geodesic.h, and close to the central meridian by the series (13-7) and (13-8)
 //           with more terms, cassini_series.h: as printed they lose millimetres 3 degrees away.
-// Accuracy  1e-8 m on the Earth; round trip 2e-13 degrees, 2e-12 at the map's edges. 3e-7 m for flattenings of 1/50
-//           (measured).
+// Accuracy  2e-8 m, and towards the map's edges as much as they spread the rounding of a place; 1e-6 m for flattenings
+//           of 1/50; round trip 1e-12 degrees or 2e-8 m.
 // Domain    the globe, the half beyond the poles too; flattenings up to 1/50, beyond which there is no map. Its edges
 //           are where geodesics from the central meridian meet: a quarter turn from it, in sigma, on the equator, their
 //           mirror images, or all others on a sphere; and on the meridian's far side. Of such a place's points on the

@@ -1,8 +1,9 @@
 // Equidistant cylindrical: true along the meridians and one parallel; the plate carree where that is the equator.
 //
-// Source    EPSG guidance note 7-2, method 1028; Snyder (1987), pp. 90-91, for the sphere.
-// Accuracy  1e-8 m forward, 1e-13 degrees back.
-// Domain    the globe. A standard parallel at a pole has no length: no map.
+// Source    EPSG guidance note 7-2, method 1028; Snyder (1987), Map Projections: A Working Manual, pp. 90-91, for the
+//           sphere.
+// Accuracy  5e-8 m; round trip 1e-12 degrees or 2e-8 m.
+// Domain    the globe; nothing when the standard parallel is a pole, which has no length.
 //
 // phi, lambda   latitude, longitude          phi1   standard parallel
 #include "formulas/cylinder.h"

@@ -1,10 +1,9 @@
-// Lambert azimuthal equal area.
+// Lambert azimuthal equal area: areas true, directions from the centre as on a sphere.
 //
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 182-190; equation numbers are his.
 // Departs   one form serves oblique, equatorial and polar centres, D of (24-20) being written so that it is 1 at a
 //           pole; the inverse takes the place on the sphere from x and y without the angle ce.
-// Accuracy  2e-8 m within 150 degrees of the centre; round trip 2e-13 degrees, towards the antipode what 1e-8 m on the
-//           map means there (measured).
+// Accuracy  5e-8 m as far as 150 degrees from the centre; round trip 1e-12 degrees or 2e-8 m.
 // Domain    all but the antipode of the centre.
 //
 // phi1, lambda0   the centre      beta   authalic latitude      Rq   radius of the authalic sphere      m1   (14-15)

@@ -1,10 +1,11 @@
-// Oblique Mercator of the sphere: conformal, true along a great circle through two points.
+// Oblique Mercator: conformal on the sphere, true along a great circle through two points.
 //
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 66-75; equation numbers are his.
 // Departs   the line's pole is the cross product of the two points instead of (9-7) and (9-8), and the northern one of
-//           the two. The flattening of the ellipsoid is not looked at.
-// Accuracy  2e-8 m down to 5 degrees from the line's poles; round trip 2e-13 degrees (measured).
-// Domain    all but the line's two poles; none when the points do not define a line.
+//           the two.
+// Accuracy  5e-8 m as near as 5 degrees to the line's poles; round trip 1e-12 degrees or 2e-8 m.
+// Domain    all but the line's two poles, on a sphere of the semi-major axis; nothing when the points do not define a
+//           line.
 //
 // phi, lambda   latitude, longitude        phip, lambdap   of the line's northern pole
 // x             along the line, from where it crosses the equator eastwards        k0   scale on the line

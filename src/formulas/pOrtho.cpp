@@ -1,9 +1,9 @@
 // Orthographic: the ellipsoid seen from infinitely far above the centre.
 //
-// Source    EPSG Guidance Note 7-2, method 9840; for the sphere also Snyder (1987), Map Projections: A Working Manual,
-//           pp. 145-153.
+// Source    EPSG guidance note 7-2, method 9840; Snyder (1987), Map Projections: A Working Manual, pp. 145-153, for the
+//           sphere.
 // Departs   the inverse is closed: the height of the point in the direction of view solves a quadratic equation.
-// Accuracy  1e-8 m; round trip 2e-13 degrees, towards the limb what 1e-8 m on the map means there (measured).
+// Accuracy  5e-8 m; round trip 1e-12 degrees or 2e-8 m.
 // Domain    where the ground faces the viewer: plumb lines no more than 90 degrees from that of the centre.
 //
 // phi0, lambda0   the centre           e2     eccentricity squared

@@ -1,11 +1,12 @@
-// Transverse Mercator: conformal, the central meridian a straight line of constant scale. Also Gauss-Kruger and, with
-// the zone's false origin, UTM.
+// Transverse Mercator: conformal, the central meridian a straight line of constant scale. Gauss-Kruger is the same; UTM
+// adds its zones' false origin.
 //
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 48-65; equation numbers are his.
 // Departs   the meridian distance is regrouped over sin 2 phi and cos 2 phi; its value is that of (3-21).
-// Accuracy  1e-3 m and 2e-8 degrees round trip inside 3 degrees of the central meridian, where the series is cut; 1e-6
-//           of a metre from the series itself (measured by the tests).
-// Domain    the series loses its meaning some 10 degrees from the central meridian and is evaluated all the same.
+// Accuracy  1e-6 m from the series, which is within 1 mm of the exact map inside 3 degrees of the central meridian;
+//           round trip 2e-8 degrees there.
+// Domain    some 10 degrees about the central meridian; farther away the series loses its meaning, and is evaluated all
+//           the same.
 //
 // phi, lambda   latitude, longitude          e2, ep2   eccentricity squared, e'^2 = e2 / (1 - e2)
 // M, M0         meridian distance of phi, of the latitude of origin          k0   scale on the central meridian

@@ -179,7 +179,7 @@ def write(file, kind, formula, parameter_sets, published):
                 ways = " forward" if kind == 2 and abs(lat) > 85 else ""
                 x, y = axis * x, axis * y
                 size = float(max(abs(x), abs(y)))
-                tolerance = "1e-7" if size < 5e7 else f"{2e-15 * size:.1g}"
+                tolerance = "5e-8" if size < 5e7 else f"{2e-15 * size:.1g}"
                 out.write(f"type={kind} ellipsoid={number} {words}{ways} | {lon!r} {lat!r} "
                           f"| {mp.nstr(x, 17)} {mp.nstr(y, 17)} | {tolerance} | {ORIGIN}\n")
 
@@ -195,7 +195,7 @@ def append_equal_parallels(file):
             x, y = (mpf(ELLIPSOIDS[15][0]) * v for v in (x, y))
             x, y = x + mpf("152400.3048006096"), y + mpf("95169.31165862332")
             out.write(f"type=9 zone=109 ellipsoid=15 | {lon!r} {lat!r} | {mp.nstr(x, 17)} {mp.nstr(y, 17)} "
-                      f"| 1e-7 | {ORIGIN}\n")
+                      f"| 5e-8 | {ORIGIN}\n")
 
 
 for row in TYPES:

@@ -1,4 +1,4 @@
-#include "auxiliary_latitude_probe.h"
+#include "probe.h"
 #include "support/levels.h"
 
 #include <array>
@@ -11,23 +11,6 @@ namespace {
 
 using Wide = long double;
 constexpr Wide halfPi = 1.57079632679489661923132169163975144L;
-
-AuxiliaryLatitudeProbe const& probeOf(Level level) {
-    switch (level) {
-#if defined(ZRPROJ_SIMD)
-    case Level::baseline:
-        return baseline::auxiliaryLatitudeProbe;
-#if defined(__x86_64__)
-    case Level::avx2:
-        return avx2::auxiliaryLatitudeProbe;
-    case Level::avx512:
-        return avx512::auxiliaryLatitudeProbe;
-#endif
-#endif
-    default:
-        return scalar::auxiliaryLatitudeProbe;
-    }
-}
 
 // The definitions of Snyder (1987), pp. 15-17, in extended precision.
 Wide conformal(Wide e2, Wide phi) {
@@ -84,7 +67,7 @@ TEST(AuxiliaryLatitude, AgreesWithItsDefinition) {
                 exact[i] = static_cast<double>(kind.exact(e2, static_cast<Wide>(phi[i])));
             }
             test::forEachLevel([&](Level level) {
-                auto const function = probeOf(level).*kind.function;
+                auto const function = probeOf(level).auxiliaryLatitude.*kind.function;
                 EXPECT_TRUE(function(flattening, phi.data(), xi.data(), unused.data(), count));
                 EXPECT_TRUE(function(flattening, exact.data(), unused.data(), back.data(), count));
                 for (std::size_t i = 0; i < count; ++i) {
@@ -100,7 +83,7 @@ TEST(AuxiliaryLatitude, KnowsItsLimits) {
     std::array<double, 8> const angle{-1.5, -1, -0.5, 0, 0.3, 0.6, 0.9, 1.2};
     std::array<double, 8> xi, phi;
     test::forEachLevel([&](Level level) {
-        auto const& probe = probeOf(level);
+        auto const& probe = probeOf(level).auxiliaryLatitude;
         EXPECT_FALSE(probe.conformal(0.6, angle.data(), xi.data(), phi.data(), 8));
         EXPECT_TRUE(probe.conformal(0, angle.data(), xi.data(), phi.data(), 8));
         EXPECT_EQ(xi, angle);

@@ -7,21 +7,6 @@ using namespace ZrProj;
 using test::isMarked;
 using test::Projection;
 
-TEST(Cone, IsMirroredInTheSouth) {
-    test::forEachLevel([](formulas::Level) {
-        for (auto const type : {"type=2", "type=5", "type=26"}) {
-            Projection north(std::string(type) + " ellipsoid=47 lat0=20 lat1=25 lat2=60 lon0=7");
-            Projection south(std::string(type) + " ellipsoid=47 lat0=-20 lat1=-25 lat2=-60 lon0=7");
-            for (auto const& point : {PROJPOINT{100, 30}, {-100, -60}, {7, 89}}) {
-                auto const up = north.forward(point), down = south.forward({point.x, -point.y});
-                EXPECT_EQ(up.x, down.x) << type;
-                EXPECT_EQ(up.y, -down.y) << type;
-                EXPECT_EQ(north.inverse(up).y, -south.inverse(down).y) << type;
-            }
-        }
-    });
-}
-
 // Between the two edges of the unrolled cone is nothing; the edges stay, though a false origin rounds them.
 TEST(Cone, HasAGap) {
     test::forEachLevel([](formulas::Level) {

@@ -1,4 +1,4 @@
-#include "elementary_probe.h"
+#include "probe.h"
 #include "support/levels.h"
 
 #include <cfloat>
@@ -13,23 +13,6 @@ using namespace ZrProj::formulas;
 namespace {
 
 constexpr double infinity = std::numeric_limits<double>::infinity();
-
-ElementaryProbe const& probeOf(Level level) {
-    switch (level) {
-#if defined(ZRPROJ_SIMD)
-    case Level::baseline:
-        return baseline::elementaryProbe;
-#if defined(__x86_64__)
-    case Level::avx2:
-        return avx2::elementaryProbe;
-    case Level::avx512:
-        return avx512::elementaryProbe;
-#endif
-#endif
-    default:
-        return scalar::elementaryProbe;
-    }
-}
 
 /// The error of `value` in units of the last place of the correctly rounded result.
 double ulps(double value, long double exact) {
@@ -79,7 +62,7 @@ double at(Level level, ElementaryProbe::Function ElementaryProbe::*function, dou
     double xs[8], ys[8], results[8];
     std::fill_n(xs, 8, x);
     std::fill_n(ys, 8, y);
-    (probeOf(level).*function)(xs, ys, results, 8);
+    (probeOf(level).elementary.*function)(xs, ys, results, 8);
     return results[5];
 }
 
@@ -96,7 +79,7 @@ TEST(Elementary, KeepsItsAccuracyCards) {
             y[i] = any(random);
         }
         test::forEachLevel([&](Level level) {
-            (probeOf(level).*card.function)(x.data(), y.data(), result.data(), static_cast<int>(count));
+            (probeOf(level).elementary.*card.function)(x.data(), y.data(), result.data(), static_cast<int>(count));
             double worst = 0;
             for (std::size_t i = 0; i < count; ++i)
                 worst = std::max(worst, ulps(result[i], card.exact(x[i], y[i])));
@@ -146,7 +129,7 @@ TEST(Elementary, NoLaneChangesAnother) {
                                     &ElementaryProbe::asin, &ElementaryProbe::exp, &ElementaryProbe::log}) {
             double y[8], result[8];
             std::fill_n(y, 8, 0.7);
-            (probeOf(level).*function)(strange, y, result, 8);
+            (probeOf(level).elementary.*function)(strange, y, result, 8);
             EXPECT_EQ(result[0], at(level, function, 0.3, 0.7));
         }
     });

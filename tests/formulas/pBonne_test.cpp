@@ -1,14 +1,9 @@
-#include "support/cases.h"
 #include "support/levels.h"
 #include "support/registry.h"
 
 using namespace ZrProj;
 using test::isMarked;
 using test::Projection;
-
-TEST(Bonne, AgreesWithReferenceValues) {
-    test::expectProjectionCases("bonne.txt");
-}
 
 TEST(Bonne, GoesOverIntoSinusoidal) {
     test::forEachLevel([](formulas::Level) {

@@ -1,4 +1,3 @@
-#include "support/cases.h"
 #include "support/levels.h"
 #include "support/registry.h"
 
@@ -18,10 +17,6 @@ void expectNear(PROJPOINT const& actual, PROJPOINT const& expected, double toler
 }
 
 } // namespace
-
-TEST(Hotine, AgreesWithReferenceValues) {
-    test::expectProjectionCases("hotine.txt");
-}
 
 TEST(Hotine, GivesOneMapForOneLine) {
     test::forEachLevel([](formulas::Level) {
@@ -101,23 +96,4 @@ TEST(Hotine, MarksTheStripThatWouldCoverOtherLand) {
         EXPECT_TRUE(ellipsoid.isInRange({-159.3, 30}));
         EXPECT_NEAR(ellipsoid.inverse(ellipsoid.forward(PROJPOINT{-159.3, 30})).x, -159.3, 1e-11);
     });
-}
-
-TEST(Hotine, MarksEverythingWithoutALine) {
-    for (auto const* words : {
-             "type=12 ellipsoid=47 lat0=50 lat1=44 lon1=78",                  // the line stays south of the centre
-             "type=12 ellipsoid=47 lat0=20 lat1=30 lon1=10 lat2=30 lon2=10",  // one point
-             "type=12 ellipsoid=48 lat0=0 lat1=30 lon1=10 lat2=-30 lon2=190", // antipodes
-             "type=12 ellipsoid=47 lat0=100 alpha=40 usealpha=1",             // no latitude
-             "type=10 ellipsoid=3 zone=138",
-             "type=9 ellipsoid=3 zone=141",
-         }) {
-        SCOPED_TRACE(words);
-        test::forEachLevel([&](formulas::Level) {
-            Projection nowhere(words);
-            EXPECT_TRUE(isMarked(nowhere.forward(PROJPOINT{5, 10})));
-            EXPECT_TRUE(isMarked(nowhere.inverse(PROJPOINT{5e5, 1e6})));
-            EXPECT_FALSE(nowhere.isInRange({5, 10}));
-        });
-    }
 }

@@ -1,14 +1,9 @@
-#include "support/cases.h"
 #include "support/levels.h"
 #include "support/registry.h"
 
 using namespace ZrProj;
 using test::isMarked;
 using test::Projection;
-
-TEST(LambertConformalConic, AgreesWithReferenceValues) {
-    test::expectProjectionCases("lambert_conformal_conic.txt");
-}
 
 TEST(LambertConformalConic, EndsAtTheFarPole) {
     test::forEachLevel([](formulas::Level) {
@@ -24,17 +19,6 @@ TEST(LambertConformalConic, EndsAtTheFarPole) {
             EXPECT_FALSE(isMarked(projection.forward({20, -89.999999 * side})));
         }
     });
-}
-
-TEST(LambertConformalConic, HasNoMapWithoutACone) {
-    for (auto const* words : {"type=5 ellipsoid=47 lat1=40 lat2=-40", "type=5 ellipsoid=47 lat1=40 lat2=50 lat0=-90",
-                              "type=5 ellipsoid=47 lat1=90 lat2=50", "type=5 ellipsoid=47 lat1=40 lat2=100",
-                              "type=5 radius=1 "
-                              "flattening=0.7 lat1=40"}) {
-        Projection projection(words);
-        EXPECT_TRUE(isMarked(projection.forward({0, 10})) && isMarked(projection.inverse({0, 10}))) << words;
-    }
-    EXPECT_FALSE(Projection("type=5 ellipsoid=47 lat1=40 lat2=-40").isInRange({0, 10}));
 }
 
 // As the parallels become opposite, the cone becomes the cylinder of Mercator's projection, reduced to be true there.

@@ -1,4 +1,3 @@
-#include "support/cases.h"
 #include "support/levels.h"
 #include "support/registry.h"
 
@@ -10,10 +9,6 @@
 using namespace ZrProj;
 using test::isMarked;
 using test::Projection;
-
-TEST(Orthographic, AgreesWithReferenceValues) {
-    test::expectProjectionCases("orthographic.txt");
-}
 
 TEST(Orthographic, ShowsTheLimbAndNothingBehindIt) {
     test::forEachLevel([](formulas::Level) {

@@ -1,4 +1,3 @@
-#include "support/cases.h"
 #include "support/levels.h"
 #include "support/registry.h"
 
@@ -7,10 +6,6 @@
 using namespace ZrProj;
 using test::isMarked;
 using test::Projection;
-
-TEST(Polyconic, AgreesWithReferenceValues) {
-    test::expectProjectionCases("polyconic.txt");
-}
 
 // The in-range area is half the globe, but the inverse finds every point of the map.
 TEST(Polyconic, ComesBackFromAllOverTheGlobe) {

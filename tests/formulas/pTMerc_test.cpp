@@ -1,11 +1,11 @@
-#include "support/cases.h"
 #include "support/levels.h"
+
+#include <zrproj/projection.h>
 
 #include <gtest/gtest.h>
 
 #include <cfloat>
 #include <cmath>
-#include <vector>
 
 using namespace ZrProj;
 
@@ -25,28 +25,6 @@ PROJPOINT forward(CProjector& projector, double lon, double lat) {
 }
 
 } // namespace
-
-TEST(TransverseMercator, AgreesWithReferenceValues) {
-    test::expectProjectionCases("transverse_mercator.txt");
-}
-
-TEST(TransverseMercator, RoundTripsInsideThreeDegrees) {
-    test::forEachLevel([](formulas::Level) {
-        for (auto const ellipsoid : {EllipsoidTypeWgs84, EllipsoidTypeStandardSphereOf6370997Meters}) {
-            PROJDATA record = transverseMercator(ellipsoid);
-            record.Lon0 = 177;
-            record.Lat0 = 12;
-            CProjector projector(&record);
-            for (double lat = -89.5; lat < 90; lat += 0.5)
-                for (double lon = 174; lon <= 180; lon += 0.25) {
-                    PROJPOINT point{lon, lat};
-                    ASSERT_TRUE(projector.Forward(&point, 1) && projector.Inverse(&point, 1));
-                    EXPECT_NEAR(point.y, lat, 2e-8) << lon;
-                    EXPECT_NEAR((point.x - lon) * std::cos(lat * 3.141592653589793 / 180), 0, 2e-8) << lat;
-                }
-        }
-    });
-}
 
 TEST(TransverseMercator, MapsPolesToTheCentralMeridian) {
     test::forEachLevel([](formulas::Level) {

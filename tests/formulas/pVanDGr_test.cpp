@@ -1,15 +1,12 @@
-#include "support/cases.h"
 #include "support/levels.h"
+
+#include <zrproj/projection.h>
 
 #include <gtest/gtest.h>
 
 #include <cmath>
 
 using namespace ZrProj;
-
-TEST(VanDerGrinten, AgreesWithReferenceValues) {
-    test::expectProjectionCases("van_der_grinten.txt");
-}
 
 // The axes, where the printed formulas divide by zero, and places close to them.
 TEST(VanDerGrinten, HoldsItsDigitsBesideTheAxes) {

@@ -35,6 +35,7 @@ void runSelf(std::vector<std::string> const& environment) {
     ASSERT_EQ(status, 0);
 }
 
+constexpr std::time_t threeHours = 10800;
 constexpr char const* threeHoursEast = "TZ=TST-3";
 
 /// Takes ctime's 24 characters after `lead`, local time three hours east, out of the text.
@@ -46,7 +47,7 @@ std::time_t takeTime(std::string& text, std::string const& lead) {
     text.erase(start, 24);
     std::tm parts = {};
     char const* const end = strptime(time.c_str(), "%a %b %e %H:%M:%S %Y", &parts);
-    return end && !*end ? timegm(&parts) - 3 * 3600 : -1;
+    return end && !*end ? timegm(&parts) - threeHours : -1;
 }
 
 class Module : public testing::Test {

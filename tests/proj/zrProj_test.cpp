@@ -1,20 +1,23 @@
 #include "support/error_host.h"
 #include "support/floating_point.h"
 #include "support/levels.h"
+#include "support/registry.h"
 
 #include <zrproj/zrproj.h>
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
-#include <cstring>
 #include <limits>
 #include <random>
 #include <thread>
 #include <vector>
 
 using namespace ZrProj;
+using test::isMarked;
+using test::sameBits;
 
 namespace {
 
@@ -40,14 +43,6 @@ struct Handle {
     Handle& operator=(Handle const&) = delete;
     void* handle;
 };
-
-bool isMarked(PROJPOINT const& point) {
-    return point.x == DBL_MAX && point.y == DBL_MAX;
-}
-
-bool sameBits(PROJPOINT const& a, PROJPOINT const& b) {
-    return std::memcmp(&a, &b, sizeof a) == 0;
-}
 
 PROJPOINT forward(void* handle, double lon, double lat) {
     PROJPOINT point{lon, lat};
@@ -226,55 +221,6 @@ TEST(Conversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
     });
 }
 
-TEST(Conversion, GivesAPointTheSameBitsAnywhere) {
-    test::forEachLevel([](formulas::Level) {
-        Handle const utm(utm17());
-        for (auto const convert : {ProjForward, ProjInverse}) {
-            auto source = pointsAround(-81, 400);
-            if (convert == ProjInverse) {
-                ASSERT_TRUE(ProjForward(utm.handle, source.data(), 400));
-            }
-            auto alone = source;
-            for (auto& point : alone)
-                ASSERT_TRUE(convert(utm.handle, &point, 1));
-            for (int count = 1; count <= 100; ++count)
-                for (int start : {0, 1, 3, 177}) {
-                    std::vector<PROJPOINT> part(source.begin() + start, source.begin() + start + count);
-                    ASSERT_TRUE(convert(utm.handle, part.data(), count));
-                    ASSERT_EQ(std::memcmp(part.data(), &alone[static_cast<std::size_t>(start)],
-                                          static_cast<std::size_t>(count) * sizeof(PROJPOINT)),
-                              0)
-                        << count << " points from " << start;
-                }
-            auto whole = source; // longer than a block
-            ASSERT_TRUE(convert(utm.handle, whole.data(), 400));
-            EXPECT_EQ(std::memcmp(whole.data(), alone.data(), 400 * sizeof(PROJPOINT)), 0);
-        }
-    });
-}
-
-TEST(Conversion, AgreesBetweenLevels) {
-    auto const source = pointsAround(-81, 10000);
-    std::vector<PROJPOINT> reference, referenceBack;
-    test::forEachLevel([&](formulas::Level level) {
-        Handle const utm(utm17());
-        auto map = source;
-        ASSERT_TRUE(ProjForward(utm.handle, map.data(), 10000));
-        if (level == formulas::Level::scalar)
-            reference = map;
-        auto back = reference;
-        ASSERT_TRUE(ProjInverse(utm.handle, back.data(), 10000));
-        if (level == formulas::Level::scalar)
-            referenceBack = back;
-        for (std::size_t i = 0; i < source.size(); ++i) {
-            ASSERT_NEAR(map[i].x, reference[i].x, 1e-8) << source[i].y;
-            ASSERT_NEAR(map[i].y, reference[i].y, 1e-8) << source[i].y;
-            ASSERT_NEAR(back[i].x, referenceBack[i].x, 1e-12) << source[i].y;
-            ASSERT_NEAR(back[i].y, referenceBack[i].y, 1e-13) << source[i].y;
-        }
-    });
-}
-
 TEST(Conversion, FailsTheCallOnAnArithmeticException) {
     test::forEachLevel([](formulas::Level) {
         Handle const utm(utm17());
@@ -345,7 +291,7 @@ TEST(Conversion, RunsOnSeveralThreadsAtOnce) {
     for (auto& thread : running)
         thread.join();
     for (std::size_t i = 0; i < threads; ++i)
-        EXPECT_EQ(std::memcmp(serial[i].data(), parallel[i].data(), count * sizeof(PROJPOINT)), 0) << i;
+        EXPECT_TRUE(std::ranges::equal(serial[i], parallel[i], sameBits)) << i;
 }
 
 TEST(StatePlane, ConvertsThroughItsZone) {

@@ -2,7 +2,9 @@
 
 #include "support/levels.h"
 
+#include <algorithm>
 #include <cmath>
+#include <filesystem>
 #include <fstream>
 #include <functional>
 #include <map>
@@ -106,6 +108,15 @@ PROJDATA recordOf(std::string const& words) {
     ProjectionCase result;
     readRecord(std::istringstream(words), result);
     return result.record;
+}
+
+std::vector<std::string> caseFiles() {
+    std::vector<std::string> files;
+    for (auto const& entry : std::filesystem::directory_iterator(ZRPROJ_TEST_DATA))
+        if (entry.path().extension() == ".txt")
+            files.push_back(entry.path().filename().string());
+    std::ranges::sort(files);
+    return files;
 }
 
 std::vector<ProjectionCase> projectionCases(std::string const& file) {

@@ -25,6 +25,9 @@ struct ProjectionCase {
 /// The record that the words of a line's first field stand for.
 PROJDATA recordOf(std::string const& words);
 
+/// The files of cases in tests/data, in alphabetical order.
+std::vector<std::string> caseFiles();
+
 /// The cases of tests/data/`file`; a line that cannot be read is a failure of the test.
 std::vector<ProjectionCase> projectionCases(std::string const& file);
 

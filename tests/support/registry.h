@@ -61,6 +61,9 @@ std::vector<std::string> oddParameterSets();
 /// Whether the point holds the marker.
 bool isMarked(PROJPOINT const& point);
 
+/// Whether two points are the same, to the bit.
+bool sameBits(PROJPOINT const& a, PROJPOINT const& b);
+
 /// Degrees between two longitudes, 0 to 180.
 double longitudesApart(double a, double b);
 
