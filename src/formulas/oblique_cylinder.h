@@ -21,6 +21,12 @@ template <class R> SinCos<R> mercatorLatitude(R psi) {
 /// Distances along the line, from where it crosses the equator with the pole on its left, and across, towards the pole.
 template <class R> struct AlongAcross { R along, across; };
 
+/// A point of the map on the sphere, where the map reaches it.
+template <class R> struct OnObliqueCylinder {
+    OnSphere<R> place;
+    Condition<R> inside;
+};
+
 struct ObliqueCylinder {
     CentredFrame pole;
 
@@ -33,14 +39,13 @@ struct ObliqueCylinder {
         return {atan2(p.north, p.east), select(shown, across, R(unplottable))};     // (9-3), (9-31)
     }
 
-    /// Of length 1; NaN in theta for what lies outside the map.
-    template <class R> OnSphere<R> inverse(AlongAcross<R> p) const {
+    /// Of length 1.
+    template <class R> OnObliqueCylinder<R> inverse(AlongAcross<R> p) const {
         constexpr double farthest = 32.23619130191664; // log(2 / (2 edge))
-        auto const inside = (abs(p.along) <= pi * (1 + coordinateNoise)) & (abs(p.across) <= farthest);
+        Condition<R> const inside = (abs(p.along) <= pi * (1 + coordinateNoise)) & (abs(p.across) <= farthest);
         auto const at = sinCos(select(inside, p.along, R(0.0)));
         auto const up = mercatorLatitude(select(inside, p.across, R(0.0)));
-        auto const q = pole.onSphere(Place<R>{up.cos * at.cos, up.cos * at.sin, up.sin});
-        return {select(inside, q.theta, R(unplottable)), q.phi};
+        return {pole.onSphere(Place<R>{up.cos * at.cos, up.cos * at.sin, up.sin}), inside};
     }
 };
 

@@ -90,10 +90,15 @@ Line lineOfPoints(LineSphere const& sphere, PROJDATA const& work) {
     return line;
 }
 
-/// On the sphere's cylinder the ellipsoid goes more than once around. West of this the map would cover what it shows in
-/// the east; the two meridians where it closes are one curve, which stands for the eastern one.
-double westEdge(LineSphere const& sphere) {
-    return sphere.B > 1 ? -pi + 4 * edge : -2 * pi;
+/// The ellipsoid goes B times around the sphere. West of L = -pi the map would cover what it shows in the east; the two
+/// meridians where it closes are one curve, which stands for the eastern one. How far east of it, on the sphere, a
+/// place counts as on it.
+double seamOf(LineSphere const& sphere) {
+    return sphere.B > 1 ? 4 * edge : -1;
+}
+
+template <class R> Condition<R> isWest(R L, R cosine, double seam) {
+    return (L < -halfPi) & ((L + pi) * cosine < seam);
 }
 
 /// The line on its sphere. Its pole lies 90 degrees west of where it crosses the equator.
@@ -115,15 +120,15 @@ struct Setting {
 };
 
 struct Hotine {
-    double B, logE, lambda0, size;          // size: A / B
-    double west;                            // the western edge of the map, as an L
+    double B, logE, lambda0, seam;
+    double size;                            // A / B
     double origin;                          // the origin's u over A / B
     double xu = 1, xa = 0, yu = 0, ya = -1; // x and y from u and -v
     ObliqueCylinder cylinder;
     IsometricLatitude isometricLatitude;
 
     Hotine(PROJDATA const& work, Setting const& at)
-        : B(at.sphere.B), logE(at.sphere.logE), lambda0(at.line.lambda0), west(westEdge(at.sphere)),
+        : B(at.sphere.B), logE(at.sphere.logE), lambda0(at.line.lambda0), seam(seamOf(at.sphere)),
           size(work.MajorRadius * work.K0 * at.sphere.size), origin(isSet<&PROJDATA::bUOffset>(work) ? at.centre() : 0),
           cylinder(at.cylinder), isometricLatitude(work.Flattening) {
         if (isSet<&PROJDATA::bRotate>(work)) { // (9-33), (9-34)
@@ -138,7 +143,7 @@ struct Hotine {
         auto const onSphere = mercatorLatitude(B * isometricLatitude.of(sinCos(p.lat)) + logE);
         auto const map = cylinder.forward(onSphere, L + halfPi);
         R const u = map.along - origin;
-        auto const covered = ((L < west) | (L > pi * (1 + coordinateNoise))) & (abs(p.lat) < halfPi);
+        auto const covered = (isWest(L, onSphere.cos, seam) | (L > pi * (1 + coordinateNoise))) & (abs(p.lat) < halfPi);
         R const x = size * (xu * u + xa * map.across), y = size * (yu * u + ya * map.across);
         return {select(covered, R(unplottable), x), y};
     }
@@ -146,11 +151,11 @@ struct Hotine {
     template <class R> LonLat<R> inverse(Xy<R> p) const {
         double const reach = 100 * size;
         R const x = clamped(p.x, -reach, reach) / size, y = clamped(p.y, -reach, reach) / size;
-        auto const q = cylinder.inverse(AlongAcross<R>{xu * x + yu * y + origin, xa * x + ya * y});
+        auto const [q, inside] = cylinder.inverse(AlongAcross<R>{xu * x + yu * y + origin, xa * x + ya * y});
         SinCos<R> const onSphere{q.phi.sin, select(q.phi.cos < 1e-20, R(1e-20), q.phi.cos)};
         R const psi = (isometric(onSphere) - logE) * (1 / B), theta = longitudeFrom(halfPi, q.theta);
-        R const L = select(theta < west - 2 * edge, R(pi), theta);
-        return {lambda0 + L * (1 / B), isometricLatitude.geodetic(psi)};
+        R const L = select(isWest(theta, q.phi.cos, seam / 2), R(pi), theta);
+        return {select(inside, lambda0 + L * (1 / B), R(unplottable)), isometricLatitude.geodetic(psi)};
     }
 };
 
@@ -175,8 +180,9 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     Setting const at(inRadians(record));
     double const lambda = point.x * degree, phi = point.y * degree;
     double const L = at.sphere.B * longitudeFrom(at.line.lambda0, lambda);
-    auto const p = at.cylinder.pole.place(mercatorLatitude(at.sphere.isometricOn(phi)), L + halfPi);
-    bool const covered = (L < westEdge(at.sphere) || L > pi) && std::fabs(point.y) < 90;
+    auto const onSphere = mercatorLatitude(at.sphere.isometricOn(phi));
+    auto const p = at.cylinder.pole.place(onSphere, L + halfPi);
+    bool const covered = (isWest(L, onSphere.cos, seamOf(at.sphere)) || L > pi) && std::fabs(point.y) < 90;
     return !covered && std::hypot(p.east, p.north) > 4 * edge;
 }
 

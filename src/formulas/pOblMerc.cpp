@@ -53,8 +53,8 @@ struct ObliqueMercator {
     template <class R> LonLat<R> inverse(Xy<R> p) const {
         double const reach = 100 * radius;
         R const x = clamped(p.x, -reach, reach) / radius, y = clamped(p.y, -reach, reach) / radius;
-        auto const q = cylinder.inverse(AlongAcross<R>{x, y});
-        return {lambdap + q.theta, atan2(q.phi.sin, q.phi.cos)};
+        auto const [q, inside] = cylinder.inverse(AlongAcross<R>{x, y});
+        return {select(inside, lambdap + q.theta, R(unplottable)), atan2(q.phi.sin, q.phi.cos)};
     }
 };
 

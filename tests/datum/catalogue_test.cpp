@@ -22,9 +22,9 @@ struct Row {
     double numbers[8] = {}; // dX dY dZ rX rY rZ scale prime-meridian
 };
 
-/// tests/data/datums.txt, in its order.
+/// tests/data/datums/datums.txt, in its order.
 std::vector<Row> readRows() {
-    std::ifstream in(ZRPROJ_TEST_DATA "/datums.txt");
+    std::ifstream in(ZRPROJ_TEST_DATA "/datums/datums.txt");
     std::vector<Row> rows;
     for (std::string line; std::getline(in, line);) {
         if (line[0] == '#')

@@ -28,9 +28,9 @@ struct Case {
     std::string line;
 };
 
-/// tests/data/datum.txt: "5 from | 9.19 45.46 | 9.1891 45.4589".
+/// tests/data/datums/datum.txt: "5 from | 9.19 45.46 | 9.1891 45.4589".
 std::vector<Case> readCases() {
-    std::ifstream in(ZRPROJ_TEST_DATA "/datum.txt");
+    std::ifstream in(ZRPROJ_TEST_DATA "/datums/datum.txt");
     std::vector<Case> cases;
     for (std::string line; std::getline(in, line);) {
         if (line[0] == '#')

@@ -27,7 +27,7 @@ long double change(datum::RegressionCentre const& centre, datum::Change of, DATU
 } // namespace
 
 TEST(Regression, GivesThePublishedExamples) {
-    std::ifstream in(ZRPROJ_TEST_DATA "/datum_regression.csv");
+    std::ifstream in(ZRPROJ_TEST_DATA "/datums/datum_regression.csv");
     int examples = 0;
     for (std::string line; std::getline(in, line);) {
         if (line[0] < '0' || line[0] > '9')

@@ -126,6 +126,16 @@ void expectMapsBack(Projection& projection, Points const& map, double metres) {
     }
 }
 
+/// On the meridian opposite to lon0 and close to it, from both sides.
+Points edgePoints(double lon0) {
+    Points points;
+    for (double const lat : {-89.999, -89.0, -60.0, -7.0, 0.0, 1e-9, 30.0, 80.0, 89.99})
+        for (double const inside : {0.0, 1e-9, 1e-5})
+            for (double const side : {-1, 1})
+                points.push_back({lon0 + side * (180 - inside), lat});
+    return points;
+}
+
 Points hostilePoints() {
     constexpr double nan = std::numeric_limits<double>::quiet_NaN(), infinity = HUGE_VAL;
     constexpr double numbers[] = {nan,  infinity, -infinity, DBL_MAX, -DBL_MAX, 1e300,   -1e300, 1e18,
@@ -258,6 +268,22 @@ TEST_P(Sweep, InverseMapsBackOrIsMarked) {
             expectMapsBack(projection, mapSamples(projection, 0.4), 1e-6);
             expectMapsBack(projection, farPoints(), 1e-6);
         }
+    });
+}
+
+TEST_P(Sweep, EdgesKeepTheirSide) {
+    forEachProjection([](Projection& projection) {
+        if (isTransverseMercator(projection.record().Type)) // they have no edges
+            return;
+        auto points = edgePoints(projection.record().Lon0);
+        std::erase_if(points, [&](PROJPOINT const& p) { return !projection.isInRange(p); });
+        if (points.empty())
+            return;
+        auto const map = projection.forward(points), again = projection.forward(projection.inverse(map));
+        Faults faults(projection.words());
+        for (std::size_t i = 0; i < points.size(); ++i)
+            if (!(mapApart(map[i], again[i]) <= projection.mapLength(1e-6) + projection.mapMove(points[i], 1e-12)))
+                faults.add(points[i], " -> ", map[i], " -> ", again[i]);
     });
 }
 

@@ -112,7 +112,7 @@ PROJDATA recordOf(std::string const& words) {
 
 std::vector<std::string> caseFiles() {
     std::vector<std::string> files;
-    for (auto const& entry : std::filesystem::directory_iterator(ZRPROJ_TEST_DATA))
+    for (auto const& entry : std::filesystem::directory_iterator(ZRPROJ_TEST_DATA "/projections"))
         if (entry.path().extension() == ".txt")
             files.push_back(entry.path().filename().string());
     std::ranges::sort(files);
@@ -120,7 +120,7 @@ std::vector<std::string> caseFiles() {
 }
 
 std::vector<ProjectionCase> projectionCases(std::string const& file) {
-    std::ifstream in(std::string(ZRPROJ_TEST_DATA "/") + file);
+    std::ifstream in(std::string(ZRPROJ_TEST_DATA "/projections/") + file);
     std::vector<ProjectionCase> cases;
     for (std::string line; std::getline(in, line);) {
         if (line.empty() || line[0] == '#')

@@ -1,4 +1,4 @@
-// Reference values of projections, from the files in tests/data. One line is one case:
+// Reference values of projections, from the files in tests/data/projections. One line is one case:
 //
 //     type=17 ellipsoid=15 lon0=-75 k0=0.9996 | -73.5 40.5 | 127106.5 4484124.4 | 0.05 | Snyder (1987), p. 270
 //
@@ -28,7 +28,7 @@ PROJDATA recordOf(std::string const& words);
 /// The files of cases in tests/data, in alphabetical order.
 std::vector<std::string> caseFiles();
 
-/// The cases of tests/data/`file`; a line that cannot be read is a failure of the test.
+/// The cases of tests/data/projections/`file`; a line that cannot be read is a failure of the test.
 std::vector<ProjectionCase> projectionCases(std::string const& file);
 
 /// Holds every case of the file, both ways, at each processor level. The way back is measured on the ground.

@@ -16,9 +16,9 @@
 namespace ZrProj::test {
 namespace {
 
-/// The lines of a file of tests/data but for its comments.
+/// The lines of a file of tests/data/projections but for its comments.
 std::vector<std::string> parameterSetsIn(char const* file) {
-    std::ifstream in(std::string(ZRPROJ_TEST_DATA "/") + file);
+    std::ifstream in(std::string(ZRPROJ_TEST_DATA "/projections/") + file);
     std::vector<std::string> sets;
     for (std::string line; std::getline(in, line);)
         if (!line.starts_with('#'))

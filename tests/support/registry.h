@@ -12,7 +12,7 @@ namespace ZrProj::test {
 /// A projection as the checks see it. Made with the processor level in use.
 class Projection {
 public:
-    /// `words` as in the files of tests/data, see support/cases.h.
+    /// `words` as in the files of tests/data/projections, see support/cases.h.
     explicit Projection(std::string const& words);
 
     /// The record that conversions use: complete, a State Plane zone's own projection, Scale and K0 not 0.
