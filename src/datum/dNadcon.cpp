@@ -1,0 +1,224 @@
+// NADCON: bilinear interpolation in two grids of shifts, arcseconds.
+//
+// Source    the NADCON binary layout: records of ncols + 1 four-byte words, little-endian; record 0 is the header,
+//           records 1 to nrows hold a leading word and the values of a row, south to north, west to east.
+// Departs   from what other programs do with such files: the grid in the .LAS file is added to the LONGITUDE (east
+//           positive), the one in the .LOS file to the latitude.
+// Domain    column positions from -1 (exclusive) to ncols, so that up to two cells west of the grid are still shifted,
+//           with the leading word as their western value; row positions from 1 to nrows (exclusive). All else stays.
+#include "datum/nadcon.h"
+
+#include "frame/errors.h"
+#include "host/platform.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cfloat>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <exception>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
+
+namespace ZrProj {
+namespace {
+
+static_assert(std::endian::native == std::endian::little, "the grids' words are read as they stand");
+
+/// Reports an internal inconsistency at the place of the call. Always false.
+bool inconsistent(int line = __builtin_LINE()) noexcept {
+    return AssertFailed(".\\dNadcon.cpp", line);
+}
+
+/// Where a point stands: the cell's south-western corner, counted from 1 (column 0 is the leading word), and the
+/// fractions from there, which are negative west of column 0.
+struct Place {
+    std::uint64_t row, column;
+    double fx, fy;
+};
+
+struct Grid {
+    std::int32_t columns, rows;
+    double xmin, dx, ymin, dy;
+
+    std::optional<Place> locate(DATUMPOINT const& point) const {
+        if (point.x == DBL_MAX || point.y == DBL_MAX)
+            return std::nullopt;
+        double const x = (point.x - xmin) / dx + 1, y = (point.y - ymin) / dy + 1;
+        if (!(x > -1 && x < columns && y >= 1 && y < rows))
+            return std::nullopt;
+        double const column = std::trunc(x), row = std::trunc(y);
+        return Place{static_cast<std::uint64_t>(row), static_cast<std::uint64_t>(column), x - column, y - row};
+    }
+
+    /// A value's place in the file, in words: below 2^62.
+    std::uint64_t word(std::uint64_t row, std::uint64_t column) const {
+        return row * (static_cast<std::uint64_t>(columns) + 1) + column;
+    }
+};
+
+std::optional<Grid> readHeader(PlainFile const& file) {
+    constexpr std::uint64_t start = 64;
+    std::array<char, 28> bytes;
+    if (!file.read(start, bytes.data(), bytes.size()))
+        return std::nullopt;
+    std::array<std::int32_t, 3> counts; // columns, rows, values a point
+    std::array<float, 4> places;        // xmin, dx, ymin, dy
+    std::memcpy(counts.data(), bytes.data(), sizeof counts);
+    std::memcpy(places.data(), bytes.data() + sizeof counts, sizeof places);
+    bool const finite = std::ranges::all_of(places, [](float value) { return std::isfinite(value); });
+    if (counts[0] < 2 || counts[1] < 2 || !finite || !(places[1] > 0) || !(places[3] > 0))
+        return std::nullopt;
+    return Grid{counts[0], counts[1], places[0], places[1], places[2], places[3]};
+}
+
+/// The part of the grid that a call needs: the box around the cells of all its points.
+struct Window {
+    std::uint64_t row = UINT64_MAX, column = UINT64_MAX, lastRow = 0, lastColumn = 0;
+    std::uint64_t lastWord = 0; // of the file
+    std::uint64_t points = 0;
+
+    void add(Place const& place, Grid const& grid) {
+        row = std::min(row, place.row);
+        column = std::min(column, place.column);
+        lastRow = std::max(lastRow, place.row + 1);
+        lastColumn = std::max(lastColumn, place.column + 1);
+        lastWord = std::max(lastWord, grid.word(place.row + 1, place.column + 1));
+        ++points;
+    }
+    std::uint64_t width() const { return lastColumn - column + 1; }
+    std::uint64_t height() const { return lastRow - row + 1; }
+
+    /// Whether reading it is no more work than two reads a point, and needs no more memory than is decent.
+    bool isWorthReading() const {
+        constexpr std::uint64_t wordsPerRead = 2048, mostWords = std::uint64_t{1} << 24;
+        std::uint64_t const words = width() * height(); // both below 2^31
+        return words <= mostWords && height() + words / wordsPerRead <= 2 * points;
+    }
+};
+
+Window windowOf(Grid const& grid, std::span<DATUMPOINT const> points) {
+    Window window;
+    for (auto const& point : points)
+        if (auto const place = grid.locate(point))
+            window.add(*place, grid);
+    return window;
+}
+
+/// The values at a cell's corners: south-west, south-east, north-west, north-east.
+using Corners = std::array<float, 4>;
+
+/// Corners out of a window in memory. What the file does not have of the window, no point needs.
+class WindowReader {
+public:
+    WindowReader(PlainFile const& file, Grid const& grid, Window const& window)
+        : window_(window), values_(window.width() * window.height()) {
+        std::uint64_t const end = file.size() / sizeof(float);
+        for (std::uint64_t row = 0; row < window.height() && good_; ++row) {
+            std::uint64_t const first = grid.word(window.row + row, window.column);
+            std::uint64_t const length = std::min(window.width(), end - std::min(first, end));
+            good_ = file.read(first * sizeof(float), &values_[row * window.width()], length * sizeof(float));
+        }
+    }
+
+    bool good() const { return good_; }
+
+    Corners operator()(Place const& place) const {
+        float const* const south =
+            &values_[(place.row - window_.row) * window_.width() + place.column - window_.column];
+        float const* const north = south + window_.width();
+        return {south[0], south[1], north[0], north[1]};
+    }
+
+private:
+    Window window_;
+    std::vector<float> values_; // at most 64 MiB
+    bool good_ = true;
+};
+
+/// Corners out of the file, for few points far apart.
+class FileReader {
+public:
+    FileReader(PlainFile const& file, Grid const& grid, Window const&) : file_(file), grid_(grid) {}
+
+    bool good() const { return good_; }
+
+    Corners operator()(Place const& place) {
+        Corners corners{};
+        good_ = good_ && readPair(place.row, place.column, &corners[0]) &&
+                readPair(place.row + 1, place.column, &corners[2]);
+        return corners;
+    }
+
+private:
+    bool readPair(std::uint64_t row, std::uint64_t column, float* pair) const {
+        return file_.read(grid_.word(row, column) * sizeof(float), pair, 2 * sizeof(float));
+    }
+
+    PlainFile const& file_;
+    Grid const& grid_;
+    bool good_ = true;
+};
+
+double interpolate(Corners const& corners, Place const& place) {
+    double const fx = place.fx, fy = place.fy;
+    return (1 - fx) * (1 - fy) * corners[0] + fx * (1 - fy) * corners[1] + (1 - fx) * fy * corners[2] +
+           fx * fy * corners[3];
+}
+
+/// The pair of files of one grid, open.
+struct Pair {
+    PlainFile las, los;
+
+    explicit Pair(std::string const& path) : las(path + ".LAS"), los(path + ".LOS") {}
+    bool isOpen() const { return las.isOpen() && los.isOpen(); }
+    std::uint64_t words() const { return std::min(las.size(), los.size()) / sizeof(float); }
+};
+
+template <class Reader>
+bool shift(Pair const& pair, Grid const& grid, Window const& window, std::span<DATUMPOINT> points) {
+    Reader las(pair.las, grid, window), los(pair.los, grid, window);
+    for (auto& point : points) {
+        auto const place = grid.locate(point);
+        if (!place)
+            continue;
+        Corners const x = las(*place), y = los(*place);
+        if (!las.good() || !los.good())
+            return inconsistent();
+        point.x += interpolate(x, *place) / 3600;
+        point.y += interpolate(y, *place) / 3600;
+    }
+    return true;
+}
+
+bool convert(char const* gridName, std::span<DATUMPOINT> points) {
+    Pair const pair(executableDirectory() + '/' + gridName);
+    if (!pair.isOpen())
+        return inconsistent();
+    auto const grid = readHeader(pair.las);
+    if (!grid)
+        return inconsistent();
+    Window const window = windowOf(*grid, points);
+    if (window.points == 0)
+        return true;
+    if (window.lastWord >= pair.words())
+        return inconsistent();
+    return window.isWorthReading() ? shift<WindowReader>(pair, *grid, window, points)
+                                   : shift<FileReader>(pair, *grid, window, points);
+}
+
+} // namespace
+
+bool convertNadcon(char const* gridName, DATUMPOINT* points, std::size_t count) {
+    try {
+        return convert(gridName, {points, count});
+    } catch (std::exception const&) { // no memory
+        return inconsistent();
+    }
+}
+
+} // namespace ZrProj
