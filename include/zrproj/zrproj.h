@@ -14,6 +14,7 @@
 #include "ellipsoid.h"
 #include "preclip.h"
 #include "projection.h"
+#include "userdatum.h"
 #include "zones.h"
 #include "zrlibw.h"
 
