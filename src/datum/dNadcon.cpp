@@ -37,7 +37,7 @@ bool inconsistent(int line = __builtin_LINE()) noexcept {
 /// Where a point stands: the cell's south-western corner, counted from 1 (column 0 is the leading word), and the
 /// fractions from there, which are negative west of column 0.
 struct Place {
-    std::uint64_t row, column;
+    std::int32_t row, column;
     double fx, fy;
 };
 
@@ -51,13 +51,13 @@ struct Grid {
         double const x = (point.x - xmin) / dx + 1, y = (point.y - ymin) / dy + 1;
         if (!(x > -1 && x < columns && y >= 1 && y < rows))
             return std::nullopt;
-        double const column = std::trunc(x), row = std::trunc(y);
-        return Place{static_cast<std::uint64_t>(row), static_cast<std::uint64_t>(column), x - column, y - row};
+        auto const column = static_cast<std::int32_t>(x), row = static_cast<std::int32_t>(y); // toward zero
+        return Place{row, column, x - column, y - row};
     }
 
     /// A value's place in the file, in words: below 2^62.
-    std::uint64_t word(std::uint64_t row, std::uint64_t column) const {
-        return row * (static_cast<std::uint64_t>(columns) + 1) + column;
+    std::uint64_t word(std::int64_t row, std::int64_t column) const {
+        return static_cast<std::uint64_t>(row * (std::int64_t{columns} + 1) + column);
     }
 };
 
@@ -78,25 +78,23 @@ std::optional<Grid> readHeader(PlainFile const& file) {
 
 /// The part of the grid that a call needs: the box around the cells of all its points.
 struct Window {
-    std::uint64_t row = UINT64_MAX, column = UINT64_MAX, lastRow = 0, lastColumn = 0;
-    std::uint64_t lastWord = 0; // of the file
+    std::int32_t row = INT32_MAX, column = INT32_MAX, lastRow = 0, lastColumn = 0;
     std::uint64_t points = 0;
 
-    void add(Place const& place, Grid const& grid) {
+    void add(Place const& place) {
         row = std::min(row, place.row);
         column = std::min(column, place.column);
-        lastRow = std::max(lastRow, place.row + 1);
+        lastRow = std::max(lastRow, place.row + 1); // rows and columns of the grid: no overflow
         lastColumn = std::max(lastColumn, place.column + 1);
-        lastWord = std::max(lastWord, grid.word(place.row + 1, place.column + 1));
         ++points;
     }
-    std::uint64_t width() const { return lastColumn - column + 1; }
-    std::uint64_t height() const { return lastRow - row + 1; }
+    std::uint64_t width() const { return static_cast<std::uint64_t>(std::int64_t{lastColumn} - column + 1); }
+    std::uint64_t height() const { return static_cast<std::uint64_t>(std::int64_t{lastRow} - row + 1); }
 
     /// Whether reading it is no more work than two reads a point, and needs no more memory than is decent.
     bool isWorthReading() const {
         constexpr std::uint64_t wordsPerRead = 2048, mostWords = std::uint64_t{1} << 24;
-        std::uint64_t const words = width() * height(); // both below 2^31
+        std::uint64_t const words = width() * height(); // both at most 2^31
         return words <= mostWords && height() + words / wordsPerRead <= 2 * points;
     }
 };
@@ -105,8 +103,18 @@ Window windowOf(Grid const& grid, std::span<DATUMPOINT const> points) {
     Window window;
     for (auto const& point : points)
         if (auto const place = grid.locate(point))
-            window.add(*place, grid);
+            window.add(*place);
     return window;
+}
+
+/// Whether a file of so many words has every value that the points need.
+bool isThere(std::uint64_t words, Grid const& grid, Window const& window, std::span<DATUMPOINT const> points) {
+    if (grid.word(window.lastRow, window.lastColumn) < words)
+        return true;
+    return std::ranges::all_of(points, [&](DATUMPOINT const& point) {
+        auto const place = grid.locate(point);
+        return !place || grid.word(place->row + 1, place->column + 1) < words;
+    });
 }
 
 /// The values at a cell's corners: south-west, south-east, north-west, north-east.
@@ -118,18 +126,20 @@ public:
     WindowReader(PlainFile const& file, Grid const& grid, Window const& window)
         : window_(window), values_(window.width() * window.height()) {
         std::uint64_t const end = file.size() / sizeof(float);
-        for (std::uint64_t row = 0; row < window.height() && good_; ++row) {
-            std::uint64_t const first = grid.word(window.row + row, window.column);
+        float* out = values_.data();
+        for (std::int64_t row = window.row; row <= window.lastRow && good_; ++row, out += window.width()) {
+            std::uint64_t const first = grid.word(row, window.column);
             std::uint64_t const length = std::min(window.width(), end - std::min(first, end));
-            good_ = file.read(first * sizeof(float), &values_[row * window.width()], length * sizeof(float));
+            good_ = file.read(first * sizeof(float), out, length * sizeof(float));
         }
     }
 
     bool good() const { return good_; }
 
     Corners operator()(Place const& place) const {
-        float const* const south =
-            &values_[(place.row - window_.row) * window_.width() + place.column - window_.column];
+        auto const row = static_cast<std::size_t>(place.row - window_.row);
+        auto const column = static_cast<std::size_t>(place.column - window_.column);
+        float const* const south = values_.data() + row * window_.width() + column;
         float const* const north = south + window_.width();
         return {south[0], south[1], north[0], north[1]};
     }
@@ -155,7 +165,7 @@ public:
     }
 
 private:
-    bool readPair(std::uint64_t row, std::uint64_t column, float* pair) const {
+    bool readPair(std::int64_t row, std::int64_t column, float* pair) const {
         return file_.read(grid_.word(row, column) * sizeof(float), pair, 2 * sizeof(float));
     }
 
@@ -205,7 +215,7 @@ bool convert(char const* gridName, std::span<DATUMPOINT> points) {
     Window const window = windowOf(*grid, points);
     if (window.points == 0)
         return true;
-    if (window.lastWord >= pair.words())
+    if (!isThere(pair.words(), *grid, window, points))
         return inconsistent();
     return window.isWorthReading() ? shift<WindowReader>(pair, *grid, window, points)
                                    : shift<FileReader>(pair, *grid, window, points);
