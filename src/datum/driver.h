@@ -19,11 +19,11 @@ using namespace formulas::ZRPROJ_LEVEL;
 
 inline constexpr double radian = 3.141592653589793 / 180; // of a degree
 
-/// Sine and cosine of a latitude in degrees, from its distance to the pole: the cosine keeps all of its digits where it
-/// is small, and at the pole is that of the double nearest to pi/2, which is not 0.
+/// Sine and cosine of a latitude in degrees, from its distance to the pole, so that the cosine keeps all of its digits
+/// where it is small. At the pole it is all but 0: a point there still has a longitude, and nothing is divided by 0.
 template <class R> [[gnu::always_inline]] inline SinCos<R> sinCosOfLatitude(R degrees) {
     auto const fromPole = sinCos((90.0 - abs(degrees)) * radian);
-    return {copySign(fromPole.cos, degrees), select(fromPole.sin == 0.0, R(6.123233995736766e-17), fromPole.sin)};
+    return {copySign(fromPole.cos, degrees), select(fromPole.sin == 0.0, R(1e-30), fromPole.sin)};
 }
 
 template <class M> void runStep(Step const& step, Block& block) noexcept {
