@@ -1,5 +1,6 @@
 #include "cli/grid_file.h"
 
+#include "cli/number_field.h"
 #include "cli/text.h"
 #include "cli/usage_error.h"
 
@@ -9,6 +10,8 @@
 #include <cstring>
 #include <filesystem>
 #include <stdexcept>
+#include <system_error>
+#include <utility>
 
 namespace ZrProj::Command {
 namespace {
@@ -30,7 +33,7 @@ std::string GridHeader::fault() const {
     bool const finite = std::isfinite(xmin) && std::isfinite(dx) && std::isfinite(ymin) && std::isfinite(dy);
     if (columns < 2 || rows < 2 || columns > mostColumns || !finite || !(dx > 0) || !(dy > 0))
         return "has no grid's header: " + std::to_string(columns) + " columns and " + std::to_string(rows) +
-               " rows, every " + std::to_string(dx) + " and " + std::to_string(dy) + " degrees";
+               " rows, every " + numberText(dx) + " and " + numberText(dy) + " degrees";
     if (columns + 1 < headerWords)
         return "has " + std::to_string(columns) + " columns; with less than 22, the header lies over the first rows";
     return "";
@@ -42,9 +45,13 @@ bool GridHeader::covers(double longitude, double latitude) const {
     return x > -1 && x < columns && y >= 1 && y < rows;
 }
 
-GridFile::GridFile(std::string path) : m_path(std::move(path)), m_file(m_path, std::ios::binary) {
-    if (!m_file || !std::filesystem::is_regular_file(m_path))
-        throw UsageError("cannot open " + m_path + ": " + systemMessage(errno ? errno : EINVAL));
+GridFile::GridFile(std::string path) : m_path(std::move(path)) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(m_path, error)) // a pipe would have us wait
+        throw UsageError("cannot open " + m_path + ": " + (error ? error.message() : "not a plain file"));
+    m_file.open(m_path, std::ios::binary);
+    if (!m_file)
+        throw UsageError("cannot open " + m_path + ": " + systemMessage(errno));
     std::array<char, 4 * headerWords> bytes{};
     if (!m_file.read(bytes.data(), bytes.size()))
         throw UsageError(m_path + " is too short for a grid's header");

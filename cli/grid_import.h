@@ -13,7 +13,7 @@ struct GridImport {
 
 /// Turns a pair of the usual convention (latitude shifts in .las, longitude shifts in .los, west positive) into one of
 /// this library's (longitude shifts in .LAS, east positive, latitude shifts in .LOS). The leading word of a row, which
-/// the library takes as the value west of it, becomes its first value. Both files are written whole, or none. Throws
+/// the library takes as the value west of it, becomes its first value. Each file appears when it is whole. Throws
 /// UsageError or std::runtime_error.
 void importGrids(GridImport const& job);
 

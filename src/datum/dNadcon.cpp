@@ -159,8 +159,8 @@ public:
 
     Corners operator()(Place const& place) {
         Corners corners{};
-        good_ = good_ && readPair(place.row, place.column, &corners[0]) &&
-                readPair(place.row + 1, place.column, &corners[2]);
+        good_ = good_ && readPair(place.row, place.column, corners.data()) &&
+                readPair(place.row + 1, place.column, corners.data() + 2);
         return corners;
     }
 

@@ -1,5 +1,6 @@
 // The user's own datums, in a profile's section "Custom Datums".
 #include "datum/datum_text.h"
+#include "host/fpenv.h"
 #include "host/profile.h"
 #include "host/text.h"
 
@@ -85,10 +86,10 @@ std::optional<UserDatum> findUserDatum(std::string_view name) {
     return found == datums.end() ? std::nullopt : std::optional(*found);
 }
 
-/// Runs what may run out of memory, which is a failure like others.
+/// Runs what may run out of memory, which is a failure like others, and what reads numbers.
 template <class Work> auto guarded(Work const& work) noexcept -> decltype(work()) {
     try {
-        return work();
+        return withDefaultFloatingPoint(work);
     } catch (std::exception const&) {
         return {};
     }

@@ -9,6 +9,7 @@
 #include <cmath>
 #include <limits>
 #include <random>
+#include <sys/stat.h>
 
 using namespace ZrProj;
 using test::GridFiles, test::GridHeader;
@@ -124,6 +125,9 @@ TEST(Nadcon, NeedsBothFilesAndClosesThem) {
     expectRefused(files);
     std::filesystem::create_directory(files.path(".LOS"));
     expectRefused(files);
+    std::filesystem::remove(files.path(".LOS"));
+    ASSERT_EQ(mkfifo(files.path(".LOS").c_str(), 0600), 0);
+    expectRefused(files); // without waiting for a writer
     std::filesystem::remove(files.path(".LOS"));
     files.write(".LOS", header, north);
     converted(files, at(5, 5));
