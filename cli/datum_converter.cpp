@@ -4,7 +4,7 @@
 #include "cli/usage_error.h"
 
 #include <cfloat>
-#include <cstring>
+#include <cmath>
 #include <filesystem>
 #include <stdexcept>
 
@@ -20,6 +20,11 @@ DATUMXFORM request(DatumShift const& shift) {
     result.SourceParams.bFromWGS84 = false;
     result.DestinationParams.bFromWGS84 = true;
     return result;
+}
+
+/// The longitude as grids have it.
+double within180(double longitude) {
+    return std::fabs(longitude) > 180 ? std::remainder(longitude, 360) : longitude;
 }
 
 bool isSameOfCatalogue(DatumShift const& shift) {
@@ -59,7 +64,7 @@ void DatumConverter::convert(std::span<PROJPOINT> points, std::span<PointState> 
     for (std::size_t i = 0; i < points.size(); ++i) {
         bool const given = hasResult(states[i]);
         m_points.push_back(given ? DATUMPOINT{points[i].x, points[i].y} : DATUMPOINT{DBL_MAX, DBL_MAX});
-        if (given && m_grid && !m_grid->covers(points[i].x, points[i].y))
+        if (given && m_grid && !m_grid->covers(within180(points[i].x), points[i].y))
             states[i] = PointState::OffGrid;
     }
     if (!m_transform.Convert(m_points.data(), static_cast<int>(m_points.size())))

@@ -93,10 +93,21 @@ struct Window {
 
     /// Whether reading it is no more work than two reads a point, and needs no more memory than is decent.
     bool isWorthReading() const {
-        constexpr std::uint64_t wordsPerRead = 2048, mostWords = std::uint64_t{1} << 24;
+        constexpr std::uint64_t wordsPerRead = 2048, mostWords = std::uint64_t{1} << 23;
         std::uint64_t const words = width() * height(); // both at most 2^31
         return words <= mostWords && height() + words / wordsPerRead <= 2 * points;
     }
+
+    /// Whole records, which follow each other in the file, where they are not much more.
+    Window widened(Grid const& grid) const {
+        Window result = *this;
+        if (width() > static_cast<std::uint64_t>(grid.columns) / 2) {
+            result.column = 0;
+            result.lastColumn = grid.columns;
+        }
+        return result;
+    }
+    bool isWhole(Grid const& grid) const { return column == 0 && lastColumn == grid.columns; }
 };
 
 Window windowOf(Grid const& grid, std::span<DATUMPOINT const> points) {
@@ -124,13 +135,14 @@ using Corners = std::array<float, 4>;
 class WindowReader {
 public:
     WindowReader(PlainFile const& file, Grid const& grid, Window const& window)
-        : window_(window), values_(window.width() * window.height()) {
+        : window_(window.widened(grid)), values_(window_.width() * window_.height()) {
         std::uint64_t const end = file.size() / sizeof(float);
-        float* out = values_.data();
-        for (std::int64_t row = window.row; row <= window.lastRow && good_; ++row, out += window.width()) {
-            std::uint64_t const first = grid.word(row, window.column);
-            std::uint64_t const length = std::min(window.width(), end - std::min(first, end));
-            good_ = file.read(first * sizeof(float), out, length * sizeof(float));
+        std::uint64_t const piece = window_.isWhole(grid) ? values_.size() : window_.width();
+        std::int64_t row = window_.row;
+        for (std::size_t at = 0; at < values_.size() && good_; at += piece, ++row) {
+            std::uint64_t const first = grid.word(row, window_.column);
+            std::uint64_t const length = std::min(piece, end - std::min(first, end));
+            good_ = file.read(first * sizeof(float), values_.data() + at, length * sizeof(float));
         }
     }
 

@@ -88,7 +88,7 @@ bool writeAll(int file, std::string_view text) {
 /// Gives the new file the owner, the group and the mode of the one that it is to replace. Where it cannot have the
 /// owner, it is our own; where it cannot have the group, ours gets no rights.
 bool takeOver(struct stat const& old, int file) {
-    constexpr uid_t asItIs = static_cast<uid_t>(-1);
+    constexpr auto asItIs = static_cast<uid_t>(-1);
     bool const sameGroup = fchown(file, old.st_uid, old.st_gid) == 0 || fchown(file, asItIs, old.st_gid) == 0;
     return fchmod(file, old.st_mode & (sameGroup ? 07777 : 07707)) == 0;
 }

@@ -39,8 +39,8 @@ refused 'there already' "$work/bin/conus.LAS is there already; --replace replace
 check 'replaced' 0 "$report" '' grid import --replace "$work/download/conus.los" </dev/null
 
 # The last point is west of the grid, in the column of the leading word.
-check 'shifted' 0 $'-74.999513889 40.000034722\n-80.249513889 40.000034722' '' datum --from 232 --to wgs84 \
-    <<<$'-75 40\n-80.25 40'
+check 'shifted' 0 $'-74.999513889 40.000034722\n285.000486111 40.000034722\n-80.249513889 40.000034722' '' \
+    datum --from 232 --to wgs84 <<<$'-75 40\n285 40\n-80.25 40'
 check 'outside' 1 $'-120.000000000 40.000000000\n* *' \
     '*1 point not converted: already marked*1 point not shifted to another datum: outside its grid (<stdin>:1)' \
     datum --strict --from 232 --to wgs84 <<<$'-120 40\n* *'
