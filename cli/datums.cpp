@@ -81,7 +81,18 @@ std::vector<std::string> catalogueNames() {
     return names;
 }
 
+/// The user's own datum of that whole name.
+std::optional<Datum> ownDatum(std::string const& name) {
+    Datum datum{name, DatumTypeUserDefined, {}};
+    return NDatGetDatumParams(name.c_str(), &datum.record) ? std::optional(datum) : std::nullopt;
+}
+
 Datum namedDatum(std::string_view text) {
+    if (auto const own = ownDatum(std::string(text))) { // also one of signs alone
+        if (isCatalogueName(text))
+            throw UsageError("the name " + inQuotes(text) + " is the catalogue's and one of your own; rename yours");
+        return *own;
+    }
     std::vector<std::string> names = catalogueNames();
     auto const catalogue = static_cast<int>(names.size());
     for (std::string& name : userDatumNames())
@@ -92,10 +103,10 @@ Datum namedDatum(std::string_view text) {
     int const place = result.found.front();
     if (place < catalogue)
         return catalogueDatum(static_cast<DatumType>(place + 1));
-    Datum datum{names[static_cast<std::size_t>(place)], DatumTypeUserDefined, {}};
-    if (!NDatGetDatumParams(datum.name.c_str(), &datum.record))
-        throw UsageError("the datum " + inQuotes(datum.name) + " has just gone from the profile");
-    return datum;
+    if (auto const own = ownDatum(names[static_cast<std::size_t>(place)]))
+        return *own;
+    throw UsageError("the datum " + inQuotes(names[static_cast<std::size_t>(place)]) +
+                     " has just gone from the profile");
 }
 
 bool isCalled(std::string_view text, std::string_view name) {

@@ -54,10 +54,14 @@ shifts 'replaced' '-100.000000000 40.000000000' --from mine --to wgs84
 listed=$("$zrproj" list datums own)
 [[ $listed == *'own '*'Mine '*'none '*'Clarke 1866' ]] || fail 'listed' "$listed"
 refused 'a name of the catalogue' 'the name "WGS-84" is one of the catalogue*' datum add 'WGS-84: method=none'
+check 'a name of signs' 0 '' '' datum add '= ]: method=none, ellipsoid=15' </dev/null
+shifts 'a name of signs' '-100.000000000 40.000000000' --from '= ]' --to wgs84
 check 'removed' 0 '' '' datum remove mine </dev/null
 refused 'gone' 'there is no datum "mine" of your own;*' datum remove mine
 shown=$("$zrproj" datum show 147)
 [[ $shown == *'NTF France - Paris Meridian'*6275*Molodensky*-83\ metres*2.337229167\ degrees* ]] || fail 'shown' "$shown"
+echo 'TOKYO=method=None' >>"$work/settings/zrproj/zrproj.ini"
+refused 'one name of two' 'the name "tokyo" is the catalogue*' datum --from tokyo --to wgs84
 XDG_CONFIG_HOME=/proc check 'a profile that cannot be written' 1 '' \
     'zrproj: the datum cannot be stored in the file zrproj/zrproj.ini*' datum add "$definition" </dev/null
 exit $failed
