@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
+#include <random>
+
 using namespace ZrProj;
 using namespace std::string_literals;
 
@@ -36,4 +39,22 @@ TEST(Profile, EditsNothingButTheEntry) {
     EXPECT_EQ(withoutEntry(binary, section, "k"), "[Custom Datums]\n\0\xFF\n"s);
     EXPECT_EQ(withoutEntry(binary, section, "x"), std::nullopt);
     EXPECT_EQ(withoutEntry("[x]\nk=1\n", section, "k"), std::nullopt);
+}
+
+TEST(Profile, FindsWhatItWroteInAnyBytes) {
+    std::mt19937 random(7);
+    std::vector<std::string> const pieces{
+        "[Custom Datums]", "[",  "]", "=", ";", "#", "\r\n", "\n", "\r", " ", "k", "K = 1", "\0"s,
+        "\xEF\xBB\xBF",    "x=2"};
+    for (int i = 0; i < 20000; ++i) {
+        std::string text;
+        for (std::size_t length = random() % 12; length > 0; --length)
+            text += pieces[random() % pieces.size()];
+        auto const entries = profileEntries(with(text), section);
+        auto const found =
+            std::ranges::find_if(entries, [](auto& entry) { return entry.key == "k" || entry.key == "K"; });
+        ASSERT_TRUE(found != entries.end() && found->value == "v") << text;
+        auto const without = withoutEntry(with(text), section, "k");
+        ASSERT_TRUE(without && !withoutEntry(*without, section, "k")) << text;
+    }
 }
