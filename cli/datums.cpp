@@ -66,7 +66,7 @@ std::optional<int> wholeNumber(std::string_view text) {
 }
 
 Datum numberedDatum(int number) {
-    DatumType type = static_cast<DatumType>(number);
+    auto type = static_cast<DatumType>(number);
     if ((number > 0 && number < DatNumDatums()) || DatGetDatumFromPOSCNumber(&type, number))
         return catalogueDatum(type);
     throw UsageError("no datum has the number or POSC code " + std::to_string(number) +

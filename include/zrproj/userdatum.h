@@ -4,9 +4,9 @@
 // Datums" has a line for each. By default it is zrproj/zrproj.ini under the directory that XDG_CONFIG_HOME names, else
 // under ~/.config (on Windows under APPDATA). The functions read it afresh in each call.
 //
-// A name is 1 to 255 bytes without control characters; any other text will do, blanks at its ends, quotation marks, "=",
-// "]" and UTF-8 included. Names are equal regardless of ASCII letter case. Lines that are no datum, be it by a fault in
-// them, are as if they were not there.
+// A name is 1 to 255 bytes without control characters; any other text will do: blanks at its ends, quotation marks,
+// "=", "]", UTF-8. Names are equal regardless of ASCII letter case. Lines that are no datum, be it by a fault in them,
+// are as if they were not there.
 //
 // All of it may be used on several threads at once.
 #ifndef ZRPROJ_USERDATUM_H
@@ -29,8 +29,8 @@ ZRPROJ_API int NDatNumDatums();
 /// (256 always can).
 ZRPROJ_API bool NDatGetDatumName(int index, char* name, int nameSize);
 
-/// The record of a user datum, every byte of it as it was set. Method, flag, figures and units are those of DATUM2WGS84.
-/// False, `*params` untouched, for null and where there is no such datum.
+/// The record of a user datum, all fields as they were set. False, `*params` untouched, for null and where there is no
+/// such datum.
 ZRPROJ_API bool NDatGetDatumParams(char const* name, DATUM2WGS84* params);
 
 /// The method of a user datum. False, `*method` untouched, for null and where there is no such datum.
@@ -43,8 +43,8 @@ ZRPROJ_API bool NDatGetDatumMethod(char const* name, DatumMethod* method);
 /// written, or would get larger than 1 MiB.
 ZRPROJ_API bool NDatSetDatum(char const* name, DATUM2WGS84 const* params);
 
-/// Removes a user datum. False, the profile as it was, for null, where there is no such datum, and when the profile cannot
-/// be read or written.
+/// Removes a user datum. False, the profile as it was, for null, where there is no such datum, and when the profile
+/// cannot be read or written.
 ZRPROJ_API bool NDatDeleteDatum(char const* name);
 
 } // namespace ZrProj
