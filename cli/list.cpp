@@ -121,7 +121,7 @@ std::vector<std::string> datumRow(Datum const& datum) {
             DatGetDatumPOSCNumber(datum.type, &code) ? std::to_string(code) : "",
             datum.name,
             std::string(methodName(datum.method())),
-            datum.isReversible() ? "" : "from it only",
+            datum.isReversible() ? "both ways" : "from it only",
             figure ? ellipsoidName(figure->ellipsoid) : ""};
 }
 
