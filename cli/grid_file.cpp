@@ -16,7 +16,8 @@
 namespace ZrProj::Command {
 namespace {
 
-constexpr int headerWords = 23, mostColumns = 1 << 20;
+constexpr std::size_t headerBytes = 92;
+constexpr int leastColumns = 22, mostColumns = 1 << 20; // with fewer, the header is longer than a record
 
 /// The bytes of a text that can be printed, without what pads it.
 std::string printable(std::string_view bytes) {
@@ -34,7 +35,7 @@ std::string GridHeader::fault() const {
     if (columns < 2 || rows < 2 || columns > mostColumns || !finite || !(dx > 0) || !(dy > 0))
         return "has no grid's header: " + std::to_string(columns) + " columns and " + std::to_string(rows) +
                " rows, every " + numberText(dx) + " and " + numberText(dy) + " degrees";
-    if (columns + 1 < headerWords)
+    if (columns < leastColumns)
         return "has " + std::to_string(columns) + " columns; with less than 22, the header lies over the first rows";
     return "";
 }
@@ -52,7 +53,7 @@ GridFile::GridFile(std::string path) : m_path(std::move(path)) {
     m_file.open(m_path, std::ios::binary);
     if (!m_file)
         throw UsageError("cannot open " + m_path + ": " + systemMessage(errno));
-    std::array<char, 4 * headerWords> bytes{};
+    std::array<char, headerBytes> bytes{};
     if (!m_file.read(bytes.data(), bytes.size()))
         throw UsageError(m_path + " is too short for a grid's header");
     std::memcpy(&m_header, bytes.data() + 64, sizeof m_header);
