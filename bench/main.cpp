@@ -1,5 +1,6 @@
 // Every projection and the datum methods, both ways, for single points, short arrays and long ones, at each processor
 // level and beside other libraries. A closing table sets zrproj beside each of the others.
+#include "nadcon.h"
 #include "table.h"
 
 #include <algorithm>
@@ -138,7 +139,9 @@ int main(int argc, char** argv) {
         compareResults(group);
         registerRows(group);
     }
+    registerNadcon();
     Collector collector(Collector::OO_Tabular);
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(groups, collector, longest);
+    printNadcon(collector);
 }

@@ -18,7 +18,10 @@ public:
     virtual int run(Output& output) = 0;
 };
 
+std::unique_ptr<Subcommand> makeDatum(CLI::App& app);
+std::unique_ptr<Subcommand> makeDatumConversion(CLI::App& app); // datum's own, without its subcommands
 std::unique_ptr<Subcommand> makeForward(CLI::App& app);
+std::unique_ptr<Subcommand> makeGrid(CLI::App& app);
 std::unique_ptr<Subcommand> makeInverse(CLI::App& app);
 std::unique_ptr<Subcommand> makeList(CLI::App& app);
 std::unique_ptr<Subcommand> makeShow(CLI::App& app);

@@ -36,7 +36,7 @@ bool isVerbatim(InputLine const& line) {
 } // namespace
 
 Conversion::Conversion(ConversionJob job, Output& output)
-    : m_job(std::move(job)), m_output(output), m_transform(m_job.projection, m_job.columns.direction),
+    : m_job(std::move(job)), m_output(output), m_transform(m_job.projection, m_job.columns.direction, m_job.shift),
       m_progress(totalSize(m_job.files)), m_report(m_progress),
       m_writer(output, m_job.columns.direction, m_job.decimals,
                m_job.projection.zonePerPoint && m_job.columns.direction == Direction::Forward) {}

@@ -16,7 +16,8 @@
 namespace ZrProj::Command {
 
 struct ConversionJob {
-    ProjectionChoice projection;
+    ProjectionChoice projection; // not for Direction::Datum
+    std::optional<DatumShift> shift;
     ColumnRequest columns; // with the direction, and --units
     int decimals = 0;
     bool strict = false;
@@ -26,7 +27,7 @@ struct ConversionJob {
 /// Runs one command line's files through, in blocks of lines, in memory that does not grow with the input.
 class Conversion {
 public:
-    /// Throws UsageError when the projection cannot convert.
+    /// Throws UsageError when the projection or the datums cannot convert.
     Conversion(ConversionJob job, Output& output);
 
     /// Returns the exit status. Throws UsageError for a header that cannot be used.

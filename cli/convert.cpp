@@ -1,6 +1,7 @@
-// zrproj forward and zrproj inverse: the options that they share.
+// zrproj forward, zrproj inverse and the conversion of zrproj datum: the options that they share.
 #include "cli/commands.h"
 #include "cli/conversion.h"
+#include "cli/datum_options.h"
 #include "cli/number_field.h"
 #include "cli/projection_options.h"
 #include "cli/text.h"
@@ -29,25 +30,31 @@ private:
     ColumnRequest columns(ProjectionChoice const& projection) const;
 
     Direction m_direction;
-    ProjectionOptions m_projection;
+    ProjectionOptions m_projection; // none for Direction::Datum
+    DatumOptions m_datums;
     std::vector<std::string> m_files;
     std::string m_columns, m_units, m_precision;
     bool m_strict = false;
 };
 
-Convert::Convert(CLI::App& app, Direction direction) : m_direction(direction) {
+Convert::Convert(CLI::App& app, Direction direction) : m_direction(direction), m_datums(direction) {
+    bool const projects = direction != Direction::Datum;
     auto const add = [&](char const* name, std::string& text, char const* type, char const* description) {
         app.add_option(name, text, description)->type_name(type)->group("Input and output");
     };
     app.add_option("FILE", m_files, "Files of points; standard input where none is given, and for -")->option_text(" ");
-    m_projection.addTo(app);
+    if (projects)
+        m_projection.addTo(app);
+    m_datums.addTo(app);
     add("--columns", m_columns, "X,Y", "Columns of the coordinates, x first: numbers from 1, or names of the header");
-    add("--units", m_units, "UNIT", "Unit of projected coordinates: m (the default), ft or us-ft");
+    if (projects)
+        add("--units", m_units, "UNIT", "Unit of projected coordinates: m (the default), ft or us-ft");
     add("--precision", m_precision, "N", "Decimals of the result, 0 to 15 (3 for lengths, 9 for degrees)");
     app.add_flag("--strict", m_strict, "Status 1 also when a point cannot be converted, or not well")
         ->disable_flag_override()
         ->group("Input and output");
-    m_projection.addParametersTo(app);
+    if (projects)
+        m_projection.addParametersTo(app);
 }
 
 LengthUnit const* Convert::unit() const {
@@ -78,14 +85,20 @@ ColumnRequest Convert::columns(ProjectionChoice const& projection) const {
 }
 
 int Convert::run(Output& output) {
-    ProjectionChoice const projection = m_projection.choice();
-    ConversionJob job{projection, columns(projection), decimals(), m_strict, m_files};
+    ProjectionChoice projection;
+    if (m_direction != Direction::Datum)
+        projection = m_projection.choice(m_datums.mapFigure());
+    ConversionJob job{projection, m_datums.shift(), columns(projection), decimals(), m_strict, m_files};
     if (job.files.empty())
         job.files.emplace_back("-");
     return Conversion(std::move(job), output).run();
 }
 
 } // namespace
+
+std::unique_ptr<Subcommand> makeDatumConversion(CLI::App& app) {
+    return std::make_unique<Convert>(app, Direction::Datum);
+}
 
 std::unique_ptr<Subcommand> makeForward(CLI::App& app) {
     app.footer(R"(Example: the places of a spreadsheet export, in feet, in new columns

@@ -11,7 +11,7 @@ namespace ZrProj::Command {
 /// Stands for both coordinates of a point that has none.
 inline constexpr std::string_view noCoordinate = "*";
 
-/// Reads a longitude or latitude for Forward, an easting or northing for Inverse.
+/// Reads an easting or northing for Inverse, else a longitude or latitude.
 inline Reading readCoordinate(std::string_view field, bool isX, Direction direction) {
     if (direction == Direction::Inverse)
         return readNumber(field);

@@ -76,9 +76,9 @@ bool isLength(Name const& name, LengthUnit const* wanted) {
 int find(std::span<std::string const> names, Meaning meaning, Direction direction, LengthUnit const* unit) {
     for (std::size_t i = 0; i < names.size(); ++i) {
         Name const name = splitName(names[i]);
-        bool const fits = meaning == Meaning::Zone          ? name.rest.empty()
-                          : direction == Direction::Forward ? isAngle(name)
-                                                            : isLength(name, unit);
+        bool const fits = meaning == Meaning::Zone ? name.rest.empty()
+                          : readsAngles(direction) ? isAngle(name)
+                                                   : isLength(name, unit);
         if (fits && means(name, meaning))
             return static_cast<int>(i);
     }
@@ -93,7 +93,7 @@ LengthUnit const* unitOfColumn(std::string_view name) {
 
 std::optional<Columns> findColumns(std::span<std::string const> names, Direction direction, LengthUnit const* unit) {
     std::span<Pair const> const pairs =
-        direction == Direction::Forward ? std::span<Pair const>(forwardPairs) : std::span<Pair const>(inversePairs);
+        readsAngles(direction) ? std::span<Pair const>(forwardPairs) : std::span<Pair const>(inversePairs);
     for (Pair const& pair : pairs) {
         int const x = find(names, pair.x, direction, unit);
         int const y = find(names, pair.y, direction, unit);

@@ -10,7 +10,17 @@
 
 namespace ZrProj::Command {
 
-enum class Direction { Forward, Inverse };
+/// What a conversion does with its points.
+enum class Direction {
+    Forward, // longitudes and latitudes to map coordinates
+    Inverse, // map coordinates to longitudes and latitudes
+    Datum,   // longitudes and latitudes to those of another datum
+};
+
+/// Whether the points come as longitudes and latitudes.
+constexpr bool readsAngles(Direction direction) {
+    return direction != Direction::Inverse;
+}
 
 /// Columns by their place, from 0. An absent zone column is -1.
 struct Columns {
@@ -20,7 +30,7 @@ struct Columns {
     LengthUnit const* unit = nullptr; // that the names tell
 };
 
-/// The columns to convert: for Forward longitude and latitude, or x and y, or easting and northing; for Inverse easting
+/// The columns to convert: of angles longitude and latitude, or x and y, or easting and northing; for Inverse easting
 /// and northing, or x and y; the leftmost ones where several fit. Names may carry a unit: "easting_us_ft",
 /// "Longitude (deg)". With `unit` only columns of that unit, or without one, are taken. Nothing when there is no pair,
 /// and when its two units differ.

@@ -140,8 +140,7 @@ Recognition Candidate::found() const {
 std::string Candidate::missingPair() const {
     std::string const unit = m_request.unit ? " in " + std::string(m_request.unit->words) : "";
     return "the header has no columns " +
-           (m_request.direction == Direction::Forward ? R"("longitude" and "latitude")"
-                                                      : R"("easting" and "northing")" + unit) +
+           (readsAngles(m_request.direction) ? R"("longitude" and "latitude")" : R"("easting" and "northing")" + unit) +
            "; name them with --columns";
 }
 

@@ -1,5 +1,6 @@
 // zrproj list: the catalogues.
 #include "cli/commands.h"
+#include "cli/datums.h"
 #include "cli/name_match.h"
 #include "cli/parameters.h"
 #include "cli/state_plane.h"
@@ -96,13 +97,40 @@ Table zones() {
     return table;
 }
 
+std::vector<std::string> datumRow(Datum const& datum) {
+    auto const figure = figureOf(datum);
+    int code = 0;
+    return {datum.isOwn() ? "own" : std::to_string(datum.type),
+            DatGetDatumPOSCNumber(datum.type, &code) ? std::to_string(code) : "",
+            datum.name,
+            std::string(methodName(datum.method())),
+            datum.isReversible() ? "both ways" : "from it only",
+            figure ? ellipsoidName(figure->ellipsoid) : ""};
+}
+
+/// The catalogue, and the user's own.
+Table datums() {
+    Table table{{"No", "POSC", "Datum", "Method", "Converts", "Ellipsoid"}, "rrllll", {}};
+    for (int i = 1; i < DatNumDatums(); ++i) {
+        auto const type = static_cast<DatumType>(i);
+        table.rows.push_back(datumRow({datumName(type), type, {}}));
+    }
+    for (std::string const& name : userDatumNames()) {
+        Datum own{name, DatumTypeUserDefined, {}};
+        if (NDatGetDatumParams(name.c_str(), &own.record))
+            table.rows.push_back(datumRow(own));
+    }
+    return table;
+}
+
 struct Catalogue {
     std::string name;
     Table (*table)();
 };
 
 std::array const catalogues{Catalogue{"projections", projections}, Catalogue{"parameters", parameterTable},
-                            Catalogue{"ellipsoids", ellipsoids}, Catalogue{"zones", zones}};
+                            Catalogue{"ellipsoids", ellipsoids}, Catalogue{"zones", zones},
+                            Catalogue{"datums", datums}};
 
 Table findTable(std::string const& text) {
     std::array<std::string, catalogues.size()> names;
@@ -110,7 +138,7 @@ Table findTable(std::string const& text) {
     NameMatch const result = matchName(text, names);
     if (result.match != Match::One)
         throw UsageError("there is no list " + inQuotes(text) +
-                         "; there are projections, parameters, ellipsoids, zones");
+                         "; there are projections, parameters, ellipsoids, zones, datums");
     return catalogues[static_cast<std::size_t>(result.found.front())].table();
 }
 
@@ -127,7 +155,7 @@ void filter(Table& table, std::string const& text) {
 class List : public Subcommand {
 public:
     explicit List(CLI::App& app) {
-        app.add_option("CATALOGUE", m_catalogue, "projections, parameters, ellipsoids or zones (State Plane)")
+        app.add_option("CATALOGUE", m_catalogue, "projections, parameters, ellipsoids, zones (State Plane) or datums")
             ->required()
             ->option_text(" ");
         app.add_option("TEXT", m_text, "Only the entries that have this text in them")->option_text(" ");

@@ -25,6 +25,7 @@ constexpr char const* overview = R"(Examples:
   echo -79.387139,43.642567 | zrproj forward --utm 17N
   zrproj forward --utm auto cities.csv > utm.csv
   zrproj inverse --utm auto utm.csv
+  zrproj datum --from nad27 --to wgs84 survey.csv
   zrproj list projections
   zrproj show --utm 17N
 
@@ -49,8 +50,10 @@ struct CommandRow {
 constexpr std::array commandRows{
     CommandRow{"forward", "Convert longitudes and latitudes to projected coordinates", makeForward},
     CommandRow{"inverse", "Convert projected coordinates to longitudes and latitudes", makeInverse},
-    CommandRow{"list", "List projections, parameters, ellipsoids or State Plane zones", makeList},
+    CommandRow{"datum", "Convert longitudes and latitudes to another datum, and keep datums of your own", makeDatum},
+    CommandRow{"list", "List projections, parameters, ellipsoids, State Plane zones or datums", makeList},
     CommandRow{"show", "Show the completed parameters of a projection", makeShow},
+    CommandRow{"grid", "Look at the grids of NADCON datums, and prepare them", makeGrid},
 };
 
 /// The whole command line.

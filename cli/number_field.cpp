@@ -2,6 +2,7 @@
 
 #include "cli/text.h"
 
+#include <array>
 #include <charconv>
 #include <cmath>
 #include <system_error>
@@ -35,6 +36,28 @@ Reading readNumber(std::string_view field) {
     if (!std::isfinite(value))
         return {0, "is not a finite number"};
     return {value, nullptr};
+}
+
+Reading readFlattening(std::string_view text) {
+    std::string_view const number = trimmed(text);
+    if (!number.starts_with("1/"))
+        return readNumber(number);
+    Reading inverse = readNumber(number.substr(2));
+    inverse.value = 1 / inverse.value;
+    return inverse;
+}
+
+std::string numberText(double value) {
+    bool const readable = value == 0 || (std::fabs(value) >= 1e-9 && std::fabs(value) < 1e15);
+    std::array<char, 48> buffer{};
+    auto const format = readable ? std::chars_format::fixed : std::chars_format::general;
+    return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format).ptr};
+}
+
+std::string flatteningText(double flattening) {
+    if (flattening == 0)
+        return "0 (a sphere)";
+    return numberText(flattening) + " (1/" + numberText(1 / flattening) + ")";
 }
 
 } // namespace ZrProj::Command

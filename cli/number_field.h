@@ -1,6 +1,7 @@
 // Numbers as users write them.
 #pragma once
 
+#include <string>
 #include <string_view>
 
 namespace ZrProj::Command {
@@ -14,5 +15,14 @@ struct Reading {
 /// Reads a finite decimal number, with an optional sign and exponent, and blanks around it. The decimal mark is a
 /// point, whatever the locale.
 Reading readNumber(std::string_view field);
+
+/// Reads a flattening: a number, or 1/298.25.
+Reading readFlattening(std::string_view field);
+
+/// A number with as many digits as it takes to read it back.
+std::string numberText(double value);
+
+/// A flattening as both of its kinds: "0.0033528106647474805 (1/298.257223563)".
+std::string flatteningText(double flattening);
 
 } // namespace ZrProj::Command

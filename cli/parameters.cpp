@@ -73,16 +73,6 @@ std::vector<Parameter> readCatalogue() {
     return result;
 }
 
-/// A flattening as a number, or as 1/298.25.
-Reading readFlattening(std::string_view text) {
-    std::string_view const number = trimmed(text);
-    if (!number.starts_with("1/"))
-        return readNumber(number);
-    Reading inverse = readNumber(number.substr(2));
-    inverse.value = 1 / inverse.value;
-    return inverse;
-}
-
 Reading readFactor(std::string_view text) {
     Reading factor = readNumber(text);
     if (!factor.error && !(factor.value > 0))
@@ -107,13 +97,6 @@ Reading readQuantity(Quantity quantity, std::string_view text) {
     }
 }
 
-std::string numberText(double value) {
-    bool const readable = value == 0 || (std::fabs(value) >= 1e-9 && std::fabs(value) < 1e15);
-    std::array<char, 48> buffer{};
-    auto const format = readable ? std::chars_format::fixed : std::chars_format::general;
-    return {buffer.data(), std::to_chars(buffer.data(), buffer.data() + buffer.size(), value, format).ptr};
-}
-
 template <class T> T parameterValue(PROJDATA const& record, int id) {
     T value{};
     ProjGetParam(&record, id, &value);
@@ -131,12 +114,6 @@ std::string unitText(Quantity quantity) {
     default:
         return "";
     }
-}
-
-std::string flatteningText(double flattening) {
-    if (flattening == 0)
-        return "0 (a sphere)";
-    return numberText(flattening) + " (1/" + numberText(1 / flattening) + ")";
 }
 
 /// A number in a text that is nothing else, if it lies in 0 to `count` - 1.

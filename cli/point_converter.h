@@ -12,6 +12,7 @@ namespace ZrProj::Command {
 enum class PointState : std::uint8_t {
     Good,
     Far,      // has a result, but lies too far from the central meridian for a good one
+    OffGrid,  // has a result, but lies outside the grid of the datum, which leaves it as it is
     Marked,   // came marked as unplottable
     Outside,  // lies outside the projection's usable area
     NoResult, // the formulas give none
@@ -19,7 +20,7 @@ enum class PointState : std::uint8_t {
 };
 
 constexpr bool hasResult(PointState state) {
-    return state == PointState::Good || state == PointState::Far;
+    return state == PointState::Good || state == PointState::Far || state == PointState::OffGrid;
 }
 
 /// Converts points in place. Longitudes are taken on the side of the globe that the projection is centred on, and given

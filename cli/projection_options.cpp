@@ -38,7 +38,7 @@ std::string description(Parameter const& parameter) {
     case zoneId:
         return "State Plane zone, by name, USGS code or POSC code, for the State Plane projections";
     case ellipsoidId:
-        return "Ellipsoid, by name or number; WGS 84 where not given";
+        return "Ellipsoid, by name or number; that of --datum, else WGS 84, where not given";
     default:
         return parameter.name;
     }
@@ -164,14 +164,18 @@ void ProjectionOptions::refuseUnused(ProjType type) const {
 }
 
 /// A catalogue ellipsoid (a State Plane record needs one as well, although the zone's own is used), or the user's.
-void ProjectionOptions::setEllipsoid(PROJDATA& record) const {
-    record.Ellipsoid = EllipsoidTypeWgs84;
+void ProjectionOptions::setEllipsoid(PROJDATA& record, Figure const& standard) const {
+    record.Ellipsoid = standard.ellipsoid;
+    record.MajorRadius = standard.radius;
+    record.Flattening = standard.flattening;
     if (given(flatteningId) && !given(radiusId))
         throw UsageError("--flattening goes with --radius");
     if (given(radiusId) && given(ellipsoidId))
         throw UsageError("--radius has no place beside --ellipsoid, which tells it");
-    if (given(radiusId))
+    if (given(radiusId)) {
         record.Ellipsoid = EllipsoidTypeUserDefined;
+        record.Flattening = 0;
+    }
     if (given(ellipsoidId))
         record.Ellipsoid = findEllipsoid(value(ellipsoidId).text);
     if (given(ellipsoidId) && record.Ellipsoid == EllipsoidTypeUserDefined)
@@ -186,11 +190,11 @@ void ProjectionOptions::setValues(PROJDATA& record) const {
     }
 }
 
-ProjectionChoice ProjectionOptions::choice() const {
+ProjectionChoice ProjectionOptions::choice(Figure const& standard) const {
     ProjectionChoice choice;
     startFrom(choice);
     refuseUnused(choice.record.Type);
-    setEllipsoid(choice.record);
+    setEllipsoid(choice.record, standard);
     setValues(choice.record);
     check(choice.record);
     return choice;

@@ -1,6 +1,8 @@
 // The options that say which projection: by its parameters, or by a UTM or State Plane zone.
 #pragma once
 
+#include "cli/datums.h"
+
 #include <zrproj/zrproj.h>
 
 #include <optional>
@@ -29,8 +31,9 @@ public:
     void addTo(CLI::App& app);
     void addParametersTo(CLI::App& app);
 
-    /// What the options say, checked. Throws UsageError when they are no usable projection.
-    ProjectionChoice choice() const;
+    /// What the options say, checked; `standard` is the ellipsoid where they tell none. Throws UsageError when they are
+    /// no usable projection.
+    ProjectionChoice choice(Figure const& standard = {}) const;
 
 private:
     struct Value {
@@ -46,7 +49,7 @@ private:
     bool given(int id) const;
     std::optional<int> year() const;
     void refuseUnused(ProjType type) const;
-    void setEllipsoid(PROJDATA& record) const;
+    void setEllipsoid(PROJDATA& record, Figure const& standard) const;
     void setValues(PROJDATA& record) const;
 
     std::vector<Value> m_values; // one a catalogue parameter, in catalogue order

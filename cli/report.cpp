@@ -48,10 +48,11 @@ void Report::closeCount(PointState state, std::string const& reason) {
 
 void Report::close() {
     closeCount(PointState::Outside, "not converted: outside the projection's usable area");
-    closeCount(PointState::NoResult, "not converted: the projection has no result there");
+    closeCount(PointState::NoResult, "not converted: the formulas have no result there");
     closeCount(PointState::Marked, "not converted: already marked * in the input");
     closeCount(PointState::Far,
                "converted, but off by metres to kilometres: more than 10 degrees from the central meridian");
+    closeCount(PointState::OffGrid, "not shifted to another datum: outside its grid");
     if (m_badLines > 0)
         say("zrproj: " + std::to_string(m_badLines) + (m_badLines == 1 ? " line" : " lines") + " could not be read" +
             (m_badLines > mostBadLines ? "; the first " + std::to_string(mostBadLines) + " are shown above" : ""));
@@ -59,7 +60,8 @@ void Report::close() {
 
 int Report::status(bool strict) const {
     bool lost = false;
-    for (PointState state : {PointState::Far, PointState::Marked, PointState::Outside, PointState::NoResult})
+    for (PointState state :
+         {PointState::Far, PointState::OffGrid, PointState::Marked, PointState::Outside, PointState::NoResult})
         lost = lost || count(state).points > 0;
     return m_failed || m_badLines > 0 || (strict && lost) ? 1 : 0;
 }

@@ -1,6 +1,7 @@
 #include "cli/transform.h"
 
 #include <algorithm>
+#include <cmath>
 #include <numeric>
 
 namespace ZrProj::Command {
@@ -27,8 +28,12 @@ void PointBlock::add(BlockPoint const& point) {
     zones.push_back(point.zone);
 }
 
-Transform::Transform(ProjectionChoice const& choice, Direction direction) : m_choice(choice), m_direction(direction) {
-    converter(0);
+Transform::Transform(ProjectionChoice const& choice, Direction direction, std::optional<DatumShift> const& shift)
+    : m_choice(choice), m_direction(direction) {
+    if (direction != Direction::Datum)
+        converter(0);
+    if (shift)
+        m_datum.emplace(*shift);
 }
 
 PointConverter& Transform::converter(UtmZone zone) {
@@ -76,15 +81,50 @@ void Transform::runByZone(PointBlock& block) {
     }
 }
 
-void Transform::run(PointBlock& block, LengthUnit const& unit) {
-    if (m_direction == Direction::Inverse)
-        scale(block.points, unit.metres);
+void Transform::project(PointBlock& block) {
     if (m_choice.zonePerPoint)
         runByZone(block);
     else
         convert(0, block.points, block.states);
-    if (m_direction == Direction::Forward)
+}
+
+void Transform::shiftDatum(PointBlock& block) {
+    if (m_datum)
+        m_datum->convert(block.points, block.states);
+}
+
+/// Points outside the grid are projected like others, and are told of afterwards.
+void Transform::shiftAndProject(PointBlock& block) {
+    shiftDatum(block);
+    std::vector<PointState> const shifted = m_datum ? block.states : std::vector<PointState>();
+    std::replace(block.states.begin(), block.states.end(), PointState::OffGrid, PointState::Good);
+    project(block);
+    for (std::size_t i = 0; i < shifted.size(); ++i)
+        if (shifted[i] == PointState::OffGrid && block.states[i] == PointState::Good)
+            block.states[i] = PointState::OffGrid;
+}
+
+void Transform::projectAndShift(PointBlock& block) {
+    project(block);
+    shiftDatum(block);
+    for (std::size_t i = 0; i < block.points.size() && m_datum; ++i)
+        if (hasResult(block.states[i]) && std::fabs(block.points[i].x) > 180)
+            block.points[i].x = std::remainder(block.points[i].x, 360);
+}
+
+void Transform::run(PointBlock& block, LengthUnit const& unit) {
+    switch (m_direction) {
+    case Direction::Forward:
+        shiftAndProject(block);
         scale(block.points, 1 / unit.metres);
+        break;
+    case Direction::Inverse:
+        scale(block.points, unit.metres);
+        projectAndShift(block);
+        break;
+    case Direction::Datum:
+        shiftDatum(block);
+    }
 }
 
 } // namespace ZrProj::Command

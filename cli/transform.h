@@ -1,6 +1,8 @@
-// Blocks of points through the projection that the user chose, or each through its own UTM zone.
+// Blocks of points through the projection that the user chose, or each through its own UTM zone, and before or after it
+// from one datum to another.
 #pragma once
 
+#include "cli/datum_converter.h"
 #include "cli/header.h"
 #include "cli/point_converter.h"
 #include "cli/projection_options.h"
@@ -8,6 +10,7 @@
 
 #include <array>
 #include <memory>
+#include <optional>
 #include <vector>
 
 namespace ZrProj::Command {
@@ -31,8 +34,8 @@ struct PointBlock {
 
 class Transform {
 public:
-    /// Throws UsageError when the projection cannot convert.
-    Transform(ProjectionChoice const& choice, Direction direction);
+    /// choice: not looked at for Direction::Datum. Throws UsageError when the projection or the datums cannot convert.
+    Transform(ProjectionChoice const& choice, Direction direction, std::optional<DatumShift> const& shift);
 
     /// Converts a block in place; `unit` is that of projected coordinates.
     void run(PointBlock& block, LengthUnit const& unit);
@@ -41,10 +44,15 @@ private:
     void convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states);
     PointConverter& converter(UtmZone zone);
     void runByZone(PointBlock& block);
+    void project(PointBlock& block);
+    void shiftDatum(PointBlock& block);
+    void shiftAndProject(PointBlock& block);
+    void projectAndShift(PointBlock& block);
 
     ProjectionChoice m_choice;
     Direction m_direction;
     std::array<std::unique_ptr<PointConverter>, utmZones> m_converters; // the first one only, without zones
+    std::optional<DatumConverter> m_datum;                              // none: points stay on theirs
     PointBlock m_sorted;
 };
 

@@ -15,6 +15,7 @@
 #include "ellipsoid.h"
 #include "preclip.h"
 #include "projection.h"
+#include "userdatum.h"
 #include "zones.h"
 #include "zrlibw.h"
 

@@ -57,6 +57,13 @@ void prepareStep(Step& step, MethodSet const& methods, DatumType type, DATUM2WGS
         methods.regression(step, type);
 }
 
+bool shiftByConus(DATUMPOINT* points, std::size_t count) {
+    return convertNadcon("conus", points, count);
+}
+bool shiftByPrvi(DATUMPOINT* points, std::size_t count) {
+    return convertNadcon("prvi", points, count);
+}
+
 void run(Step const& step, Block& block) {
     if (step.run)
         step.run(step, block);
@@ -84,7 +91,7 @@ bool convertByGrid(Conversion const& c, std::span<DATUMPOINT> points, bool& mark
         turn = std::transform(block.turn, block.turn + count, turn, [](double t) { return t / 360; });
         marked |= methods.write(block, p);
     });
-    if (!convertNadcon(c.grid, points.data(), points.size()))
+    if (!c.grid(points.data(), points.size()))
         return false;
     turn = turns.begin();
     forEachBlock(points, [&](DATUMPOINT* p, int count) {
@@ -110,7 +117,7 @@ Conversion prepareConversion(DATUMXFORM const& request) noexcept {
     prepareStep(result.source, *result.methods, request.Source, *source);
     prepareStep(result.destination, *result.methods, request.Destination, *destination);
     if (source->Method == DatumMethodNadcon)
-        result.grid = request.Source == DatumTypeNad1927ConusNadcon ? "conus" : "prvi";
+        result.grid = request.Source == DatumTypeNad1927ConusNadcon ? shiftByConus : shiftByPrvi;
     return result;
 }
 

@@ -3,13 +3,14 @@
 
 #include "datum/step.h"
 
+#include <cstddef>
 #include <span>
 
 namespace ZrProj::datum {
 
 struct Conversion {
-    bool isDefined = false;     // both ends are known and can be converted in their direction
-    char const* grid = nullptr; // of a source that is shifted by a NADCON grid
+    bool isDefined = false; // both ends are known and can be converted in their direction
+    bool (*grid)(DATUMPOINT* points, std::size_t count) = nullptr; // of a source that is shifted by a NADCON grid
     Step source, destination;
     MethodSet const* methods = nullptr;
 };

@@ -1,12 +1,246 @@
-// NADCON grids: not available yet.
+// NADCON: bilinear interpolation in two grids of shifts, arcseconds.
+//
+// Source    the NADCON binary layout: records of ncols + 1 four-byte words, little-endian; record 0 is the header,
+//           records 1 to nrows hold a leading word and the values of a row, south to north, west to east.
+// Departs   from what other programs do with such files: the grid in the .LAS file is added to the LONGITUDE (east
+//           positive), the one in the .LOS file to the latitude.
+// Domain    column positions from -1 (exclusive) to ncols, so that up to two cells west of the grid are still shifted,
+//           with the leading word as their western value; row positions from 1 to nrows (exclusive). All else stays.
 #include "datum/nadcon.h"
 
 #include "frame/errors.h"
+#include "host/platform.h"
+
+#include <algorithm>
+#include <array>
+#include <bit>
+#include <cfloat>
+#include <cmath>
+#include <cstdint>
+#include <cstring>
+#include <exception>
+#include <optional>
+#include <span>
+#include <string>
+#include <vector>
 
 namespace ZrProj {
+namespace {
 
-bool convertNadcon(char const*, DATUMPOINT*, std::size_t) {
-    return AssertFailed(".\\dNadcon.cpp", __LINE__);
+static_assert(std::endian::native == std::endian::little, "the grids' words are read as they stand");
+
+/// Reports an internal inconsistency at the place of the call. Always false.
+bool inconsistent(int line = __builtin_LINE()) noexcept {
+    return AssertFailed(".\\dNadcon.cpp", line);
+}
+
+/// Where a point stands: the cell's south-western corner, counted from 1 (column 0 is the leading word), and the
+/// fractions from there, which are negative west of column 0.
+struct Place {
+    std::int32_t row, column;
+    double fx, fy;
+};
+
+struct Grid {
+    std::int32_t columns, rows;
+    double xmin, dx, ymin, dy;
+
+    std::optional<Place> locate(DATUMPOINT const& point) const {
+        if (point.x == DBL_MAX || point.y == DBL_MAX)
+            return std::nullopt;
+        double const x = (point.x - xmin) / dx + 1, y = (point.y - ymin) / dy + 1;
+        if (!(x > -1 && x < columns && y >= 1 && y < rows))
+            return std::nullopt;
+        auto const column = static_cast<std::int32_t>(x), row = static_cast<std::int32_t>(y); // toward zero
+        return Place{row, column, x - column, y - row};
+    }
+
+    /// A value's place in the file, in words: below 2^62.
+    std::uint64_t word(std::int64_t row, std::int64_t column) const {
+        return static_cast<std::uint64_t>(row * (std::int64_t{columns} + 1) + column);
+    }
+};
+
+std::optional<Grid> readHeader(PlainFile const& file) {
+    constexpr std::uint64_t start = 64;
+    std::array<char, 28> bytes;
+    if (!file.read(start, bytes.data(), bytes.size()))
+        return std::nullopt;
+    std::array<std::int32_t, 3> counts; // columns, rows, values a point
+    std::array<float, 4> places;        // xmin, dx, ymin, dy
+    std::memcpy(counts.data(), bytes.data(), sizeof counts);
+    std::memcpy(places.data(), bytes.data() + sizeof counts, sizeof places);
+    bool const finite = std::ranges::all_of(places, [](float value) { return std::isfinite(value); });
+    if (counts[0] < 2 || counts[1] < 2 || !finite || !(places[1] > 0) || !(places[3] > 0))
+        return std::nullopt;
+    return Grid{counts[0], counts[1], places[0], places[1], places[2], places[3]};
+}
+
+/// The part of the grid that a call needs: the box around the cells of all its points.
+struct Window {
+    std::int32_t row = INT32_MAX, column = INT32_MAX, lastRow = 0, lastColumn = 0;
+    std::uint64_t points = 0;
+
+    void add(Place const& place) {
+        row = std::min(row, place.row);
+        column = std::min(column, place.column);
+        lastRow = std::max(lastRow, place.row + 1); // rows and columns of the grid: no overflow
+        lastColumn = std::max(lastColumn, place.column + 1);
+        ++points;
+    }
+    std::uint64_t width() const { return static_cast<std::uint64_t>(std::int64_t{lastColumn} - column + 1); }
+    std::uint64_t height() const { return static_cast<std::uint64_t>(std::int64_t{lastRow} - row + 1); }
+
+    /// Whether reading it is no more work than two reads a point, and needs no more memory than is decent.
+    bool isWorthReading() const {
+        constexpr std::uint64_t wordsPerRead = 2048, mostWords = std::uint64_t{1} << 23;
+        std::uint64_t const words = width() * height(); // both at most 2^31
+        return words <= mostWords && height() + words / wordsPerRead <= 2 * points;
+    }
+
+    /// Whole records, which follow each other in the file, where they are not much more.
+    Window widened(Grid const& grid) const {
+        Window result = *this;
+        if (width() > static_cast<std::uint64_t>(grid.columns) / 2) {
+            result.column = 0;
+            result.lastColumn = grid.columns;
+        }
+        return result;
+    }
+    bool isWhole(Grid const& grid) const { return column == 0 && lastColumn == grid.columns; }
+};
+
+Window windowOf(Grid const& grid, std::span<DATUMPOINT const> points) {
+    Window window;
+    for (auto const& point : points)
+        if (auto const place = grid.locate(point))
+            window.add(*place);
+    return window;
+}
+
+/// Whether a file of so many words has every value that the points need.
+bool isThere(std::uint64_t words, Grid const& grid, Window const& window, std::span<DATUMPOINT const> points) {
+    if (grid.word(window.lastRow, window.lastColumn) < words)
+        return true;
+    return std::ranges::all_of(points, [&](DATUMPOINT const& point) {
+        auto const place = grid.locate(point);
+        return !place || grid.word(place->row + 1, place->column + 1) < words;
+    });
+}
+
+/// The values at a cell's corners: south-west, south-east, north-west, north-east.
+using Corners = std::array<float, 4>;
+
+/// Corners out of a window in memory. What the file does not have of the window, no point needs.
+class WindowReader {
+public:
+    WindowReader(PlainFile const& file, Grid const& grid, Window const& window)
+        : window_(window.widened(grid)), values_(window_.width() * window_.height()) {
+        std::uint64_t const end = file.size() / sizeof(float);
+        std::uint64_t const piece = window_.isWhole(grid) ? values_.size() : window_.width();
+        std::int64_t row = window_.row;
+        for (std::size_t at = 0; at < values_.size() && good_; at += piece, ++row) {
+            std::uint64_t const first = grid.word(row, window_.column);
+            std::uint64_t const length = std::min(piece, end - std::min(first, end));
+            good_ = file.read(first * sizeof(float), values_.data() + at, length * sizeof(float));
+        }
+    }
+
+    bool good() const { return good_; }
+
+    Corners operator()(Place const& place) const {
+        auto const row = static_cast<std::size_t>(place.row - window_.row);
+        auto const column = static_cast<std::size_t>(place.column - window_.column);
+        float const* const south = values_.data() + row * window_.width() + column;
+        float const* const north = south + window_.width();
+        return {south[0], south[1], north[0], north[1]};
+    }
+
+private:
+    Window window_;
+    std::vector<float> values_; // at most 64 MiB
+    bool good_ = true;
+};
+
+/// Corners out of the file, for few points far apart.
+class FileReader {
+public:
+    FileReader(PlainFile const& file, Grid const& grid, Window const&) : file_(file), grid_(grid) {}
+
+    bool good() const { return good_; }
+
+    Corners operator()(Place const& place) {
+        Corners corners{};
+        good_ = good_ && readPair(place.row, place.column, corners.data()) &&
+                readPair(place.row + 1, place.column, corners.data() + 2);
+        return corners;
+    }
+
+private:
+    bool readPair(std::int64_t row, std::int64_t column, float* pair) const {
+        return file_.read(grid_.word(row, column) * sizeof(float), pair, 2 * sizeof(float));
+    }
+
+    PlainFile const& file_;
+    Grid const& grid_;
+    bool good_ = true;
+};
+
+double interpolate(Corners const& corners, Place const& place) {
+    double const fx = place.fx, fy = place.fy;
+    return (1 - fx) * (1 - fy) * corners[0] + fx * (1 - fy) * corners[1] + (1 - fx) * fy * corners[2] +
+           fx * fy * corners[3];
+}
+
+/// The pair of files of one grid, open.
+struct Pair {
+    PlainFile las, los;
+
+    explicit Pair(std::string const& path) : las(path + ".LAS"), los(path + ".LOS") {}
+    bool isOpen() const { return las.isOpen() && los.isOpen(); }
+    std::uint64_t words() const { return std::min(las.size(), los.size()) / sizeof(float); }
+};
+
+template <class Reader>
+bool shift(Pair const& pair, Grid const& grid, Window const& window, std::span<DATUMPOINT> points) {
+    Reader las(pair.las, grid, window), los(pair.los, grid, window);
+    for (auto& point : points) {
+        auto const place = grid.locate(point);
+        if (!place)
+            continue;
+        Corners const x = las(*place), y = los(*place);
+        if (!las.good() || !los.good())
+            return inconsistent();
+        point.x += interpolate(x, *place) / 3600;
+        point.y += interpolate(y, *place) / 3600;
+    }
+    return true;
+}
+
+bool convert(char const* gridName, std::span<DATUMPOINT> points) {
+    Pair const pair(executableDirectory() + '/' + gridName);
+    if (!pair.isOpen())
+        return inconsistent();
+    auto const grid = readHeader(pair.las);
+    if (!grid)
+        return inconsistent();
+    Window const window = windowOf(*grid, points);
+    if (window.points == 0)
+        return true;
+    if (!isThere(pair.words(), *grid, window, points))
+        return inconsistent();
+    return window.isWorthReading() ? shift<WindowReader>(pair, *grid, window, points)
+                                   : shift<FileReader>(pair, *grid, window, points);
+}
+
+} // namespace
+
+bool convertNadcon(char const* gridName, DATUMPOINT* points, std::size_t count) {
+    try {
+        return convert(gridName, {points, count});
+    } catch (std::exception const&) { // no memory
+        return inconsistent();
+    }
 }
 
 } // namespace ZrProj

@@ -1,4 +1,4 @@
-// NADCON: the shift of points by a pair of grid files.
+// NADCON: datum shifts by interpolation in a pair of grid files beside the host's executable.
 #pragma once
 
 #include <zrproj/datum.h>
@@ -7,8 +7,10 @@
 
 namespace ZrProj {
 
-/// Shifts the points that lie inside the grid, in place; marked points (DBL_MAX) and points outside stay as they are.
-/// The grid is looked for beside the running program. False, after an assertion, when it cannot be read.
+/// Shifts points from the grid's datum to WGS 84, in place; points outside the grid, and marked ones, stay as they are.
+/// gridName: of the files GRIDNAME.LAS and GRIDNAME.LOS in the directory of the running executable.
+/// False, after a reported assertion, when the files cannot be opened, their header cannot be read or is absurd, or a
+/// value that a point needs is not there; no point is shifted then, unless reading itself fails half-way.
 bool convertNadcon(char const* gridName, DATUMPOINT* points, std::size_t count);
 
 } // namespace ZrProj

@@ -2,6 +2,8 @@
 #pragma once
 
 #include <array>
+#include <cstddef>
+#include <cstdint>
 #include <string>
 #include <string_view>
 
@@ -18,6 +20,30 @@ FileName logFileName() noexcept;
 
 /// The directory of the running program, without a closing separator; empty where it cannot be told.
 std::string executableDirectory();
+
+/// A plain file, open for reading at any place until this goes. Links are followed; pipes, devices and directories are
+/// not opened, and nothing waits.
+class PlainFile {
+public:
+    explicit PlainFile(std::string const& name) noexcept;
+    ~PlainFile();
+    PlainFile(PlainFile const&) = delete;
+    PlainFile& operator=(PlainFile const&) = delete;
+
+    bool isOpen() const noexcept { return open_; }
+    /// Not open because there is nothing of that name.
+    bool isMissing() const noexcept { return missing_; }
+    /// In bytes, when it was opened.
+    std::uint64_t size() const noexcept { return size_; }
+    /// False when the file does not give all of the bytes.
+    bool read(std::uint64_t offset, void* buffer, std::size_t length) const noexcept;
+
+private:
+    std::intptr_t handle_ = -1;
+    std::uint64_t size_ = 0;
+    bool open_ = false;
+    bool missing_ = false;
+};
 
 /// Appends to a plain file, which is made (for its owner alone) where it does not exist. Links are not followed. What
 /// cannot be written is lost.

@@ -3,6 +3,7 @@
 
 #include "platform.h"
 
+#include <cerrno>
 #include <cstdio>
 #include <cstdlib>
 #include <ctime>
@@ -53,6 +54,35 @@ FileName logFileName() noexcept {
 std::string executableDirectory() {
     std::error_code error;
     return std::filesystem::read_symlink("/proc/self/exe", error).parent_path().string();
+}
+
+PlainFile::PlainFile(std::string const& name) noexcept
+    : handle_(open(name.c_str(), O_RDONLY | O_NONBLOCK | O_NOCTTY | O_CLOEXEC)) {
+    missing_ = handle_ < 0 && errno == ENOENT;
+    struct stat info = {};
+    open_ = handle_ >= 0 && fstat(static_cast<int>(handle_), &info) == 0 && S_ISREG(info.st_mode);
+    if (open_)
+        size_ = static_cast<std::uint64_t>(info.st_size);
+}
+
+PlainFile::~PlainFile() {
+    if (handle_ >= 0)
+        close(static_cast<int>(handle_));
+}
+
+bool PlainFile::read(std::uint64_t offset, void* buffer, std::size_t length) const noexcept {
+    auto* out = static_cast<char*>(buffer);
+    while (length > 0) {
+        ssize_t const count = pread(static_cast<int>(handle_), out, length, static_cast<off_t>(offset));
+        if (count < 0 && errno == EINTR)
+            continue;
+        if (count <= 0)
+            return false;
+        out += count;
+        offset += static_cast<std::uint64_t>(count);
+        length -= static_cast<std::size_t>(count);
+    }
+    return true;
 }
 
 void appendToFile(char const* fileName, std::string_view text) noexcept {

@@ -3,6 +3,7 @@
 
 #include "platform.h"
 
+#include <algorithm>
 #include <cstdlib>
 #include <ctime>
 #include <windows.h>
@@ -10,6 +11,10 @@
 namespace ZrProj {
 
 namespace {
+
+HANDLE handleOf(std::intptr_t value) {
+    return reinterpret_cast<HANDLE>(value);
+}
 
 /// A link opened as itself shows up as a reparse point.
 bool isPlainFile(HANDLE file) {
@@ -39,6 +44,40 @@ std::string executableDirectory() {
     name.resize(length);
     std::size_t const separator = name.find_last_of("\\/");
     return separator == std::string::npos ? std::string() : name.substr(0, separator);
+}
+
+PlainFile::PlainFile(std::string const& name) noexcept
+    : handle_(reinterpret_cast<std::intptr_t>(CreateFileA(name.c_str(), GENERIC_READ,
+                                                          FILE_SHARE_READ | FILE_SHARE_WRITE | FILE_SHARE_DELETE,
+                                                          nullptr, OPEN_EXISTING, FILE_ATTRIBUTE_NORMAL, nullptr))) {
+    bool const opened = handleOf(handle_) != INVALID_HANDLE_VALUE;
+    missing_ = !opened && (GetLastError() == ERROR_FILE_NOT_FOUND || GetLastError() == ERROR_PATH_NOT_FOUND);
+    LARGE_INTEGER size = {};
+    open_ = opened && GetFileType(handleOf(handle_)) == FILE_TYPE_DISK && GetFileSizeEx(handleOf(handle_), &size);
+    if (open_)
+        size_ = static_cast<std::uint64_t>(size.QuadPart);
+}
+
+PlainFile::~PlainFile() {
+    if (handleOf(handle_) != INVALID_HANDLE_VALUE)
+        CloseHandle(handleOf(handle_));
+}
+
+bool PlainFile::read(std::uint64_t offset, void* buffer, std::size_t length) const noexcept {
+    auto* out = static_cast<char*>(buffer);
+    while (length > 0) {
+        OVERLAPPED place = {};
+        place.Offset = static_cast<DWORD>(offset);
+        place.OffsetHigh = static_cast<DWORD>(offset >> 32);
+        auto const wanted = static_cast<DWORD>(std::min<std::size_t>(length, 1U << 30));
+        DWORD count = 0;
+        if (!ReadFile(handleOf(handle_), out, wanted, &count, &place) || count == 0)
+            return false;
+        out += count;
+        offset += count;
+        length -= count;
+    }
+    return true;
 }
 
 void appendToFile(char const* fileName, std::string_view text) noexcept {

@@ -1,4 +1,5 @@
 // The methods over arrays: against a high-precision evaluation, at every place of an array, at every level.
+#include "datum/conversion.h"
 #include "support/datum.h"
 #include "support/levels.h"
 
@@ -117,6 +118,39 @@ TEST(DatumMethods, AgreeBetweenLevels) {
             }
         });
     }
+}
+
+// What a grid is given, and what becomes of it: a grid of a quarter of a degree everywhere.
+TEST(DatumMethods, ConvertByAGridOnTheCallersSide) {
+    static constexpr auto shift = [](DATUMPOINT* points, std::size_t count) {
+        for (std::size_t i = 0; i < count; ++i)
+            if (points[i].x != DBL_MAX) {
+                EXPECT_TRUE(std::abs(points[i].x) <= 180 && std::abs(points[i].y) <= 90);
+                points[i].x += 0.25;
+            }
+        return true;
+    };
+    test::forEachLevel([](formulas::Level) {
+        auto conversion = datum::prepareConversion(datumRequest(232, 5));
+        ASSERT_TRUE(conversion.isDefined && conversion.grid);
+        conversion.grid = shift;
+        auto const source = pointsEverywhere(40000); // more than a grid is given at once
+        auto points = source, expected = source;
+        for (auto& point : expected) // within a turn, so that the quarter stays on the same side
+            point = {std::fmod(point.x, 360) + 0.25, point.y};
+        bool marked = false;
+        ASSERT_TRUE(datum::convert(conversion, points, marked));
+        EXPECT_TRUE(marked);
+        ASSERT_TRUE(DatConvertDatum(DatumHandle(datumRequest(0, 5)).handle, expected.data(), 40000));
+        for (std::size_t i = 0; i < points.size(); ++i) {
+            if (std::abs(expected[i].y) > 89 && !test::isMarked(expected[i]))
+                continue; // no digits are left of longitudes at a pole
+            ASSERT_NEAR(points[i].x, expected[i].x, tolerance) << source[i].x;
+            ASSERT_NEAR(points[i].y, expected[i].y, tolerance) << source[i].x;
+        }
+        conversion.grid = [](DATUMPOINT*, std::size_t) { return false; };
+        EXPECT_FALSE(datum::convert(conversion, points, marked));
+    });
 }
 
 TEST(DatumMethods, RunOnSeveralThreadsAtOnce) {

@@ -1,0 +1,96 @@
+// zrproj grid: the grids that NADCON datums need.
+#include "cli/commands.h"
+#include "cli/grid_check.h"
+#include "cli/grid_import.h"
+#include "cli/text.h"
+#include "cli/usage_error.h"
+
+#include <CLI/CLI.hpp>
+
+#include <filesystem>
+
+namespace ZrProj::Command {
+namespace {
+
+class GridCommand : public Subcommand {
+public:
+    explicit GridCommand(CLI::App& app);
+    int run(Output& output) override;
+
+private:
+    void addCheck();
+    void addImport();
+    int import(Output& output) const;
+
+    CLI::App& m_app;
+    std::string m_checked, m_imported, m_name, m_directory;
+    bool m_replace = false;
+};
+
+GridCommand::GridCommand(CLI::App& app) : m_app(app) {
+    app.require_subcommand(1);
+    addCheck();
+    addImport();
+}
+
+void GridCommand::addCheck() {
+    CLI::App& check = *m_app.add_subcommand("check", "Show header, extent and value ranges of a pair");
+    check.add_option("NAME", m_checked, "A grid beside this program, as \"conus\", or a path, as \"grids/conus\"")
+        ->required()
+        ->option_text(" ");
+}
+
+void GridCommand::addImport() {
+    CLI::App& import = *m_app.add_subcommand("import", "Make a pair of the usual convention into one for this library");
+    import.add_option("SOURCE", m_imported, "Path of the pair, as \"download/conus\" for conus.las and conus.los")
+        ->required()
+        ->option_text(" ");
+    import.add_option("--name", m_name, "Name of the new pair; that of the source where not given")->type_name("NAME");
+    import.add_option("--to", m_directory, "Directory of the new pair; this program's where not given")
+        ->type_name("DIRECTORY");
+    import.add_flag("--replace", m_replace, "Replace files that are there")->disable_flag_override();
+}
+
+/// A path without its ending, where that is one of a grid's.
+std::filesystem::path withoutEnding(std::filesystem::path path) {
+    std::string const ending = squeezed(path.extension().string());
+    return ending == "las" || ending == "los" ? path.replace_extension() : path;
+}
+
+int GridCommand::import(Output& output) const {
+    std::filesystem::path const source = withoutEnding(m_imported);
+    std::string const name = m_name.empty() ? source.filename().string() : m_name;
+    std::filesystem::path const directory = m_directory.empty() ? gridDirectory() : m_directory;
+    std::string const destination = (directory / name).string();
+    importGrids({source.string(), destination, m_replace});
+    checkGrids(destination, output);
+    return 0;
+}
+
+int GridCommand::run(Output& output) {
+    if (m_app.got_subcommand("import"))
+        return import(output);
+    bool const isPath = m_checked.find('/') != std::string::npos;
+    checkGrids((isPath ? "" : gridDirectory()) + withoutEnding(m_checked).string(), output);
+    return 0;
+}
+
+} // namespace
+
+std::unique_ptr<Subcommand> makeGrid(CLI::App& app) {
+    app.footer(
+        R"(The datums of the method NADCON shift points by a pair of files, conus.LAS and conus.LOS or prvi.LAS and prvi.LOS,
+which must stand in the directory of the running program: for this command beside zrproj itself, for a program that
+links the library beside that one. No other place is looked at.
+
+CAUTION: grids as they are published keep LATITUDE shifts in .las and LONGITUDE shifts in .los, WEST positive. This
+library adds the values of .LAS to LONGITUDES, EAST positive, and those of .LOS to latitudes. Published grids must be
+imported first.
+
+Example: published grids in the directory download
+  zrproj grid import download/conus
+  zrproj grid check conus)");
+    return std::make_unique<GridCommand>(app);
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,67 @@
+#!/bin/bash
+# datums.sh COMMAND CITIES: datums by name, code, definition and profile, alone and beside a projection.
+source "$(dirname "${BASH_SOURCE[0]}")/check.bash"
+export XDG_CONFIG_HOME=$work/settings
+refused() { check "$1" 2 '' "zrproj: $2" "${@:3}" </dev/null; }
+shifts() { check "$1" 0 "$2" '' datum "${@:3}" <<<'-100 40'; }
+
+# From PROJ 9: cct +proj=molodensky +a=6378206.4 +rf=294.978698213898 +da=-69.4 +df=-3.726463909e-05 +dx=-8 +dy=160 +dz=176
+expected='-100.000417609 40.000009468'
+for name in nad27 NAD27 6267 2 'north american datum 1927'; do
+    shifts "by $name" "$expected" --from "$name" --to 'WGS 84'
+done
+refused 'ambiguous' '"1927 - CONUS" fits more than one datum: "NAD 1927 - CONUS", *' datum --from '1927 - CONUS' --to wgs84
+shifts 'one-off' "$expected" --from site --to 3 \
+    --define 'Site: Method = molod, radius = 6378206.4, flattening=1/294.978698213898, dx=-8, dy=160, dz=176'
+shifts 'same' '-100.000000000 40.000000000' --from tokyo --to tokyo
+check 'header, angles and lines' 1 $'id,lon,lat,longitude,latitude\n1,100W,40N,-100.000417609,40.000009468\n2,x,40,*,*' \
+    '<stdin>:3: longitude "x" is not a number*1 line could not be read' \
+    datum --from nad27 --to wgs84 <<<$'id,lon,lat\n1,100W,40N\n2,x,40'
+
+refused 'no datums' 'the datums are missing; give --from and --to' datum --from nad27
+refused 'unknown' 'unknown datum "tokio"; the nearest: *"Tokyo"*' datum --from tokio --to wgs84
+refused 'no code' 'no datum has the number or POSC code 9999;*' datum --from 9999 --to wgs84
+refused 'one way' 'points can be converted from "NAD 1927 - CONUS (NADCON)", not to it: NADCON *' datum --from nad27 --to 232
+refused 'one way' 'points can be converted from "*\(MRE\)", not to it: regression *' datum --from nad27 --to 229
+refused 'no name' '"method=none" is no datum;*' datum --define method=none --from x --to wgs84
+refused 'no method' 'the datum "x" has no method;*' datum --define 'x: dx=1' --from x --to wgs84
+refused 'wrong method' 'method: "nadcon" is none of *' datum --define 'x: method=nadcon' --from x --to wgs84
+refused 'wrong key' 'a datum has no field "dq"; there are *' datum --define 'x: method=none, dq=1' --from x --to wgs84
+refused 'wrong number' 'dx: "1m" is not a number' datum --define 'x: method=none, dx=1m' --from x --to wgs84
+refused 'twice' 'the datum "x" has "DX" twice' datum --define 'x: method=none, dx=1, DX=1' --from x --to wgs84
+refused 'the library refuses' 'the datum "x" cannot be used: Ellipsoid radius *' \
+    datum --define 'x: method=molodensky, dx=1' --from x --to wgs84
+
+# The datum gives the projection its ellipsoid; there and back is where it was.
+utm=$("$zrproj" forward --from-datum wgs84 --datum nad27 --utm 14N <<<'-100 40')
+moved=$("$zrproj" datum --from wgs84 --to nad27 --precision 12 <<<'-100 40')
+check 'datum before projection' 0 "$utm" '' forward --utm 14N --ellipsoid 'clarke 1866' <<<"$moved"
+check 'projection before datum' 0 '-100.000000 40.000000' '' inverse --datum nad27 --to-datum wgs84 --utm 14N \
+    --precision 6 <<<"$("$zrproj" forward --from-datum wgs84 --datum nad27 --utm 14N --precision 6 <<<'-100 40')"
+check 'ellipsoid of a one-off' 0 "$("$zrproj" forward --utm 14N --ellipsoid 5 <<<'-100 40')" '' \
+    forward --datum d --define 'd: method=none, ellipsoid=airy 1830' --utm 14N <<<'-100 40'
+check 'units and zones' 0 "$("$zrproj" forward --state-plane 407 --year 1927 --units us-ft <<<"$moved")" '' \
+    forward --from-datum wgs84 --datum nad27 --state-plane 407 --year 1927 --units us-ft <<<'-100 40'
+refused 'map without a datum' '--from-datum goes with --datum*' forward --from-datum wgs84 --utm 14N
+refused 'map without a datum' '--to-datum goes with --datum*' inverse --to-datum wgs84 --utm 14N
+
+definition='Mine: method=molodensky, ellipsoid=clarke 1866, dx=-8, dy=160, dz=176'
+check 'added' 0 '' '' datum add "$definition" </dev/null
+shifts 'of the profile' "$expected" --from mine --to wgs84
+refused 'there already' 'there is a datum "Mine" already;*' datum add "$definition"
+check 'replaced' 0 '' '' datum add --replace 'MINE: method=none, ellipsoid=15' </dev/null
+shifts 'replaced' '-100.000000000 40.000000000' --from mine --to wgs84
+listed=$("$zrproj" list datums own)
+[[ $listed == *'own '*'Mine '*'none '*'Clarke 1866' ]] || fail 'listed' "$listed"
+refused 'a name of the catalogue' 'the name "WGS-84" is one of the catalogue*' datum add 'WGS-84: method=none'
+check 'a name of signs' 0 '' '' datum add '= ]: method=none, ellipsoid=15' </dev/null
+shifts 'a name of signs' '-100.000000000 40.000000000' --from '= ]' --to wgs84
+check 'removed' 0 '' '' datum remove mine </dev/null
+refused 'gone' 'there is no datum "mine" of your own;*' datum remove mine
+shown=$("$zrproj" datum show 147)
+[[ $shown == *'NTF France - Paris Meridian'*6275*Molodensky*-83\ metres*2.337229167\ degrees* ]] || fail 'shown' "$shown"
+echo 'TOKYO=method=None' >>"$work/settings/zrproj/zrproj.ini"
+refused 'one name of two' 'the name "tokyo" is the catalogue*' datum --from tokyo --to wgs84
+XDG_CONFIG_HOME=/proc check 'a profile that cannot be written' 1 '' \
+    'zrproj: the datum cannot be stored in the file zrproj/zrproj.ini*' datum add "$definition" </dev/null
+exit $failed

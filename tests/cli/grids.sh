@@ -1,0 +1,66 @@
+#!/bin/bash
+# grids.sh COMMAND CITIES: grids of the usual convention, imported, checked and used, beside a copy of the command.
+source "$(dirname "${BASH_SOURCE[0]}")/check.bash"
+mkdir "$work/bin" "$work/download"
+cp "$zrproj" "$work/bin/"
+zrproj=$work/bin/zrproj
+refused() { check "$1" 2 '' "zrproj: $2" "${@:3}" </dev/null; }
+
+# grid VALUE [XMIN]: 30 columns and 12 rows with one value, every half degree from 80 west, 38 north.
+grid() {
+    perl -e 'my ($value, $xmin) = @ARGV; my $record = pack("a56 a8 l< l< l< f< f< f< f<", "Test", "zrproj", 30, 12, 1, $xmin,
+             0.5, 38, 0.5); print $record, "\0" x (31 * 4 - length $record), pack("f<*", (0, ($value) x 30) x 12)' \
+        -- "$1" "${2:--80}"
+}
+# What three shifts say near the middle, in arcseconds: a pair of the usual convention has the longitude's west positive.
+grid 0.125 >"$work/download/conus.las"
+grid -1.75 >"$work/download/conus.los"
+
+missing="\"NAD 1927 - CONUS (NADCON)\" needs a grid that is not there: $work/bin/conus.LAS"
+refused 'no grid' "$missing" datum --from 232 --to wgs84
+refused 'no grid beside a projection' "$missing" inverse --datum 232 --to-datum wgs84 --utm 17N
+refused 'no source' "cannot open $work/nothing.LAS: No such file or directory" grid import "$work/nothing.las"
+
+for ending in las los; do cp "$work/download/conus.$ending" "$work/download/usual.${ending^^}"; done
+"$zrproj" grid check "$work/download/usual" >/dev/null 2>"$work/err"
+[[ $? == 1 && $(<"$work/err") == *'looks like one of the usual convention'* ]] || fail 'usual pair' "$(<"$work/err")"
+
+report="Files                       $work/bin/conus.LAS
+                            $work/bin/conus.LOS
+Identification              Test                                                    zrproj
+Grid                        30 columns, 12 rows
+Longitudes                  -80 to -65.5 degrees, every 0.5
+Latitudes                   38 to 43.5 degrees, every 0.5
+Added to longitudes (.LAS)  1.75 to 1.75 arcseconds, east positive
+Added to latitudes (.LOS)   0.125 to 0.125 arcseconds, north positive"
+check 'imported' 0 "$report" '' grid import "$work/download/conus" </dev/null
+[[ $(ls "$work/bin" | wc -l) == 3 ]] || fail 'nothing else is left' "$(ls "$work/bin")"
+refused 'there already' "$work/bin/conus.LAS is there already; --replace replaces it" grid import "$work/download/conus"
+check 'replaced' 0 "$report" '' grid import --replace "$work/download/conus.los" </dev/null
+
+# The last point is west of the grid, in the column of the leading word.
+check 'shifted' 0 $'-74.999513889 40.000034722\n285.000486111 40.000034722\n-80.249513889 40.000034722' '' \
+    datum --from 232 --to wgs84 <<<$'-75 40\n285 40\n-80.25 40'
+check 'outside' 1 $'-120.000000000 40.000000000\n* *' \
+    '*1 point not converted: already marked*1 point not shifted to another datum: outside its grid (<stdin>:1)' \
+    datum --strict --from 232 --to wgs84 <<<$'-120 40\n* *'
+map=$("$zrproj" forward --utm 18N --ellipsoid 'clarke 1866' --precision 6 <<<'-75 40')
+check 'from a map' 0 '-74.99951389 40.00003472' '' inverse --precision 8 --utm 18N --datum 232 --to-datum wgs84 <<<"$map"
+check 'outside, onto a map' 0 "$("$zrproj" forward --utm 11N <<<'-118 40')" '*1 point not shifted*' \
+    forward --utm 11N --from-datum 232 --datum wgs84 <<<'-118 40'
+
+cp "$work/bin/conus.LAS" "$work/whole"
+head -c 1000 "$work/whole" >"$work/bin/conus.LAS"
+check 'cut short' 1 '' "zrproj: $work/bin/conus.LAS ends before its row 8 of 12" grid check conus </dev/null
+check 'cut short' 1 '' 'zrproj: the datum conversion fails: a file of its grid ends too early' \
+    datum --from 232 --to wgs84 <<<'-75 43'
+head -c 90 "$work/whole" >"$work/bin/conus.LAS"
+refused 'no header' "$work/bin/conus.LAS is too short for a grid's header" datum --from 232 --to wgs84
+head -c 4000 /dev/zero >"$work/bin/conus.LAS"
+refused 'zeros' "$work/bin/conus.LAS has no grid's header: 0 columns *" grid check conus
+cp "$work/whole" "$work/bin/conus.LAS"
+grid 0.25 -81 >"$work/bin/conus.LOS"
+"$zrproj" grid check conus >/dev/null 2>"$work/err"
+[[ $? == 1 && $(<"$work/err") == *'different headers'* ]] || fail 'two grids' "$(<"$work/err")"
+check 'not written' 1 '' 'zrproj: cannot write /proc/conus.LAS: *' grid import "$work/download/conus" --to /proc </dev/null
+exit $failed
