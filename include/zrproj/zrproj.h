@@ -12,8 +12,10 @@
 
 #include "angle.h"
 #include "ellipsoid.h"
+#include "georef.h"
 #include "preclip.h"
 #include "projection.h"
+#include "registration.h"
 #include "zones.h"
 #include "zrlibw.h"
 
