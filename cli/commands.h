@@ -19,6 +19,7 @@ public:
 };
 
 std::unique_ptr<Subcommand> makeForward(CLI::App& app);
+std::unique_ptr<Subcommand> makeGeoref(CLI::App& app);
 std::unique_ptr<Subcommand> makeInverse(CLI::App& app);
 std::unique_ptr<Subcommand> makeList(CLI::App& app);
 std::unique_ptr<Subcommand> makeShow(CLI::App& app);

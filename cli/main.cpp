@@ -27,6 +27,7 @@ constexpr char const* overview = R"(Examples:
   zrproj inverse --utm auto utm.csv
   zrproj list projections
   zrproj show --utm 17N
+  zrproj georef fit controls.csv --method affine
 
 Lines are fields between commas, tabs, semicolons or blanks. With a header, the columns are found by their names (lon,
 longitude, x, easting; lat, latitude, y, northing), and results go into new columns; without one, results replace the
@@ -49,6 +50,7 @@ struct CommandRow {
 constexpr std::array commandRows{
     CommandRow{"forward", "Convert longitudes and latitudes to projected coordinates", makeForward},
     CommandRow{"inverse", "Convert projected coordinates to longitudes and latitudes", makeInverse},
+    CommandRow{"georef", "Fit a map to control points, and convert points by it", makeGeoref},
     CommandRow{"list", "List projections, parameters, ellipsoids or State Plane zones", makeList},
     CommandRow{"show", "Show the completed parameters of a projection", makeShow},
 };
