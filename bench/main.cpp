@@ -1,6 +1,6 @@
 // Every projection, both ways, for single points, short arrays and long ones, at each processor level and beside other
-// libraries. A closing table sets zrproj beside each of the others.
-#include "table.h"
+// libraries; and georeferencing. Closing tables set zrproj beside each of the others.
+#include "georef.h"
 
 #include <algorithm>
 #include <cmath>
@@ -126,7 +126,9 @@ int main(int argc, char** argv) {
         compareResults(group);
         registerRows(group);
     }
+    registerGeorefRows();
     Collector collector(Collector::OO_Tabular);
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(groups, collector, longest);
+    printGeorefTable(collector);
 }

@@ -93,6 +93,7 @@ private:
     Box m_source, m_target;
     double m_unit = 1;                        // a target unit on paper
     double m_arrowTimes = 1, m_bendTimes = 1; // larger than it is
+    bool m_bent = false;
     std::string m_svg;
 };
 
@@ -151,7 +152,8 @@ void Plot::chooseScales() {
         }
     double const rounding = 1e-9 * m_target.longest();
     m_arrowTimes = arrow > rounding ? roundDown(farthest / (arrow * m_unit)) : 1;
-    m_bendTimes = bend > rounding ? std::max(roundDown(farthest / (bend * m_unit)), 1.0) : 1;
+    m_bent = bend > rounding;
+    m_bendTimes = m_bent ? std::max(roundDown(farthest / (bend * m_unit)), 1.0) : 1;
 }
 
 void Plot::line(bool across, int at) {
@@ -208,9 +210,10 @@ void Plot::captions() {
     text(margin, below,
          std::string(RefMethodName(m_method.method)) + ": arrows " + timesText(m_arrowTimes) + " times as long as " +
              (isExact(m_method) ? "the point is off when it is left out" : "the residuals"));
-    text(margin, below + 18,
-         "grid: its bends against the affine map drawn " + timesText(m_bendTimes) + " times as large" +
-             (m_analysis.outliers.empty() ? "" : "; red: stands out"));
+    std::string const grid =
+        m_bent ? "grid: its bends against the affine map drawn " + timesText(m_bendTimes) + " times as large"
+               : "grid: straight, as the map leaves it";
+    text(margin, below + 18, grid + (m_analysis.outliers.empty() ? "" : "; red: stands out"));
 }
 
 std::string Plot::draw() {

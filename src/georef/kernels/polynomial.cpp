@@ -1,6 +1,6 @@
 #include "georef/kernels/polynomial.h"
 
-#include "georef/kernels/point_blocks.h"
+#include "georef/kernels/point_registers.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

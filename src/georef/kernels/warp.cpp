@@ -1,7 +1,7 @@
 #include "georef/kernels/warp.h"
 
 #include "formulas/elementary.h"
-#include "georef/kernels/point_blocks.h"
+#include "georef/kernels/point_registers.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
