@@ -9,9 +9,10 @@
 namespace ZrProj::Command {
 namespace {
 
-constexpr double chance = 0.01;   // of calling good controls bad
-constexpr double timesMedian = 8; // for methods that meet every control
+constexpr double chance = 0.01;    // of calling good controls bad
+constexpr double timesMedian = 12; // for methods that meet every control
 constexpr std::size_t candidates = 3;
+constexpr std::size_t mostExact = 10000; // controls: 800 MB of equations
 
 /// Controls as the library takes them.
 class Pairs {
@@ -231,7 +232,7 @@ std::size_t farthest(Analysis const& analysis) {
 } // namespace
 
 bool canLeaveOneOut(GeorefMethod const& method, std::size_t controls) {
-    return controls <= (isExact(method) ? 200U : 2000U);
+    return controls <= (isExact(method) ? 150U : 2000U);
 }
 
 std::size_t fewestToTell(GeorefMethod const& method) {
@@ -239,6 +240,9 @@ std::size_t fewestToTell(GeorefMethod const& method) {
 }
 
 std::unique_ptr<CGeorefTransform> fitGeoref(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
+    if (isExact(method) && controls.size() > mostExact)
+        throw ControlsError(std::string(method.key) + " takes at most " + std::to_string(mostExact) +
+                            " control points");
     auto map = Pairs(controls).fit(method);
     if (!map)
         throw ControlsError(whyNoFit(method, controls));

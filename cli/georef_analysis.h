@@ -41,7 +41,7 @@ std::size_t fewestToTell(GeorefMethod const& method);
 /// any of n points to be so far off is below 1 percent. (Baarda 1968, A testing procedure for use in geodetic networks;
 /// the spread is that without the point, as in Cook & Weisberg 1982, p. 20.)
 ///
-/// A method that meets every point: a point is out when its leave-one-out residual is more than 8 times the median of
+/// A method that meets every point: a point is out when its leave-one-out residual is more than 12 times the median of
 /// the others', all taken without it; of the three points with the greatest residuals, the one whose absence makes the
 /// others agree best is looked at.
 ///
