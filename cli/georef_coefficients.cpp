@@ -7,7 +7,6 @@
 
 #include <algorithm>
 #include <array>
-#include <functional>
 
 namespace ZrProj::Command {
 namespace {
@@ -19,7 +18,7 @@ constexpr Powers places{-1, -0.5, 0.5, 1}; // where the knots are
 
 /// Along one of its sides, the middle of what controls cover, and the half of it.
 struct Side {
-    double middle = 0, half = 1;
+    double middle, half;
 };
 
 template <class Coordinate> Side sideOf(std::vector<ControlPoint> const& controls, Coordinate const& coordinate) {
@@ -53,7 +52,7 @@ Powers unscaled(Powers c, Side const& side) {
     return c;
 }
 
-template <class Work> void alongBoth(Grid& grid, Work const& workU, Work const& workV) {
+template <class WorkU, class WorkV> void alongBoth(Grid& grid, WorkU const& workU, WorkV const& workV) {
     for (Powers& row : grid)
         row = workV(row);
     for (std::size_t j = 0; j < knots; ++j) {
@@ -88,23 +87,47 @@ bool hasTerm(TransformMethod method, Term const& term) {
     }
 }
 
+/// The controls' boxes, by their sides.
+struct Frame {
+    Side u, v, x, y;
+
+    explicit Frame(std::vector<ControlPoint> const& controls)
+        : u(sideOf(controls, [](auto& c) { return c.source.x; })),
+          v(sideOf(controls, [](auto& c) { return c.source.y; })),
+          x(sideOf(controls, [](auto& c) { return c.target.x; })),
+          y(sideOf(controls, [](auto& c) { return c.target.y; })) {
+        u.half = v.half = std::max(u.half, v.half); // a similarity must stay one
+    }
+
+    std::vector<ControlPoint> moved(std::vector<ControlPoint> controls) const {
+        for (auto& c : controls) {
+            c.source = {(c.source.x - u.middle) / u.half, (c.source.y - v.middle) / v.half};
+            c.target = {c.target.x - x.middle, c.target.y - y.middle};
+        }
+        return controls;
+    }
+};
+
+/// The values at the knots, as coefficients in source coordinates. Terms that the method has not are rounding.
+void writeOut(Grid& grid, TransformMethod method, Frame const& frame) {
+    alongBoth(grid, through, through);
+    for (std::size_t i = 0; i < knots; ++i)
+        for (std::size_t j = 0; j < knots; ++j)
+            if (i + j > order || !hasTerm(method, {"", i, j}))
+                grid[i][j] = 0;
+    alongBoth(
+        grid, [&](Powers const& c) { return unscaled(c, frame.u); },
+        [&](Powers const& c) { return unscaled(c, frame.v); });
+}
+
 } // namespace
 
 std::vector<GeorefCoefficient> georefCoefficients(GeorefMethod const& method,
                                                   std::vector<ControlPoint> const& controls) {
     if (isExact(method))
         return {};
-    Side u = sideOf(controls, [](auto&c) { return c.source.x; }),
-         v = sideOf(controls, [](auto&c) { return c.source.y; });
-    u.half = v.half = std::max(u.half, v.half); // a similarity must stay one
-    Side const x = sideOf(controls, [](auto& c) { return c.target.x; });
-    Side const y = sideOf(controls, [](auto& c) { return c.target.y; });
-    auto moved = controls;
-    for (auto& c : moved) {
-        c.source = {(c.source.x - u.middle) / u.half, (c.source.y - v.middle) / v.half};
-        c.target = {c.target.x - x.middle, c.target.y - y.middle};
-    }
-    auto const map = fitGeoref(method, moved);
+    Frame const frame(controls);
+    auto const map = fitGeoref(method, frame.moved(controls));
     Grid gridX{}, gridY{};
     for (std::size_t i = 0; i < knots; ++i)
         for (std::size_t j = 0; j < knots; ++j) {
@@ -113,22 +136,14 @@ std::vector<GeorefCoefficient> georefCoefficients(GeorefMethod const& method,
             gridX[i][j] = point.x;
             gridY[i][j] = point.y;
         }
-    for (Grid* grid : {&gridX, &gridY}) {
-        alongBoth(*grid, through, through);
-        for (std::size_t i = 0; i < knots; ++i) // what the method has not is rounding
-            for (std::size_t j = 0; j < knots; ++j)
-                if (!hasTerm(method.method, {"", i, j}) || i + j > order)
-                    (*grid)[i][j] = 0;
-        using Work = std::function<Powers(Powers const&)>;
-        alongBoth<Work>(
-            *grid, [&](Powers const& c) { return unscaled(c, u); }, [&](Powers const& c) { return unscaled(c, v); });
-    }
+    writeOut(gridX, method.method, frame);
+    writeOut(gridY, method.method, frame);
+    gridX[0][0] += frame.x.middle;
+    gridY[0][0] += frame.y.middle;
     std::vector<GeorefCoefficient> result;
     for (Term const& term : terms)
         if (hasTerm(method.method, term))
             result.push_back({term.name, gridX[term.i][term.j], gridY[term.i][term.j]});
-    result[0].x += x.middle;
-    result[0].y += y.middle;
     return result;
 }
 
