@@ -1,5 +1,6 @@
 // Every projection and the datum methods, both ways, for single points, short arrays and long ones, at each processor
-// level and beside other libraries. A closing table sets zrproj beside each of the others.
+// level and beside other libraries; and georeferencing. Closing tables set zrproj beside each of the others.
+#include "georef.h"
 #include "nadcon.h"
 #include "table.h"
 
@@ -140,8 +141,10 @@ int main(int argc, char** argv) {
         registerRows(group);
     }
     registerNadcon();
+    registerGeorefRows();
     Collector collector(Collector::OO_Tabular);
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(groups, collector, longest);
     printNadcon(collector);
+    printGeorefTable(collector);
 }

@@ -22,6 +22,7 @@ std::unique_ptr<Subcommand> makeDatum(CLI::App& app);
 std::unique_ptr<Subcommand> makeDatumConversion(CLI::App& app); // datum's own, without its subcommands
 std::unique_ptr<Subcommand> makeForward(CLI::App& app);
 std::unique_ptr<Subcommand> makeGrid(CLI::App& app);
+std::unique_ptr<Subcommand> makeGeoref(CLI::App& app);
 std::unique_ptr<Subcommand> makeInverse(CLI::App& app);
 std::unique_ptr<Subcommand> makeList(CLI::App& app);
 std::unique_ptr<Subcommand> makeShow(CLI::App& app);

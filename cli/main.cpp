@@ -28,6 +28,7 @@ constexpr char const* overview = R"(Examples:
   zrproj datum --from nad27 --to wgs84 survey.csv
   zrproj list projections
   zrproj show --utm 17N
+  zrproj georef fit controls.csv --method affine
 
 Lines are fields between commas, tabs, semicolons or blanks. With a header, the columns are found by their names (lon,
 longitude, x, easting; lat, latitude, y, northing), and results go into new columns; without one, results replace the
@@ -51,6 +52,7 @@ constexpr std::array commandRows{
     CommandRow{"forward", "Convert longitudes and latitudes to projected coordinates", makeForward},
     CommandRow{"inverse", "Convert projected coordinates to longitudes and latitudes", makeInverse},
     CommandRow{"datum", "Convert longitudes and latitudes to another datum, and keep datums of your own", makeDatum},
+    CommandRow{"georef", "Fit a map to control points, and convert points by it", makeGeoref},
     CommandRow{"list", "List projections, parameters, ellipsoids, State Plane zones or datums", makeList},
     CommandRow{"show", "Show the completed parameters of a projection", makeShow},
     CommandRow{"grid", "Look at the grids of NADCON datums, and prepare them", makeGrid},

@@ -102,17 +102,21 @@ RowPoint RowReader::read(Row& row) {
     return result;
 }
 
-std::string RowWriter::header(std::string_view line, Layout const& layout, LengthUnit const& unit) const {
+std::string headerWith(std::string_view line, Layout const& layout, std::vector<std::string> const& added) {
     std::vector<std::string> const names = fieldTexts(line, layout.delimiter);
+    std::string result(layout.delimiter == ' ' ? blanksTrimmed(line) : line);
+    for (std::string const& name : added)
+        result += layout.delimiter + freeName(name, names);
+    return result;
+}
+
+std::string RowWriter::header(std::string_view line, Layout const& layout, LengthUnit const& unit) const {
     std::vector<std::string> added{"longitude", "latitude"};
     if (m_direction == Direction::Forward)
         added = {"easting_" + std::string(unit.suffix), "northing_" + std::string(unit.suffix)};
     if (m_zones)
         added.emplace_back("zone");
-    std::string result(layout.delimiter == ' ' ? blanksTrimmed(line) : line);
-    for (std::string const& name : added)
-        result += layout.delimiter + freeName(name, names);
-    return result;
+    return headerWith(line, layout, added);
 }
 
 void RowWriter::number(double value, PointState state) {

@@ -51,6 +51,9 @@ private:
     std::string m_scratch;
 };
 
+/// A header line with more columns, renamed where it has their names already.
+std::string headerWith(std::string_view line, Layout const& layout, std::vector<std::string> const& added);
+
 class RowWriter {
 public:
     /// zones: whether the result has a zone beside the coordinates.

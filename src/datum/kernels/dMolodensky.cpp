@@ -12,7 +12,7 @@
 // phi, lambda    latitude, longitude        a, f, e2   semi-major axis, flattening, eccentricity squared of the source
 // da, df         semi-major axis and flattening of the target less the source's
 // W              sqrt(1 - e2 sin^2 phi); the radii of curvature are N = a / W and M = a (1 - e2) / W^3
-#include "datum/driver.h"
+#include "datum/kernels/driver.h"
 
 #include <cmath>
 

@@ -7,7 +7,7 @@
 // Domain    the datum's own area: powers up to U^9 V^9 run away outside. Evaluated wherever it is asked for.
 //
 // U, V   latitude and longitude from the centre of the area, scaled by K
-#include "datum/driver.h"
+#include "datum/kernels/driver.h"
 #include "datum/mre.h"
 
 namespace ZrProj::datum::ZRPROJ_LEVEL {

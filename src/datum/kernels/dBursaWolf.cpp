@@ -13,7 +13,7 @@
 // phi, lambda, N   latitude, longitude, radius of curvature in the prime vertical        X, Y, Z   geocentric
 // coordinates a, f, e2         figures of an ellipsoid        p, r   distance from the axis, from the centre        u
 // reduced latitude
-#include "datum/driver.h"
+#include "datum/kernels/driver.h"
 
 namespace ZrProj::datum::ZRPROJ_LEVEL {
 namespace {

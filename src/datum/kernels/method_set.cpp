@@ -1,4 +1,4 @@
-#include "datum/method_set.h"
+#include "datum/kernels/method_set.h"
 
 #include "datum/levels.h"
 

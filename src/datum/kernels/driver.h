@@ -5,7 +5,7 @@
 //     template <class R> Pair<R> shifted(Pair<R> degrees) const;
 #pragma once
 
-#include "datum/method_set.h"
+#include "datum/kernels/method_set.h"
 #include "formulas/converter.h"
 #include "formulas/degrees.h"
 #include "formulas/elementary.h"

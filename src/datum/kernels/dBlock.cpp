@@ -1,5 +1,5 @@
 // The ends of a conversion: points into a block and out of it, longitudes into the range of the formulas and back.
-#include "datum/driver.h"
+#include "datum/kernels/driver.h"
 
 namespace ZrProj::datum::ZRPROJ_LEVEL {
 namespace {

@@ -1,0 +1,158 @@
+// zrproj georef: fits maps to control points, tells how good they are, and converts points by them.
+#include "cli/commands.h"
+#include "cli/georef_apply.h"
+#include "cli/georef_plot.h"
+#include "cli/georef_report.h"
+#include "cli/number_field.h"
+#include "cli/text.h"
+#include "cli/usage_error.h"
+#include "cli/whole_file.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cmath>
+#include <cstdio>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr int mostDecimals = 15, usualDecimals = 3;
+constexpr int failureStatus = 1;
+
+std::string methodKeys() {
+    std::string keys;
+    for (GeorefMethod const& row : georefMethods)
+        keys += (keys.empty() ? "" : ", ") + std::string(row.key);
+    return keys;
+}
+
+int complain(std::string const& message) {
+    std::fprintf(stderr, "zrproj: %s\n", message.c_str());
+    return failureStatus;
+}
+
+/// The options that fit and apply share: the controls, and the method.
+struct ControlOptions {
+    std::string file, columns, method = "affine";
+
+    void addTo(CLI::App& app, char const* columnsName) {
+        app.add_option("CONTROLS", file,
+                       "File of control points: source x and y, target x and y, name; - is standard input")
+            ->option_text(" ")
+            ->required();
+        app.add_option("--method", method, "How to fit: " + methodKeys())->type_name("METHOD")->capture_default_str();
+        app.add_option(columnsName, columns,
+                       "Columns of the control points: source x, source y, target x, target y, and the name's")
+            ->type_name("A,B,C,D[,E]");
+    }
+    std::vector<ControlPoint> read() const { return readControls(file, columns); }
+};
+
+class Fit : public Subcommand {
+public:
+    explicit Fit(CLI::App& app) {
+        m_controls.addTo(app, "--columns");
+        app.add_flag("--compare", m_compare, "Show all methods that the control points allow side by side instead")
+            ->disable_flag_override();
+        app.add_option("--plot", m_plot, "Draw the points, their residuals and a grid into this SVG file")
+            ->type_name("FILE");
+    }
+
+    int run(Output& output) override {
+        GeorefMethod const& method = findGeorefMethod(m_controls.method);
+        auto const controls = m_controls.read();
+        if (m_compare) {
+            writeGeorefComparison(output, controls);
+            return m_plot.empty() ? 0 : plot(method, controls, analyse(method, controls));
+        }
+        Analysis const analysis = analyse(method, controls);
+        writeGeorefFit(output, method, controls, analysis);
+        return m_plot.empty() ? 0 : plot(method, controls, analysis);
+    }
+
+private:
+    int plot(GeorefMethod const& method, std::vector<ControlPoint> const& controls, Analysis const& analysis) const {
+        int const error = writeWholeFile(m_plot, georefPlot(method, controls, analysis));
+        return error ? complain("cannot write " + m_plot + ": " + systemMessage(error)) : 0;
+    }
+
+    ControlOptions m_controls;
+    bool m_compare = false;
+    std::string m_plot;
+};
+
+class Apply : public Subcommand {
+public:
+    explicit Apply(CLI::App& app) {
+        m_controls.addTo(app, "--control-columns");
+        app.add_option("FILE", m_files, "Files of source points; standard input where none is given, and for -")
+            ->option_text(" ");
+        app.add_option("--columns", m_columns, "Columns of the points, x first: numbers from 1, or names of the header")
+            ->type_name("X,Y");
+        app.add_option("--precision", m_precision, "Decimals of the result, 0 to 15 (3)")->type_name("N");
+    }
+
+    int run(Output& output) override {
+        GeorefJob job{{Direction::Inverse, {}, nullptr, false}, decimals(), m_files};
+        if (!m_columns.empty())
+            job.columns.columns = parseColumns(m_columns, false);
+        if (job.files.empty())
+            job.files.emplace_back("-");
+        auto const map = fitGeoref(findGeorefMethod(m_controls.method), m_controls.read());
+        return applyGeoref(*map, job, output);
+    }
+
+private:
+    int decimals() const {
+        if (m_precision.empty())
+            return usualDecimals;
+        Reading const number = readNumber(m_precision);
+        if (number.error || !(number.value >= 0 && number.value <= mostDecimals) ||
+            number.value != std::floor(number.value))
+            throw UsageError("--precision: " + inQuotes(m_precision) + " is not a whole number from 0 to 15");
+        return static_cast<int>(number.value);
+    }
+
+    ControlOptions m_controls;
+    std::vector<std::string> m_files;
+    std::string m_columns, m_precision;
+};
+
+class Georef : public Subcommand {
+public:
+    explicit Georef(CLI::App& app) {
+        m_fitApp = app.add_subcommand("fit", "Fit a map, and tell how well each control point is met");
+        m_applyApp = app.add_subcommand("apply", "Fit a map, and convert points by it");
+        m_fitApp->footer(
+            "Example: which of a scanned map's control points is wrong, and what a plate spline makes of them\n"
+            "  zrproj georef fit controls.csv --method affine --plot controls.svg");
+        m_applyApp->footer("Example: one pixel\n  echo 1200 850 | zrproj georef apply controls.csv --method second");
+        m_fit = std::make_unique<Fit>(*m_fitApp);
+        m_apply = std::make_unique<Apply>(*m_applyApp);
+    }
+
+    int run(Output& output) override {
+        if (!m_fitApp->parsed() && !m_applyApp->parsed())
+            throw UsageError("georef needs fit or apply; \"zrproj georef --help\" tells more");
+        try {
+            return (m_fitApp->parsed() ? *m_fit : *m_apply).run(output);
+        } catch (ControlsError const& error) {
+            output.flush();
+            return complain(error.what());
+        }
+    }
+
+private:
+    CLI::App* m_fitApp;
+    CLI::App* m_applyApp;
+    std::unique_ptr<Subcommand> m_fit, m_apply;
+};
+
+} // namespace
+
+std::unique_ptr<Subcommand> makeGeoref(CLI::App& app) {
+    app.footer("Example: all methods side by side\n  zrproj georef fit controls.csv --compare");
+    return std::make_unique<Georef>(app);
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,52 @@
+#!/bin/bash
+# georef.sh COMMAND CITIES: fitting maps to control points, telling which is wrong, and converting points.
+source "$(dirname "${BASH_SOURCE[0]}")/check.bash"
+samples=$(dirname "$cities")
+
+prints() { # prints NAME PATTERN ARGUMENT...
+    local printed
+    printed=$("$zrproj" "${@:3}" 2>&1) || fail "$1" "status $?; $printed"
+    # shellcheck disable=SC2053
+    [[ $printed == $2 ]] || fail "$1" "$printed"
+}
+refused() { check "$1" 1 '' "zrproj: $2" georef fit - "${@:3}"; }
+
+for method in affine bilinear thin-plate inverse-distance; do
+    prints "the wrong point by $method" '*B2 *<-- stands out*worst: "B2" (line 6), 100*stands out: "B2"*without it*' \
+        georef fit "$samples/scanned_map_wrong.csv" --method "$method"
+    "$zrproj" georef fit "$samples/scanned_map.csv" --method "$method" | grep -q 'stands out' && fail "$method" 'blamed'
+done
+prints 'all methods' '*helmert *affine *"B2"*stands out*second *thin-plate *inverse-distance *' \
+    georef fit "$samples/scanned_map_wrong.csv" --compare
+[[ $("$zrproj" georef fit "$samples/scanned_map.csv" --compare) != *third* ]] || fail 'third order of 8 points' ''
+prints 'a mirror' '*a similarity cannot mirror*' georef fit "$samples/scanned_map.csv" --method Helmert
+prints 'coefficients' $'Affine Polynomial, 3*\n1 * 10 * 20\nx * 2 * 4\ny * -0.5 * -*needs 6*' georef fit - \
+    <<<$'0 0 10 20 a\n1 0 12 24 b\n0 1 9.5 19 c'
+
+refused 'too few' 'third needs 10 control points, there are 8' --method third <"$samples/scanned_map.csv"
+refused 'alike' 'two control points at one source point, in lines 2 and 5' --method cubic \
+    <<<$'x,y,X,Y\n1,2,3,4\n3,4,5,6\n\n1,2,4,4\n7,1,1,1'
+refused 'on a line' 'the control points are all on one line (lines 1, 3, 4)' <<<$'1,2,3,4\n#\n2,4,5,6\n3,6,4,4'
+refused 'in one place' 'two control points at one source point, in lines 1 and 2' --method helmert <<<$'1,2,3,4\n1,2,4,4'
+refused 'no points' '<stdin>: no control points' </dev/null
+refused 'broken lines' $'<stdin>:2: source y "4x" is not a number\n<stdin>:3: target x is missing\nnothing is fitted*' \
+    <<<$'1,2,3,4\n2,4x,5,6\n3,6'
+check 'no such file' 1 '' 'zrproj: cannot open *none: No such file or directory' georef fit "$work/none"
+check 'no such method' 2 '' 'zrproj: --method: "wild" is none of helmert, affine,*' georef fit - --method wild
+check 'a header in part' 2 '' 'zrproj: <stdin>:1: the header names only some*' georef fit - <<<'pixel_x,b,c,d'
+check 'no subcommand' 2 '' 'zrproj: georef needs fit or apply*' georef
+
+printf 'mapX,mapY,pixelX,pixelY,enable\n10,20,0,0,1\n20,20,10,0,1\n10,30,0,10,1\n' >"$work/map.points"
+check 'columns by their names' 0 '15.000 25.000' '' georef apply "$work/map.points" <<<'5 5'
+check 'columns by option' 0 '5.0;5.0;x' '' georef apply "$work/map.points" --control-columns 1,2,3,4 --columns 1,2 \
+    --precision 1 <<<'15;25;x'
+check 'points of a table' 1 $'id,x,y,target_x,target_y\na,1,2,11.000,22.000\nb,,4,*,*\nc,2,2,12.000,22.000' \
+    '<stdin>:3: *'$'\n''zrproj: 1 line could not be read' georef apply "$work/map.points" <<<$'id,x,y\na,1,2\nb,,4\nc,2,2'
+
+plot=$work/plot.svg
+"$zrproj" georef fit "$samples/scanned_map_wrong.csv" --method second --plot "$plot" >/dev/null || fail 'plot' "status $?"
+[[ $(grep -c '<circle' "$plot") == 8 && $(grep -c '<polyline' "$plot") == 22 && $(tail -n 1 "$plot") == '</svg>' ]] ||
+    fail 'plot' "$(<"$plot")"
+said=$("$zrproj" georef fit "$samples/scanned_map.csv" --plot "$work/none/plot.svg" 2>&1 >/dev/null)
+[[ $? == 1 && $said == 'zrproj: cannot write '*': No such file or directory' ]] || fail 'a plot that cannot be written' "$said"
+exit $failed
