@@ -13,8 +13,10 @@
 #include "angle.h"
 #include "datum.h"
 #include "ellipsoid.h"
+#include "georef.h"
 #include "preclip.h"
 #include "projection.h"
+#include "registration.h"
 #include "zones.h"
 #include "zrlibw.h"
 
