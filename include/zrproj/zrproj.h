@@ -14,6 +14,7 @@
 #include "datum.h"
 #include "ellipsoid.h"
 #include "georef.h"
+#include "geotiff.h"
 #include "preclip.h"
 #include "projection.h"
 #include "registration.h"
