@@ -14,6 +14,8 @@
 #include "ellipsoid.h"
 #include "preclip.h"
 #include "projection.h"
+#include "reffile.h"
+#include "worldfile.h"
 #include "zones.h"
 #include "zrlibw.h"
 
