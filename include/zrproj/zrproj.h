@@ -11,6 +11,7 @@
 #define ZRPROJ_ZRPROJ_H
 
 #include "angle.h"
+#include "datum.h"
 #include "ellipsoid.h"
 #include "preclip.h"
 #include "projection.h"

@@ -12,7 +12,7 @@
 #pragma once
 
 #include "formulas/converter.h"
-#include "formulas/number.h"
+#include "formulas/degrees.h"
 #include "host/fpenv.h"
 
 #include <cstring>
@@ -21,38 +21,9 @@
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 
-/// A coordinate pair on its way through the driver.
-template <class R> struct Pair { R x, y; };
-
 inline bool isMarked(PROJPOINT const& point) {
     return point.x == DBL_MAX || point.y == DBL_MAX;
 }
-
-/// Longitude modulo 360, its sign kept; latitude modulo 180 and folded over the pole.
-inline Pair<double> normalised(Pair<double> degrees) {
-    double const lat = std::fmod(degrees.y, 180.0);
-    return {std::fmod(degrees.x, 360.0), lat > 90 ? 180 - lat : lat < -90 ? std::fabs(lat) - 180 : lat};
-}
-
-/// The same lane by lane; out of line, since few points need it.
-[[gnu::noinline]] inline Pair<Register> normalisedLanes(Pair<Register> degrees) {
-    double x[lanes], y[lanes];
-    store(x, degrees.x);
-    store(y, degrees.y);
-    for (int i = 0; i < lanes; ++i) {
-        auto const point = normalised(Pair<double>{x[i], y[i]});
-        x[i] = point.x;
-        y[i] = point.y;
-    }
-    return {load(x), load(y)};
-}
-
-#if !defined(ZRPROJ_LEVEL_scalar)
-[[gnu::always_inline]] inline Pair<Register> normalised(Pair<Register> degrees) {
-    bool const usual = !any((abs(degrees.x) >= 360.0) | (abs(degrees.y) > 90.0));
-    return usual ? degrees : normalisedLanes(degrees);
-}
-#endif
 
 template <class R> R toRadians(R degrees) {
     return degrees * 3.141592653589793 / 180.0;

@@ -1,0 +1,139 @@
+// The methods over arrays: against a high-precision evaluation, at every place of an array, at every level.
+#include "support/datum.h"
+#include "support/levels.h"
+
+#include <cmath>
+#include <cstring>
+#include <fstream>
+#include <random>
+#include <set>
+#include <sstream>
+#include <string>
+#include <thread>
+#include <vector>
+
+using namespace ZrProj;
+using test::DatumHandle;
+using test::datumRequest;
+using test::toOrFromWgs84;
+
+namespace {
+
+constexpr double tolerance = 1e-12; // degrees
+
+struct Case {
+    int type = 0;
+    bool from = false;
+    DATUMPOINT before{}, after{};
+    std::string line;
+};
+
+/// tests/data/datum.txt: "5 from | 9.19 45.46 | 9.1891 45.4589".
+std::vector<Case> readCases() {
+    std::ifstream in(ZRPROJ_TEST_DATA "/datum.txt");
+    std::vector<Case> cases;
+    for (std::string line; std::getline(in, line);) {
+        if (line[0] == '#')
+            continue;
+        Case c;
+        std::string direction, bar;
+        std::istringstream words(line);
+        words >> c.type >> direction >> bar >> c.before.x >> c.before.y >> bar >> c.after.x >> c.after.y;
+        EXPECT_TRUE(words) << line;
+        c.from = direction == "from";
+        c.line = line;
+        cases.push_back(c);
+    }
+    return cases;
+}
+
+std::vector<DATUMPOINT> pointsEverywhere(std::size_t count, unsigned seed = 1) {
+    std::mt19937_64 random(seed);
+    std::uniform_real_distribution<> lon(-400, 400), lat(-95, 95);
+    std::vector<DATUMPOINT> points(count);
+    for (auto& point : points)
+        point = {lon(random), lat(random)};
+    for (std::size_t i = 5; i < count; i += 97)
+        points[i].y = NAN;
+    return points;
+}
+
+bool sameBits(DATUMPOINT const* a, DATUMPOINT const* b, std::size_t count) {
+    return std::memcmp(a, b, count * sizeof *a) == 0;
+}
+
+constexpr int conversions[][2] = {{2, 3}, {5, 217}, {223, 147}, {229, 236}};
+
+} // namespace
+
+TEST(DatumMethods, AgreeWithAHighPrecisionEvaluation) {
+    auto const cases = readCases();
+    std::set<int> types;
+    test::forEachLevel([&](formulas::Level) {
+        for (auto const& c : cases) {
+            DatumHandle const handle(toOrFromWgs84(c.type, c.from));
+            auto const p = handle(c.before.x, c.before.y);
+            EXPECT_NEAR(p.x, c.after.x, tolerance) << c.line;
+            EXPECT_NEAR(p.y, c.after.y, tolerance) << c.line;
+            types.insert(c.type);
+        }
+    });
+    EXPECT_EQ(types.size(), 226u);
+}
+
+TEST(DatumMethods, GiveAPointTheSameBitsAnywhere) {
+    test::forEachLevel([](formulas::Level) {
+        for (auto const& [from, to] : conversions) {
+            DatumHandle const handle(datumRequest(from, to));
+            auto const source = pointsEverywhere(700);
+            auto alone = source;
+            for (auto& point : alone)
+                ASSERT_TRUE(DatConvertDatum(handle.handle, &point, 1));
+            for (std::size_t const start : {0u, 1u, 3u, 177u})
+                for (std::size_t const count : {1u, 2u, 7u, 8u, 9u, 63u, 255u, 256u, 257u, 513u}) {
+                    std::vector<DATUMPOINT> part(source.begin() + static_cast<std::ptrdiff_t>(start),
+                                                 source.begin() + static_cast<std::ptrdiff_t>(start + count));
+                    ASSERT_TRUE(DatConvertDatum(handle.handle, part.data(), static_cast<int>(count)));
+                    ASSERT_TRUE(sameBits(part.data(), &alone[start], count)) << count << " points from " << start;
+                }
+        }
+    });
+}
+
+TEST(DatumMethods, AgreeBetweenLevels) {
+    for (auto const& [from, to] : conversions) {
+        std::vector<DATUMPOINT> reference;
+        test::forEachLevel([&, from = from, to = to](formulas::Level level) {
+            DatumHandle const handle(datumRequest(from, to));
+            auto points = pointsEverywhere(3000);
+            ASSERT_TRUE(DatConvertDatum(handle.handle, points.data(), 3000));
+            if (level == formulas::Level::scalar)
+                reference = points;
+            for (std::size_t i = 0; i < points.size(); ++i) {
+                if (from == 229 || std::abs(reference[i].y) > 89)
+                    continue; // no digits are left of longitudes at a pole, nor of equations far from their area
+                ASSERT_NEAR(points[i].x, reference[i].x, tolerance);
+                ASSERT_NEAR(points[i].y, reference[i].y, tolerance);
+            }
+        });
+    }
+}
+
+TEST(DatumMethods, RunOnSeveralThreadsAtOnce) {
+    constexpr std::size_t count = 20000, threads = 4;
+    auto const convert = [](std::size_t i) {
+        auto points = pointsEverywhere(count, static_cast<unsigned>(i));
+        DatumHandle const handle(datumRequest(conversions[i][0], conversions[i][1]));
+        for (int round = 0; round < 3; ++round)
+            DatConvertDatum(handle.handle, points.data(), count);
+        return points;
+    };
+    std::vector<std::vector<DATUMPOINT>> parallel(threads);
+    std::vector<std::thread> running;
+    for (std::size_t i = 0; i < threads; ++i)
+        running.emplace_back([&, i] { parallel[i] = convert(i); });
+    for (auto& thread : running)
+        thread.join();
+    for (std::size_t i = 0; i < threads; ++i)
+        EXPECT_TRUE(sameBits(parallel[i].data(), convert(i).data(), count)) << i;
+}

@@ -1,0 +1,251 @@
+#include "support/datum.h"
+#include "support/error_host.h"
+#include "support/floating_point.h"
+#include "support/levels.h"
+
+#include <cmath>
+#include <cstring>
+#include <limits>
+#include <vector>
+
+using namespace ZrProj;
+using test::DatumHandle;
+using test::datumRequest;
+using test::isMarked;
+using test::toOrFromWgs84;
+
+namespace {
+
+constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
+constexpr double infinity = std::numeric_limits<double>::infinity();
+
+DATUM2WGS84 paramsOf(int type, bool fromWgs84) {
+    DATUM2WGS84 params{};
+    EXPECT_TRUE(DatGetDatumParams(static_cast<DatumType>(type), &params));
+    params.bFromWGS84 = fromWgs84;
+    return params;
+}
+
+DATUMXFORM ownEnds(DATUM2WGS84 const& source, DATUM2WGS84 const& destination) {
+    DATUMXFORM request = datumRequest(0, 0);
+    request.SourceParams = source;
+    request.DestinationParams = destination;
+    return request;
+}
+
+void expectNear(DATUMPOINT const& a, DATUMPOINT const& b, double tolerance = 1e-12) {
+    EXPECT_NEAR(a.x, b.x, tolerance);
+    EXPECT_NEAR(a.y, b.y, tolerance);
+}
+
+/// A conversion that is refused: an assertion of this source, and the points as they were.
+void expectRefused(DATUMXFORM const& request) {
+    DatumHandle const handle(request);
+    ASSERT_TRUE(handle.handle);
+    ErrorHost host;
+    DATUMPOINT point{500, 100};
+    EXPECT_FALSE(DatConvertDatum(handle.handle, &point, 1));
+    ASSERT_EQ(host.calls.size(), 2u);
+    EXPECT_EQ(host.calls.back().number, 20200u);
+    EXPECT_EQ(host.calls.back().file, ".\\zrDatum.cpp");
+    expectNear(point, {500, 100}, 0);
+}
+
+} // namespace
+
+TEST(DatumConversion, RefusesBadArguments) {
+    DatumHandle const handle(datumRequest(2, 3));
+    ErrorHost host;
+    DATUMPOINT point{-90, 40};
+    DATUMXFORM request{};
+    EXPECT_FALSE(DatConvertDatum(nullptr, &point, 1));
+    EXPECT_FALSE(DatHadUnplottables(nullptr));
+    EXPECT_FALSE(DatGetHandleInfo(nullptr, &request));
+    EXPECT_FALSE(DatGetHandleInfo(handle.handle, nullptr));
+    DatDeleteDatum(nullptr);
+    EXPECT_TRUE(host.calls.empty());
+    EXPECT_FALSE(DatConvertDatum(handle.handle, nullptr, 1));
+    EXPECT_FALSE(DatConvertDatum(handle.handle, &point, 0));
+    EXPECT_FALSE(DatConvertDatum(handle.handle, &point, -7));
+    EXPECT_EQ(host.calls.size(), 6u); // each assertion asks, then tells
+}
+
+TEST(DatumConversion, RefusesWhatCannotBeRun) {
+    for (int const oneWay : {224, 229, 231, 232, 233}) {
+        expectRefused(datumRequest(2, oneWay));
+        expectRefused(datumRequest(0, oneWay));
+    }
+    for (auto const method : {DatumMethodNadcon, DatumMethodMRE}) {
+        DATUM2WGS84 own{};
+        own.Method = method;
+        expectRefused(ownEnds(own, {}));
+        expectRefused(ownEnds({}, own));
+        DATUMXFORM request = datumRequest(0, 3);
+        request.SourceParams = own;
+        expectRefused(request);
+    }
+}
+
+TEST(DatumConversion, LeavesPointsOfOneDatumAlone) {
+    for (int const type : {1, 2, 215, 229, 232}) {
+        DatumHandle const handle(datumRequest(type, type));
+        DATUMPOINT points[] = {{500, 100}, {notANumber, DBL_MAX}};
+        EXPECT_TRUE(DatConvertDatum(handle.handle, points, 2));
+        EXPECT_EQ(points[0].x, 500);
+        EXPECT_EQ(points[0].y, 100);
+        EXPECT_TRUE(std::isnan(points[1].x));
+        EXPECT_FALSE(DatHadUnplottables(handle.handle));
+    }
+}
+
+TEST(DatumConversion, NormalisesAndKeepsTheCallersSide) {
+    test::forEachLevel([](formulas::Level) {
+        for (int const type : {2, 217}) {
+            DatumHandle const handle(datumRequest(type, 3));
+            auto const east = handle(-160, 40);
+            EXPECT_GT(std::abs(east.x + 160), 1e-5);
+            expectNear(handle(200, 40), {east.x + 360, east.y});
+            expectNear(handle(560, 40), {east.x + 360, east.y});
+            auto const west = handle(160, 40);
+            expectNear(handle(-200, 40), {west.x - 360, west.y});
+            expectNear(handle(180, 40), {handle(-180, 40).x + (type == 2 ? 360 : 0), handle(-180, 40).y}, 1e-11);
+            expectNear(handle(10, 100), handle(10, 80), 0);
+            expectNear(handle(10, -100), handle(10, -80), 0);
+            expectNear(handle(10, 260), handle(10, 80), 0);
+            expectNear(handle(0, 0), handle(360, 180), 0);
+            EXPECT_FALSE(DatHadUnplottables(handle.handle));
+        }
+        DatumHandle const nothing(datumRequest(0, 0));
+        expectNear(nothing(-359.5, 10), {-359.5, 10}, 1e-13);
+        expectNear(nothing(-365, -95), {-5, -85}, 0);
+    });
+}
+
+TEST(DatumConversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
+    test::forEachLevel([](formulas::Level) {
+        DatumHandle const handle(datumRequest(5, 215));
+        auto const good = handle(9, 45);
+        for (auto const& bad : {DATUMPOINT{9, notANumber},
+                                {notANumber, 45},
+                                {infinity, 45},
+                                {9, -infinity},
+                                {DBL_MAX, 45},
+                                {9, DBL_MAX},
+                                {DBL_MAX, DBL_MAX}}) {
+            DATUMPOINT points[] = {{9, 45}, bad, {9, 45}};
+            EXPECT_TRUE(DatConvertDatum(handle.handle, points, 3));
+            EXPECT_TRUE(DatHadUnplottables(handle.handle));
+            EXPECT_TRUE(isMarked(points[1]));
+            expectNear(points[0], good, 0);
+            expectNear(points[2], good, 0);
+        }
+        EXPECT_FALSE(isMarked(handle(-DBL_MAX, -DBL_MAX))); // finite, and not the marker
+        EXPECT_FALSE(DatHadUnplottables(handle.handle));
+    });
+}
+
+// The record's flag is the direction: set for neither end, both go towards WGS 84.
+TEST(DatumConversion, AppliesOwnRecordsInTheirDirection) {
+    test::forEachLevel([](formulas::Level) {
+        for (int const type : {8, 217}) {
+            DatumHandle const from(toOrFromWgs84(type, true)), to(toOrFromWgs84(type, false));
+            auto const forth = paramsOf(type, false), back = paramsOf(type, true);
+            auto const p = from(30, 15), q = to(30, 15);
+            expectNear(DatumHandle(ownEnds(forth, forth))(30, 15), from(p.x, p.y));
+            expectNear(DatumHandle(ownEnds(forth, back))(30, 15), to(p.x, p.y));
+            expectNear(DatumHandle(ownEnds(back, forth))(30, 15), from(q.x, q.y));
+            expectNear(DatumHandle(ownEnds(back, back))(30, 15), to(q.x, q.y));
+            auto request = ownEnds(forth, back); // any byte but 0 sets the flag
+            std::memset(&request.DestinationParams.bFromWGS84, 0x80, 1);
+            expectNear(DatumHandle(request)(30, 15), to(p.x, p.y));
+            request = datumRequest(0, 3); // the caller's figures of a catalogue ellipsoid are not believed
+            request.SourceParams = forth;
+            request.SourceParams.MajorRadius = 1;
+            expectNear(DatumHandle(request)(30, 15), p);
+        }
+    });
+}
+
+TEST(DatumConversion, MarksWhatAFormulaCannotGive) {
+    test::forEachLevel([](formulas::Level) {
+        auto own = paramsOf(217, false);
+        own.Scale = -1e6; // shrinks the Earth to the point (dX, dY, dZ)
+        expectNear(DatumHandle(ownEnds(own, {}))(10, 20), DatumHandle(ownEnds(own, {}))(50, -60), 0);
+        own.dX = own.dY = own.dZ = 0;
+        EXPECT_TRUE(isMarked(DatumHandle(ownEnds(own, {}))(10, 20)));
+        own.bFromWGS84 = true;
+        EXPECT_TRUE(isMarked(DatumHandle(ownEnds(own, {}))(10, 20)));
+        own = paramsOf(2, false);
+        own.dX = notANumber;
+        DatumHandle const handle(ownEnds(own, {}));
+        EXPECT_TRUE(isMarked(handle(10, 20)));
+        EXPECT_TRUE(DatHadUnplottables(handle.handle));
+        own.dX = 1.7e38; // far, but finite
+        EXPECT_FALSE(isMarked(DatumHandle(ownEnds(own, {}))(10, 20)));
+    });
+}
+
+TEST(DatumConversion, AppliesAPrimeMeridianAsAShift) {
+    DatumHandle const paris(datumRequest(147, 148)); // one datum but for meridian, ellipsoid and shifts
+    EXPECT_NEAR(paris(0, 48.85).x, 2.337229167, 2e-3);
+    DatumHandle const bursaWolf(datumRequest(222, 3));
+    EXPECT_NEAR(bursaWolf(0, 48.85).x, 2.337229167, 2e-3);
+    DatumHandle const back(datumRequest(3, 222));
+    EXPECT_NEAR(back(2.337229167, 48.85).x, 0, 2e-3);
+}
+
+TEST(DatumConversion, PolesAreConvertedInLatitude) {
+    test::forEachLevel([](formulas::Level) {
+        for (double const pole : {90.0, -90.0}) {
+            DatumHandle const molodensky(datumRequest(2, 3)), bursaWolf(datumRequest(217, 3));
+            EXPECT_NEAR(molodensky(30, pole).y, pole, 1e-2);
+            EXPECT_NEAR(bursaWolf(30, pole).y, pole, 1e-2);
+            EXPECT_FALSE(DatHadUnplottables(molodensky.handle));
+        }
+    });
+}
+
+TEST(DatumConversion, GivesTheRequestBackUnchanged) {
+    DATUMXFORM request;
+    std::memset(static_cast<void*>(&request), 0x5A, sizeof request);
+    request.Source = request.Destination = DatumTypeUserDefined;
+    request.SourceParams.Method = DatumMethodMolodensky;
+    request.SourceParams.Ellipsoid = EllipsoidTypeClarke1866;
+    request.SourceParams.PrimeMeridian = 0;
+    request.DestinationParams.Method = DatumMethodNone;
+    DatumHandle const handle(request);
+    ASSERT_TRUE(handle.handle);
+    handle(notANumber, 0);
+    EXPECT_TRUE(DatHadUnplottables(handle.handle));
+    DATUMXFORM given;
+    ASSERT_TRUE(DatGetHandleInfo(handle.handle, &given));
+    EXPECT_EQ(std::memcmp(&given, &request, sizeof given), 0);
+}
+
+TEST(DatumConversion, IsNotHitByTheHostsTraps) {
+    double const inputs[] = {
+        std::numeric_limits<double>::signaling_NaN(), 5e-324, 1e-310, infinity, DBL_MAX, 1e300, 0, 90};
+    std::vector<DATUMPOINT> points;
+    for (double const x : inputs)
+        for (double const y : inputs)
+            points.push_back({x, y});
+    auto const count = static_cast<int>(points.size());
+    auto own = paramsOf(217, false);
+    own.Scale = -1e6;
+    own.bFromWGS84 = true; // divides by zero
+    bool untouched = false;
+    {
+        TrapsEnabled const traps;
+        for (int const type : {2, 217, 229}) {
+            DatumHandle const handle(datumRequest(type, 222));
+            auto some = points;
+            DatConvertDatum(handle.handle, some.data(), count);
+        }
+        auto request = ownEnds(own, {});
+        DatDeleteDatum(DatCreateDatum(&request));
+        request.SourceParams.rX = notANumber;
+        DatCheckParams(&request, nullptr, false);
+        untouched = traps.untouched();
+    }
+    EXPECT_TRUE(untouched);
+}
