@@ -1,0 +1,14 @@
+// Precalculated affine coefficients.
+#pragma once
+
+#include "georef/kernels/kernel_set.h"
+
+namespace ZrProj {
+
+/// X = A x + B y + C and Y = D x + E y + F of the record.
+formulas::Polynomial coefficientMap(GEOREF const& georef) noexcept;
+
+/// Writes an affine map into the record's A to F.
+void setCoefficients(GEOREF& georef, formulas::Polynomial const& map) noexcept;
+
+} // namespace ZrProj
