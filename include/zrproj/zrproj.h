@@ -17,7 +17,9 @@
 #include "geotiff.h"
 #include "preclip.h"
 #include "projection.h"
+#include "reffile.h"
 #include "registration.h"
+#include "worldfile.h"
 #include "zones.h"
 #include "zrlibw.h"
 
