@@ -95,12 +95,12 @@ Outcome<Ellipsoid> agreedEllipsoid(KeyDirectory const& keys, Ellipsoid const& kn
 }
 
 void writeEllipsoid(KeyDirectory& keys, Ellipsoid const& ellipsoid) {
-    keys.set(keyEllipsoid, codeOfEllipsoid(ellipsoid));
-    keys.set(keySemiMajorAxis, ellipsoid.radius);
+    keys.setCode(keyEllipsoid, codeOfEllipsoid(ellipsoid));
+    keys.setNumber(keySemiMajorAxis, ellipsoid.radius);
     if (ellipsoid.flattening == 0)
-        keys.set(keySemiMinorAxis, ellipsoid.radius);
+        keys.setNumber(keySemiMinorAxis, ellipsoid.radius);
     else
-        keys.set(keyInverseFlattening, 1 / ellipsoid.flattening);
+        keys.setNumber(keyInverseFlattening, 1 / ellipsoid.flattening);
 }
 
 } // namespace ZrProj::GeoTIFF

@@ -146,20 +146,20 @@ std::uint16_t codeOf(DatumType datum, Ellipsoid const& ellipsoid) {
 
 void writeToWgs84(KeyDirectory& keys, DATUM2WGS84 const& params) {
     if (params.Method == DatumMethodMolodensky)
-        keys.set(keyToWgs84, std::vector<double>{params.dX, params.dY, params.dZ});
+        keys.setNumbers(keyToWgs84, std::vector<double>{params.dX, params.dY, params.dZ});
     else if (params.Method == DatumMethodBursaWolf)
-        keys.set(keyToWgs84,
-                 std::vector<double>{params.dX, params.dY, params.dZ, params.rX, params.rY, params.rZ, params.Scale});
+        keys.setNumbers(keyToWgs84, std::vector<double>{params.dX, params.dY, params.dZ, params.rX, params.rY,
+                                                        params.rZ, params.Scale});
 }
 
 void writeOwn(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum, DATUM2WGS84 const& params) {
     std::array<char, 40> figure = {};
     EllipsoidInfo(ellipsoid.type, figure.data(), nullptr, nullptr);
     std::string const name = datum == DatumTypeNone ? "unknown" : nameOf(datum).data();
-    keys.set(keyGeographicCitation, "GCS Name = " + name + '|' + std::string(datumLabel) + name +
-                                        "|Ellipsoid = " + figure.data() + "|Primem = Greenwich|");
-    keys.set(keyDatum, std::uint16_t{userDefined});
-    keys.set(keyPrimeMeridian, std::uint16_t{meridianGreenwich});
+    keys.setText(keyGeographicCitation, "GCS Name = " + name + '|' + std::string(datumLabel) + name +
+                                            "|Ellipsoid = " + figure.data() + "|Primem = Greenwich|");
+    keys.setCode(keyDatum, userDefined);
+    keys.setCode(keyPrimeMeridian, meridianGreenwich);
     writeEllipsoid(keys, ellipsoid);
     writeToWgs84(keys, params);
 }
@@ -197,8 +197,8 @@ Outcome<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& elli
     if (!standsOn(params, ellipsoid))
         return Refusal{"the datum and the projection have different ellipsoids"};
     std::uint16_t const code = codeOf(datum, ellipsoid);
-    keys.set(keyGeographicType, code);
-    keys.set(keyAngleUnit, std::uint16_t{unitDegree});
+    keys.setCode(keyGeographicType, code);
+    keys.setCode(keyAngleUnit, unitDegree);
     if (code == userDefined)
         writeOwn(keys, ellipsoid, datum, params);
     return code;

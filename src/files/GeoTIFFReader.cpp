@@ -1,7 +1,10 @@
 // The keys of a coordinate system, read.
+#include "files/GeoTIFFGridTable.h"
 #include "files/GeoTIFFSystem.h"
 #include "files/GeoTIFFUnits.h"
 #include "files/GeoTIFFZones.h"
+
+#include <algorithm>
 
 namespace ZrProj::GeoTIFF {
 namespace {
@@ -103,9 +106,24 @@ Outcome<System> readZone(KeyDirectory const& keys, std::optional<Zone> const& zo
     return result;
 }
 
+/// A grid by its number. The false origin of the table is in metres.
+Outcome<System> readGrid(KeyDirectory const& keys, GridRow const& grid) {
+    auto const unit = lengthUnit(keys, keyLengthUnit, keyLengthUnitSize, grid.unit);
+    auto const geographic = readGeographic(keys, grid.geographic);
+    if (!unit || !geographic)
+        return Refusal{unit.reason() + geographic.reason()};
+    auto const record =
+        recordOf(static_cast<Transformation>(grid.transformation), grid.parameters, geographic->ellipsoid);
+    if (!record)
+        return record.refusal();
+    System result{*record, *geographic};
+    result.projection.Scale *= unit->perBase();
+    return result;
+}
+
 Outcome<System> readDescribed(KeyDirectory const& keys) {
     auto const transformation = static_cast<Transformation>(own(keys.code(keyTransformation)));
-    if (transformation == userDefined)
+    if (!keys.code(keyTransformation))
         return Refusal{"the keys name no projection"};
     auto const unit = lengthUnit(keys, keyLengthUnit, keyLengthUnitSize, unitMetre);
     auto const geographic = readGeographic(keys, 0);
@@ -124,6 +142,9 @@ Outcome<System> readDescribed(KeyDirectory const& keys) {
 
 Outcome<System> readProjected(KeyDirectory const& keys) {
     std::uint16_t const system = own(keys.code(keyProjectedType)), projection = own(keys.code(keyProjection));
+    auto const grid = std::ranges::find(gridTable, system, &GridRow::code);
+    if (grid != gridTable.end())
+        return readGrid(keys, *grid);
     if (system != userDefined)
         return readZone(keys, zoneOfSystem(system), system);
     if (projection != userDefined)

@@ -40,8 +40,10 @@ public:
     std::vector<double> numbers(Key key) const;
     std::string_view text(Key key) const; // "" for none
 
-    void set(Key key, KeyValue value) { m_keys[key] = std::move(value); }
-    void set(Key key, double value) { m_keys[key] = std::vector{value}; }
+    void setCode(Key key, std::uint16_t code) { m_keys[key] = code; }
+    void setNumber(Key key, double number) { m_keys[key] = std::vector{number}; }
+    void setNumbers(Key key, std::vector<double> numbers) { m_keys[key] = std::move(numbers); }
+    void setText(Key key, std::string text) { m_keys[key] = std::move(text); }
 
     /// The directory as the contents of its three tags.
     struct Contents {

@@ -87,22 +87,22 @@ Outcome<Method> methodFor(PROJDATA const& record) {
 
 void writeOblique(KeyDirectory& keys, PROJDATA const& record) {
     if (record.Lon1 != 0)
-        keys.set(keyCentreLongitude, record.Lon1);
+        keys.setNumber(keyCentreLongitude, record.Lon1);
     double const azimuth = record.Alpha < 0 ? record.Alpha + 360 : record.Alpha;
-    keys.set(keyAzimuth, azimuth);
-    keys.set(keyGridAngle, azimuth);
+    keys.setNumber(keyAzimuth, azimuth);
+    keys.setNumber(keyGridAngle, azimuth);
 }
 
 /// The unit of length that Scale stands for; what is left of Scale is a factor of the projection.
 double writeLengthUnit(KeyDirectory& keys, PROJDATA const& record, Method const& method) {
     std::uint16_t const code = codeOfLengthUnit(record.Scale);
     if (code == userDefined && method.scale == ScaleFactor::Folded) {
-        keys.set(keyLengthUnit, std::uint16_t{unitMetre});
+        keys.setCode(keyLengthUnit, unitMetre);
         return record.Scale;
     }
-    keys.set(keyLengthUnit, code);
+    keys.setCode(keyLengthUnit, code);
     if (code == userDefined)
-        keys.set(keyLengthUnitSize, 1 / record.Scale);
+        keys.setNumber(keyLengthUnitSize, 1 / record.Scale);
     return 1;
 }
 
@@ -111,26 +111,26 @@ void writeOrigin(KeyDirectory& keys, PROJDATA const& record, Method const& metho
     // The Mercator of GeoTIFF counts from the equator.
     bool const fromEquator = record.Type == ProjTypeMercator;
     double const shift = fromEquator ? mercatorNorthing(record.Lat0, record.MajorRadius, record.Flattening) : 0;
-    keys.set(origin.longitude, angleAt(record, static_cast<int>(method.longitude)));
-    keys.set(origin.latitude, angleAt(record, static_cast<int>(method.latitude)));
-    keys.set(origin.east, record.xOrg * record.Scale);
-    keys.set(origin.north, (record.yOrg - shift) * record.Scale);
+    keys.setNumber(origin.longitude, angleAt(record, static_cast<int>(method.longitude)));
+    keys.setNumber(origin.latitude, angleAt(record, static_cast<int>(method.latitude)));
+    keys.setNumber(origin.east, record.xOrg * record.Scale);
+    keys.setNumber(origin.north, (record.yOrg - shift) * record.Scale);
 }
 
 void writeDescribed(KeyDirectory& keys, PROJDATA const& record, Method const& method) {
-    keys.set(keyProjectedType, std::uint16_t{userDefined});
-    keys.set(keyProjection, std::uint16_t{userDefined});
-    keys.set(keyTransformation, std::uint16_t{method.transformation});
+    keys.setCode(keyProjectedType, userDefined);
+    keys.setCode(keyProjection, userDefined);
+    keys.setCode(keyTransformation, method.transformation);
     double const factor = writeLengthUnit(keys, record, method);
     writeOrigin(keys, record, method);
     if (method.scale != ScaleFactor::MustBeOne) {
         bool const centre = record.Type == ProjTypeHotineObliqueMercator;
-        keys.set(centre ? keyCentreScale : keyNaturalScale, method.scale == ScaleFactor::K0 ? record.K0 : factor);
+        keys.setNumber(centre ? keyCentreScale : keyNaturalScale, method.scale == ScaleFactor::K0 ? record.K0 : factor);
     }
     if (method.parallels > 0)
-        keys.set(keyParallel1, record.Lat1);
+        keys.setNumber(keyParallel1, record.Lat1);
     if (method.parallels > 1)
-        keys.set(keyParallel2, record.Lat2);
+        keys.setNumber(keyParallel2, record.Lat2);
     if (record.Type == ProjTypeHotineObliqueMercator)
         writeOblique(keys, record);
 }
@@ -139,8 +139,8 @@ bool writeAsZone(KeyDirectory& keys, PROJDATA const& record, std::uint16_t geogr
     ZoneCode const zone = codeOfZone(record, geographic);
     if (zone.code == 0 || codeOfLengthUnit(record.Scale) != zone.unit)
         return false;
-    keys.set(keyProjectedType, zone.code);
-    keys.set(keyLengthUnit, zone.unit);
+    keys.setCode(keyProjectedType, zone.code);
+    keys.setCode(keyLengthUnit, zone.unit);
     return true;
 }
 
@@ -151,8 +151,8 @@ Outcome<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DAT
     auto const geographic = writeGeographic(keys, ellipsoid, datum, params);
     if (!geographic)
         return geographic.refusal();
-    keys.set(keyModelType, std::uint16_t{modelProjected});
-    keys.set(keyCitation, nameOf(given.Type));
+    keys.setCode(keyModelType, modelProjected);
+    keys.setText(keyCitation, nameOf(given.Type));
     if (writeAsZone(keys, record, *geographic))
         return keys;
     auto const method = methodFor(described);
@@ -176,7 +176,7 @@ Outcome<KeyDirectory> writeUnprojected(PROJDATA const& record, DatumType datum, 
     auto const geographic = writeGeographic(keys, ellipsoid, datum, params);
     if (!geographic)
         return geographic.refusal();
-    keys.set(keyModelType, std::uint16_t{modelGeographic});
+    keys.setCode(keyModelType, modelGeographic);
     return keys;
 }
 
@@ -196,7 +196,7 @@ Outcome<KeyDirectory> writeSystem(PROJDATA const* projection, DatumType datum, D
     if (!keys)
         return keys;
     KeyDirectory result = *keys;
-    result.set(keyRasterType, std::uint16_t{rasterIsArea});
+    result.setCode(keyRasterType, rasterIsArea);
     return result;
 }
 

@@ -4,11 +4,27 @@
 #include "files/GeoTIFFUtmTable.h"
 
 #include <algorithm>
+#include <array>
 
 namespace ZrProj::GeoTIFF {
 namespace {
 
 constexpr std::uint16_t nad27 = 4267, nad83 = 4269;
+/// Zones whose catalogue number means another, earlier definition, by the number that they have now.
+struct Corrected {
+    std::uint16_t code;
+    ProjType type;
+    StateZoneType zone;
+};
+
+constexpr std::array correctedZones{
+    Corrected{26799, ProjTypeStatePlane1927, StateZoneTypeCaliforniaVII},
+    Corrected{4456, ProjTypeStatePlane1927, StateZoneTypeNewYorkLongIsland},
+    Corrected{2204, ProjTypeStatePlane1927, StateZoneTypeTennessee},
+    Corrected{4455, ProjTypeStatePlane1927, StateZoneTypePennsylvaniaSouth},
+    Corrected{2205, ProjTypeStatePlane1983, StateZoneTypeKentuckyNorth},
+};
+
 // The catalogue has this number at another zone, which is defined for 1927 only.
 constexpr std::uint16_t puertoRico1983 = 32161;
 
@@ -38,7 +54,15 @@ std::optional<PROJDATA> statePlaneRecord(ProjType type, StateZoneType zone) {
     return record;
 }
 
+bool isCorrected(ProjType type, StateZoneType zone) {
+    return std::ranges::any_of(correctedZones,
+                               [&](Corrected const& row) { return row.type == type && row.zone == zone; });
+}
+
+/// The number that means the zone's definition; 0 where there is none.
 int poscOf(ProjType type, StateZoneType zone) {
+    if (isCorrected(type, zone))
+        return 0;
     if (type == ProjTypeStatePlane1983 && zone == StateZoneTypePuertoRicoAndVirginIslands1983)
         return puertoRico1983;
     int posc = 0;
@@ -59,11 +83,16 @@ std::optional<PROJDATA> statePlaneOfPosc(ProjType type, int posc) {
 }
 
 std::optional<PROJDATA> statePlaneOfUsgs(ProjType type, int usgs) {
-    return statePlaneZone(type, usgs, [](StateZoneType zone) {
+    return statePlaneZone(type, usgs, [type](StateZoneType zone) {
         int code = 0;
         ProjGetStateZoneInfo(zone, nullptr, &code);
-        return code;
+        return isCorrected(type, zone) ? 0 : code;
     });
+}
+
+/// A zone of 1927 is in US survey feet, one of 1983 in metres.
+Zone onItsDatum(PROJDATA const& record) {
+    return record.Type == ProjTypeStatePlane1927 ? Zone{record, nad27, unitUSFoot} : Zone{record, nad83, unitMetre};
 }
 
 std::optional<Zone> utmZone(std::uint16_t code) {
@@ -80,9 +109,12 @@ std::optional<Zone> zoneOfSystem(std::uint16_t code) {
     if (auto const zone = utmZone(code))
         return zone;
     if (auto const record = statePlaneOfPosc(ProjTypeStatePlane1927, code))
-        return Zone{*record, nad27, unitUSFoot};
+        return onItsDatum(*record);
     if (auto const record = statePlaneOfPosc(ProjTypeStatePlane1983, code))
-        return Zone{*record, nad83};
+        return onItsDatum(*record);
+    auto const corrected = std::ranges::find(correctedZones, code, &Corrected::code);
+    if (corrected != correctedZones.end())
+        return onItsDatum(*statePlaneRecord(corrected->type, corrected->zone));
     auto const row = std::ranges::find(statePlaneTable, code, &StatePlaneRow::code);
     if (row == statePlaneTable.end())
         return std::nullopt;
@@ -97,9 +129,9 @@ std::optional<Zone> zoneOfProjection(std::uint16_t code) {
     if (code <= 10000 || code >= 16000)
         return std::nullopt;
     if (auto const record = statePlaneOfUsgs(ProjTypeStatePlane1927, code - 10000))
-        return Zone{*record, nad27, unitUSFoot};
+        return onItsDatum(*record);
     if (auto const record = statePlaneOfUsgs(ProjTypeStatePlane1983, code - 10030))
-        return Zone{*record, nad83};
+        return onItsDatum(*record);
     return std::nullopt;
 }
 

@@ -1,7 +1,7 @@
 #!/usr/bin/env python3
 """Prints the code tables of src/files from the EPSG registry as PROJ's database holds it.
 
-    python3 make_tables.py ellipsoids|geographic|utm|feet [proj.db]
+    python3 make_tables.py ellipsoids|geographic|utm|feet|grids [proj.db]
 
 ellipsoids: every ellipsoid: its code, semi-major axis in metres and inverse flattening (0 for a sphere).
 
@@ -9,6 +9,7 @@ geographic: every system of longitude and latitude in degrees from Greenwich: it
 utm: every projected system that is a UTM zone in metres, consecutive codes of consecutive zones in one row.
 feet: the State Plane systems of 1983 and its realizations that have a code of their own, by the code of the plain system
 in metres, where both have the same parameters.
+grids: chosen projected systems with their parameters in degrees and metres.
 """
 import re
 import sqlite3
@@ -62,7 +63,7 @@ def parameters(code):
     row = db.execute("""
         select v.* from projected_crs p join conversion_table v on v.auth_name = p.conversion_auth_name
         and v.code = p.conversion_code where p.auth_name = 'EPSG' and p.code = ?""", (code,)).fetchone()
-    if not row or row[5] not in (9801, 9802, 9807, 9812, 9815):
+    if not row or row[5] not in (9801, 9802, 9804, 9805, 9807, 9810, 9812, 9815, 9818, 9820, 9822, 9829):
         return None
     result = [row[5]]
     for i in range(6, 6 + 7 * 5, 5):
@@ -104,7 +105,43 @@ def feet():
     return rows
 
 
-if sys.argv[1] == "ellipsoids":
+# State Plane zones whose definition was later corrected under another number, then grids of countries and continents.
+GRIDS = [26747, 26979, 32018, 32029, 32036,
+         2100, 2154, 2157, 2180, 2193, 3005, 3006, 3031, 3034, 3035, 3067, 3078, 3081, 3083, 3112, 3174, 3310, 3338, 3347,
+         3395, 3413, 3577, 3763, 3765, 3812, 3976, 3978, 3979, 3995, 3996, 5070, 5180, 5181, 5186, 5880, 6350, 6372,
+         6931, 6932, 21781, 2056, 2326, 22523, 23700, 25884, 27700, 29101, 29902, 29903, 31254, 31255,
+         31256, 31257, 31258, 31259, 31287, 31370, 31466, 31467, 31468, 31469, 32181, 32182, 32183, 32184, 32185,
+         32186, 32187, 32188, 32189, 32190, 32191, 32192, 32193, 32194, 32195, 32196, 32197, 32198]
+TRANSFORMATIONS = {9807: 1, 9812: 3, 9804: 7, 9805: 7, 9802: 8, 9801: 9, 9820: 10, 9822: 11, 9810: 15, 9829: 15, 9818: 22,
+                   9815: 9815}
+# Which parameter a code of the registry is.
+MEANINGS = {8801: "lat", 8811: "lat", 8821: "lat", 8832: "lat", 8802: "lon", 8812: "lon", 8822: "lon", 8833: "lon",
+            8823: "p1", 8824: "p2", 8805: "k", 8815: "k", 8806: "e", 8816: "e", 8826: "e", 8807: "n", 8817: "n", 8827: "n",
+            8813: "azimuth", 8814: "angle"}
+
+
+def grids():
+    known = {row[0] for row in geographic()}
+    for code in sorted(GRIDS):
+        gcs, name, unit = db.execute("""
+            select cast(p.geodetic_crs_code as int), p.name, cast(a.uom_code as int) from projected_crs p
+            join axis a on a.coordinate_system_auth_name = p.coordinate_system_auth_name
+            and a.coordinate_system_code = p.coordinate_system_code where p.auth_name = 'EPSG' and p.code = ?""",
+                                     (code,)).fetchone() or (0, "", 0)
+        method, *values = parameters(code) or [None]
+        if method not in TRANSFORMATIONS or gcs not in known:
+            print(f"left out: {code} {name}", file=sys.stderr)
+            continue
+        value = {"lat": 0, "lon": 0, "p1": 0, "p2": 0, "k": 1, "e": 0, "n": 0, "azimuth": 0, "angle": 0}
+        value.update((MEANINGS[key], number) for key, number in values)
+        yield code, gcs, unit, TRANSFORMATIONS[method], value, name
+
+
+if sys.argv[1] == "grids":
+    for code, gcs, unit, method, value, name in grids():
+        print(f"    GridRow{{{code}, {gcs}, {unit}, {method}, {{" + ", ".join(f"{v:.15g}" for v in value.values())
+              + f"}}}}, // {name}")
+elif sys.argv[1] == "ellipsoids":
     for code, a, inverse, name in ellipsoids():
         print(f"    EllipsoidCodeRow{{{code}, {a:.15g}, {inverse:.15g}}}, // {name}")
 elif sys.argv[1] == "geographic":
