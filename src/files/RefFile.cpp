@@ -55,7 +55,7 @@ void settleControls(GEOREF& georef) {
 std::uint32_t contents(MapRecord const& record) {
     bool const coefficients = record.georef.Method == TransformMethodPrecalculatedAffineCoefficients;
     return (record.projection.Type != ProjTypeUndefined ? RefFileFlagProjection : 0u) |
-           (record.datum != noDatum ? RefFileFlagDatum : 0u) | (coefficients ? RefFileFlagCoefficients : 0u) |
+           (record.datum != DatumTypeNone ? RefFileFlagDatum : 0u) | (coefficients ? RefFileFlagCoefficients : 0u) |
            (record.georef.nControls > 0 ? RefFileFlagControls : 0u);
 }
 

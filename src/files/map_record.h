@@ -7,8 +7,6 @@
 
 namespace ZrProj {
 
-constexpr auto noDatum = static_cast<DatumType>(237);
-
 /// The parts that a map lacks have the type 999, the datum 237 and the method 12.
 struct MapRecord {
     PROJDATA projection;
@@ -20,7 +18,7 @@ struct MapRecord {
 inline MapRecord emptyMapRecord() {
     MapRecord record = {};
     record.projection.Type = ProjTypeUndefined;
-    record.datum = noDatum;
+    record.datum = DatumTypeNone;
     record.georef.Method = TransformMethodNone;
     return record;
 }

@@ -115,7 +115,7 @@ bool writeDatum(void const* field, std::string& text) {
 }
 
 void readDatum(void* field, std::string_view text) {
-    DatumType datum = noDatum;
+    DatumType datum = DatumTypeNone;
     DatGetDatumFromName(&datum, std::string(trimBlanks(text)).c_str());
     setField(field, datum);
 }

@@ -49,7 +49,7 @@ bool applies(ReferenceKey const& row, MapRecord const& record) {
     case Section::Projection:
         return applies(row, record.projection);
     case Section::Datum:
-        return record.datum != noDatum &&
+        return record.datum != DatumTypeNone &&
                (row.usage == 0 || uses(datumUsage, record.datumParameters.Method, row.usage));
     case Section::Georef:
         return record.georef.Method != TransformMethodNone &&
