@@ -1,21 +1,22 @@
 // The exported functions that read GeoTIFF tags.
 #include "files/GeoTIFFPlacement.h"
 #include "files/GeoTIFFSystem.h"
+#include "files/guarded.h"
+#include "files/map_record.h"
 #include "host/fpenv.h"
 
 #include <zrproj/geotiff.h>
+#include <zrproj/reffile.h>
 
 #include <algorithm>
 #include <cstddef>
-#include <cstring>
-#include <new>
 
 namespace ZrProj {
 namespace {
 
 using namespace GeoTIFF;
 
-enum Flag : std::uint32_t { hasProjection = 1, hasDatum = 2, hasCoefficients = 4, hasControls = 8, wasRead = 16 };
+constexpr char sourceFile[] = ".\\GeoTIFF.cpp";
 
 /// What tags say: each part, or why it cannot be read.
 struct Contents {
@@ -34,18 +35,15 @@ Outcome<Contents> contentsOf(ZrBitmapTagList const& tags) {
 }
 
 void reset(PROJDATA* data, DatumType* datum, DATUM2WGS84* params, GEOREF* georef, std::uint32_t* flags) {
-    if (data) {
-        std::memset(data, 0, sizeof *data);
-        data->Type = ProjTypeUndefined;
-    }
+    MapRecord const empty = emptyMapRecord();
+    if (data)
+        *data = empty.projection;
     if (datum)
-        *datum = DatumTypeNone;
+        *datum = empty.datum;
     if (params)
-        std::memset(params, 0, sizeof *params);
-    if (georef) {
-        *georef = {};
-        georef->Method = TransformMethodNone;
-    }
+        *params = empty.datumParameters;
+    if (georef)
+        *georef = empty.georef;
     if (flags)
         *flags = 0;
 }
@@ -54,13 +52,13 @@ std::uint32_t store(System const& system, PROJDATA* data, DatumType* datum, DATU
     std::uint32_t flags = 0;
     if (data) {
         *data = system.projection;
-        flags |= hasProjection;
+        flags |= RefFileFlagProjection;
     }
     if (system.geographic.datum == DatumTypeNone)
         return flags;
     if (datum) {
         *datum = system.geographic.datum;
-        flags |= hasDatum;
+        flags |= RefFileFlagDatum;
     }
     if (params)
         *params = system.geographic.params;
@@ -75,14 +73,14 @@ std::optional<std::uint32_t> store(Placement const& placement, GEOREF* georef) {
         auto const& [A, B, C, D, E, F] = *placement.coefficients;
         georef->Method = TransformMethodPrecalculatedAffineCoefficients;
         georef->A = A, georef->B = B, georef->C = C, georef->D = D, georef->E = E, georef->F = F;
-        return hasCoefficients;
+        return RefFileFlagCoefficients;
     }
     if (!RefAllocControls(georef, static_cast<int>(placement.points.size())))
         return std::nullopt;
     std::ranges::transform(placement.points, georef->pSource, &TiePoint::pixel);
     std::ranges::transform(placement.points, georef->pTarget, &TiePoint::map);
     georef->Method = TransformMethodAffinePolynomial;
-    return hasControls;
+    return RefFileFlagControls;
 }
 
 bool readTags(ZrBitmapTagList const& tags, PROJDATA* data, DatumType* datum, DATUM2WGS84* params, GEOREF* georef,
@@ -98,7 +96,7 @@ bool readTags(ZrBitmapTagList const& tags, PROJDATA* data, DatumType* datum, DAT
         found |= store(*contents->system, data, datum, params);
     bool const hasPlacement = tags.Find(tagPixelScale) || tags.Find(tagTiePoints) || tags.Find(tagTransformation);
     if (flags)
-        *flags = contents->hasKeys || hasPlacement ? found | wasRead : 0;
+        *flags = contents->hasKeys || hasPlacement ? found | RefFileFlagRead : 0;
     return true;
 }
 
@@ -124,24 +122,20 @@ std::string explanationOf(ZrBitmapTagList const& tags) {
 bool ZrProjGetGeoTIFF(ZrBitmapTagList const& tags, PROJDATA* data, DatumType* datum, DATUM2WGS84* params,
                       GEOREF* georef, std::uint32_t* flags) {
     reset(data, datum, params, georef, flags);
-    try {
+    return guarded(sourceFile, [&] {
         return withDefaultFloatingPoint([&] { return readTags(tags, data, datum, params, georef, flags); });
-    } catch (std::bad_alloc const&) {
-        return false;
-    }
+    });
 }
 
 bool ZrProjExplainGeoTIFF(ZrBitmapTagList const& tags, char* message, int size) {
     if (!message || size < 1)
         return false;
     *message = '\0';
-    try {
+    return guarded(sourceFile, [&] {
         std::string const text = withDefaultFloatingPoint([&] { return explanationOf(tags); });
         message[text.copy(message, static_cast<std::size_t>(size) - 1)] = '\0';
         return true;
-    } catch (std::bad_alloc const&) {
-        return false;
-    }
+    });
 }
 
 } // namespace ZrProj

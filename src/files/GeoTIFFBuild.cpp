@@ -1,6 +1,7 @@
 // The exported functions that make GeoTIFF tags.
 #include "files/GeoTIFFPlacement.h"
 #include "files/GeoTIFFSystem.h"
+#include "files/guarded.h"
 #include "host/fpenv.h"
 
 #include <zrproj/geotiff.h>
@@ -15,6 +16,8 @@ namespace ZrProj {
 namespace {
 
 using namespace GeoTIFF;
+
+constexpr char sourceFile[] = ".\\GeoTIFF.cpp";
 
 /// The contents of all tags; what is not to be written is empty.
 struct Contents {
@@ -99,12 +102,10 @@ bool ZrProjBuildGeoTIFFTags(PROJDATA const* data, DatumType datum, DATUM2WGS84 c
         *count = 0;
     if (!tags || !count)
         return false;
-    try {
+    return guarded(sourceFile, [&] {
         auto const contents = withDefaultFloatingPoint([&] { return contentsOf(data, datum, params, georef); });
         return contents && build(*contents, tags, count);
-    } catch (std::bad_alloc const&) {
-        return false;
-    }
+    });
 }
 
 void ZrProjDiscardGeoTIFFTags(ZrBitmapTag* tags, int) {
@@ -116,13 +117,11 @@ bool ZrProjExplainGeoTIFFTags(PROJDATA const* data, DatumType datum, DATUM2WGS84
     if (!message || size < 1)
         return false;
     *message = '\0';
-    try {
+    return guarded(sourceFile, [&] {
         auto const contents = withDefaultFloatingPoint([&] { return contentsOf(data, datum, params, georef); });
         message[contents.reason().copy(message, static_cast<std::size_t>(size) - 1)] = '\0';
         return true;
-    } catch (std::bad_alloc const&) {
-        return false;
-    }
+    });
 }
 
 } // namespace ZrProj
