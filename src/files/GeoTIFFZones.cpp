@@ -10,7 +10,8 @@ namespace ZrProj::GeoTIFF {
 namespace {
 
 constexpr std::uint16_t nad27 = 4267, nad83 = 4269;
-/// Zones whose catalogue number means another, earlier definition, by the number that they have now.
+/// Zones whose catalogue number means another definition, by the number that theirs has; 0 where it has none. (The old
+/// zones of Michigan stand in the registry on an ellipsoid of their own.)
 struct Corrected {
     std::uint16_t code;
     ProjType type;
@@ -18,6 +19,9 @@ struct Corrected {
 };
 
 constexpr std::array correctedZones{
+    Corrected{0, ProjTypeStatePlane1927, StateZoneTypeMichiganEastOld},
+    Corrected{0, ProjTypeStatePlane1927, StateZoneTypeMichiganCentralOld},
+    Corrected{0, ProjTypeStatePlane1927, StateZoneTypeMichiganWestOld},
     Corrected{26799, ProjTypeStatePlane1927, StateZoneTypeCaliforniaVII},
     Corrected{4456, ProjTypeStatePlane1927, StateZoneTypeNewYorkLongIsland},
     Corrected{2204, ProjTypeStatePlane1927, StateZoneTypeTennessee},

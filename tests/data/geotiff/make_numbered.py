@@ -10,9 +10,10 @@ import glob
 import os
 import re
 
-from osgeo import osr
+from osgeo import gdal, osr
 
 osr.UseExceptions()
+gdal.SetConfigOption("OSR_USE_NON_DEPRECATED", "NO")  # a number means what it meant
 here = os.path.dirname(os.path.abspath(__file__))
 source = os.path.join(here, "..", "..", "..", "src")
 
@@ -51,6 +52,9 @@ for code in sorted(codes - {0}):
     west, east = area.west_lon_degree, area.east_lon_degree
     lon = west + ((east - west) % 360) / 2
     lon -= 360 if lon > 180 else 0
+    if system.GetAttrValue("PROJECTION") == "Transverse_Mercator":  # the middle of its area may be far from its meridian
+        middle = system.GetProjParm("central_meridian")
+        lon = min(max(lon, middle - 2.5), middle + 2.5)
     lon, lat = round(lon, 2), round((area.south_lat_degree + area.north_lat_degree) / 2, 2)
     try:
         x, y, _ = osr.CoordinateTransformation(own, system).TransformPoint(lon, lat)

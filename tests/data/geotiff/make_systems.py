@@ -17,6 +17,7 @@ from osgeo import gdal, osr
 
 gdal.UseExceptions()
 osr.UseExceptions()
+gdal.SetConfigOption("OSR_USE_NON_DEPRECATED", "NO")  # a number means what it meant
 
 # The definition, and a longitude and latitude in the middle of where it is used, or the reason of a refusal.
 SYSTEMS = [
