@@ -14,7 +14,7 @@ struct EllipsoidCodeRow {
 };
 
 // clang-format off
-inline constexpr std::array ellipsoidCodeTable{
+inline constexpr auto ellipsoidCodeTable = std::to_array<EllipsoidCodeRow>({
     EllipsoidCodeRow{1024, 6378137, 298.257222101}, // CGCS2000
     EllipsoidCodeRow{1025, 6378136.5, 298.2564151}, // GSK-2011
     EllipsoidCodeRow{1026, 6376045, 310}, // Zach 1812
@@ -70,7 +70,7 @@ inline constexpr std::array ellipsoidCodeTable{
     EllipsoidCodeRow{7057, 6371228, 0}, // International 1924 Authalic Sphere
     EllipsoidCodeRow{7058, 6378273, 298.279411123064}, // Hughes 1980
     EllipsoidCodeRow{7059, 6378137, 0}, // Popular Visualisation Sphere
-};
+});
 // clang-format on
 
 } // namespace ZrProj

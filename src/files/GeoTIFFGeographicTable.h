@@ -14,7 +14,7 @@ struct GeographicRow {
 };
 
 // clang-format off
-inline constexpr std::array geographicTable{
+inline constexpr auto geographicTable = std::to_array<GeographicRow>({
     GeographicRow{3819, 1024, 7004}, // HD1909
     GeographicRow{3821, 1025, 7050}, // TWD67
     GeographicRow{3824, 1026, 7019}, // TWD97
@@ -599,7 +599,7 @@ inline constexpr std::array geographicTable{
     GeographicRow{9990, 1322, 7019}, // ITRF2020
     GeographicRow{20033, 1324, 7019}, // MWC18-IRF
     GeographicRow{20041, 1327, 7019}, // SIRGAS-Chile 2021
-};
+});
 // clang-format on
 
 } // namespace ZrProj

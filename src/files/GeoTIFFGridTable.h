@@ -19,7 +19,7 @@ struct GridRow {
 };
 
 // clang-format off
-inline constexpr std::array gridTable{
+inline constexpr auto gridTable = std::to_array<GridRow>({
     GridRow{2056, 4150, 9001, 9815, {46.9524055555556, 7.43958333333333, 0, 0, 1, 2600000, 1200000, 90, 90}}, // CH1903+ / LV95
     GridRow{2100, 4121, 9001, 1, {0, 24, 0, 0, 0.9996, 500000, 0, 0, 0}}, // GGRS87 / Greek Grid
     GridRow{2154, 4171, 9001, 8, {46.5, 3, 49, 44, 1, 700000, 6600000, 0, 0}}, // RGF93 v1 / Lambert-93
@@ -107,7 +107,7 @@ inline constexpr std::array gridTable{
     GridRow{32196, 4269, 9001, 1, {0, -93, 0, 0, 0.9999, 304800, 0, 0, 0}}, // NAD83 / MTM zone 16
     GridRow{32197, 4269, 9001, 1, {0, -96, 0, 0, 0.9999, 304800, 0, 0, 0}}, // NAD83 / MTM zone 17
     GridRow{32198, 4269, 9001, 8, {44, -68.5, 60, 46, 1, 0, 0, 0, 0}}, // NAD83 / Quebec Lambert
-};
+});
 // clang-format on
 
 } // namespace ZrProj::GeoTIFF

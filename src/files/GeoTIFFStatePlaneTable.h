@@ -16,7 +16,7 @@ struct StatePlaneRow {
 };
 
 // clang-format off
-inline constexpr std::array statePlaneTable{
+inline constexpr auto statePlaneTable = std::to_array<StatePlaneRow>({
     StatePlaneRow{2222, 26948, 9002, 4269}, // NAD83 / Arizona East (ft)
     StatePlaneRow{2223, 26949, 9002, 4269}, // NAD83 / Arizona Central (ft)
     StatePlaneRow{2224, 26950, 9002, 4269}, // NAD83 / Arizona West (ft)
@@ -796,7 +796,7 @@ inline constexpr std::array statePlaneTable{
     StatePlaneRow{26868, 32104, 9003, 4759}, // NAD83(NSRS2007) / Nebraska (ftUS)
     StatePlaneRow{26869, 32150, 9003, 4759}, // NAD83(NSRS2007) / West Virginia North (ftUS)
     StatePlaneRow{26870, 32151, 9003, 4759}, // NAD83(NSRS2007) / West Virginia South (ftUS)
-};
+});
 // clang-format on
 
 } // namespace ZrProj

@@ -15,7 +15,7 @@ struct UtmRow {
 };
 
 // clang-format off
-inline constexpr std::array utmTable{
+inline constexpr auto utmTable = std::to_array<UtmRow>({
     UtmRow{2027, 2030, 15, false, 4608}, // NAD27(76)
     UtmRow{2031, 2035, 17, false, 4609}, // NAD27(CGQ77)
     UtmRow{2037, 2038, 19, false, 4140}, // NAD83(CSRS98)
@@ -306,7 +306,7 @@ inline constexpr std::array utmTable{
     UtmRow{32501, 32560, 1, true, 4324}, // WGS 72BE
     UtmRow{32601, 32660, 1, false, 4326}, // WGS 84
     UtmRow{32701, 32760, 1, true, 4326}, // WGS 84
-};
+});
 // clang-format on
 
 } // namespace ZrProj

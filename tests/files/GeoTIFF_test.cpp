@@ -152,8 +152,9 @@ TEST(GeoTIFF, EveryStateZoneAndEveryUtmZoneComesBackAsItself) {
 
 TEST(GeoTIFF, FeetBecomeScaleWithTheFalseOriginInMetres) {
     ZrBitmapTagList tags;
-    addShorts(tags, 34735, {1, 1, 0, 8, 1024, 0, 1, 1, 2048, 0, 1, 4269, 3072, 0, 1, 32767, 3074, 0, 1, 32767,
-                            3075, 0, 1, 1, 3076, 0, 1, 9003, 3080, 34736, 1, 0, 3082, 34736, 1, 1});
+    addShorts(tags, 34735,
+              {1, 1,     0,    8, 1024, 0, 1,    1, 2048, 0,    1,    4269,  3072, 0, 1,    32767, 3074, 0,
+               1, 32767, 3075, 0, 1,    1, 3076, 0, 1,    9003, 3080, 34736, 1,    0, 3082, 34736, 1,    1});
     addDoubles(tags, 34736, {-90, 1640416.666666667});
     Read const read(tags);
     EXPECT_EQ(read.flags, 19u);
@@ -166,8 +167,9 @@ TEST(GeoTIFF, FeetBecomeScaleWithTheFalseOriginInMetres) {
 
 TEST(GeoTIFF, GradsAndSizesOfTheFilesOwnAreHonoured) {
     ZrBitmapTagList tags;
-    addShorts(tags, 34735, {1, 1, 0, 9, 1024, 0, 1, 1, 2054, 0, 1, 9105, 2056, 0, 1, 7011, 3072, 0, 1, 32767,
-                            3075, 0, 1, 1, 3076, 0, 1, 32767, 3077, 34736, 1, 0, 3081, 34736, 1, 1, 3083, 34736, 1, 2});
+    addShorts(tags, 34735,
+              {1,    1, 0, 9, 1024, 0, 1, 1,     2054, 0,     1, 9105, 2056, 0,     1, 7011, 3072, 0,     1, 32767,
+               3075, 0, 1, 1, 3076, 0, 1, 32767, 3077, 34736, 1, 0,    3081, 34736, 1, 1,    3083, 34736, 1, 2});
     addDoubles(tags, 34736, {20, 50, 100});
     Read const read(tags);
     EXPECT_EQ(read.flags, 17u); // an ellipsoid is no datum
@@ -187,7 +189,8 @@ TEST(GeoTIFF, PixelsCountFromTheCorner) {
         addDoubles(tags, 33922, tie);
         return tags;
     };
-    std::vector<double> const tie{10, 20, 0, 1000, 2000, 0}, matrix{2, 1, 0, 100, 3, -4, 0, 200, 0, 0, 0, 0, 0, 0, 0, 1};
+    std::vector<double> const tie{10, 20, 0, 1000, 2000, 0},
+        matrix{2, 1, 0, 100, 3, -4, 0, 200, 0, 0, 0, 0, 0, 0, 0, 1};
     expectCoefficients(Read(placed(1, 33550, {2, 4, 0}, tie)).georef, {2, 0, 980, 0, -4, 2080});
     expectCoefficients(Read(placed(2, 33550, {2, 4, 0}, tie)).georef, {2, 0, 979, 0, -4, 2082});
     expectCoefficients(Read(placed(1, 34264, matrix, tie)).georef, {2, 1, 100, 3, -4, 200});
@@ -228,16 +231,16 @@ TEST(GeoTIFF, PlacementsThatPlaceNothingAreNotRead) {
 
 TEST(GeoTIFF, DamagedDirectoriesAreRefusedWhole) {
     using Shorts = std::vector<std::uint16_t>;
-    for (Shorts const& directory : std::vector<Shorts>{
-             {1, 1, 0},                                                    // cut short
-             {2, 1, 0, 0},                                                 // another version
-             {1, 1, 0, 65535, 1024, 0, 1, 1},                              // more keys than there are
-             {1, 1, 0, 1, 3082, 34736, 1, 2},                              // a number outside
-             {1, 1, 0, 1, 3082, 34736, 65535, 1},                          // numbers outside
-             {1, 1, 0, 1, 3082, 34736, 1, 1},                              // not a number
-             {1, 1, 0, 1, 1026, 34737, 9, 0},                              // a text that goes on beyond the end
-             {1, 1, 0, 1, 1026, 34735, 1, 0},                              // a tag that holds no values
-             {1, 1, 0, 2, 1024, 0, 1, 1, 1024, 0, 1, 2}}) {                // two keys that contradict each other
+    for (Shorts const& directory :
+         std::vector<Shorts>{{1, 1, 0},                                     // cut short
+                             {2, 1, 0, 0},                                  // another version
+                             {1, 1, 0, 65535, 1024, 0, 1, 1},               // more keys than there are
+                             {1, 1, 0, 1, 3082, 34736, 1, 2},               // a number outside
+                             {1, 1, 0, 1, 3082, 34736, 65535, 1},           // numbers outside
+                             {1, 1, 0, 1, 3082, 34736, 1, 1},               // not a number
+                             {1, 1, 0, 1, 1026, 34737, 9, 0},               // a text that goes on beyond the end
+                             {1, 1, 0, 1, 1026, 34735, 1, 0},               // a tag that holds no values
+                             {1, 1, 0, 2, 1024, 0, 1, 1, 1024, 0, 1, 2}}) { // two keys that contradict each other
         ZrBitmapTagList tags;
         addShorts(tags, 34735, directory);
         addDoubles(tags, 34736, {1, nan});
@@ -307,14 +310,15 @@ TEST(GeoTIFF, DatumsSurviveTheWayToTagsAndBack) {
 
 TEST(GeoTIFF, RefusesRecordsThatTagsCannotSay) {
     PROJDATA const wgs = utm(9);
-    for (ProjType type : {ProjTypeMollweide, ProjTypeBonne, ProjTypeEckertIV, ProjTypeEckertVI, ProjTypeRobinsonSterling}) {
+    for (ProjType type :
+         {ProjTypeMollweide, ProjTypeBonne, ProjTypeEckertIV, ProjTypeEckertVI, ProjTypeRobinsonSterling}) {
         PROJDATA record = recordOf(type, EllipsoidTypeWgs84);
         record.Lat1 = 30;
         EXPECT_NE(Made(record, DatumTypeNone).refusal.find("no name for the projection"), std::string::npos);
     }
-    EXPECT_NE(Made(wgs, DatumTypeNorthAmericanDatum1927).refusal, "");       // another ellipsoid
-    EXPECT_NE(Made(wgs, static_cast<DatumType>(222)).refusal, "");           // from Paris
-    EXPECT_NE(Made(wgs, DatumTypeUserDefined).refusal, "");                  // without its parameters
+    EXPECT_NE(Made(wgs, DatumTypeNorthAmericanDatum1927).refusal, ""); // another ellipsoid
+    EXPECT_NE(Made(wgs, static_cast<DatumType>(222)).refusal, "");     // from Paris
+    EXPECT_NE(Made(wgs, DatumTypeUserDefined).refusal, "");            // without its parameters
     EXPECT_NE(Made(recordOf(ProjTypeUnprojectedLatLong, EllipsoidTypeNone), DatumTypeNone).refusal, "");
     EXPECT_NE(Made(recordOf(ProjTypeUndefined, EllipsoidTypeWgs84), DatumTypeWorldGeodeticSystem1984).refusal, "");
     PROJDATA twoPoints = recordOf(ProjTypeHotineObliqueMercator, EllipsoidTypeWgs84);

@@ -1,5 +1,5 @@
-// TIFF files of many coordinate systems: their tags are read into records that convert like the program that wrote them,
-// and written again into tags that read back as the same system.
+// TIFF files of many coordinate systems: their tags are read into records that convert like the program that wrote
+// them, and written again into tags that read back as the same system.
 #include "support/geotiff_cases.h"
 
 #include <zrproj/zrproj.h>
@@ -78,7 +78,8 @@ TEST(GeoTIFFSystems, SurviveBeingWrittenAndReadAgain) {
         std::array<char, 512> reason = {};
         ZrProjExplainGeoTIFFTags(&first.projection, first.datum, &first.params, &first.georef, reason.data(), 512);
         EXPECT_STREQ(reason.data(), "");
-        ASSERT_TRUE(ZrProjBuildGeoTIFFTags(&first.projection, first.datum, &first.params, &first.georef, &tags, &count));
+        ASSERT_TRUE(
+            ZrProjBuildGeoTIFFTags(&first.projection, first.datum, &first.params, &first.georef, &tags, &count));
         ZrBitmapTagList list;
         for (int i = 0; i < count; ++i)
             EXPECT_TRUE(list.Add(tags[i]));
