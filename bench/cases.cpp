@@ -42,6 +42,12 @@ constexpr std::array table{
     Case{"AzimuthalEquidistant", ProjTypeAzimuthalEquidistant, wgs84, {.lon0 = 10, .lat1 = 40}, {-120, 140, -40, 89}, "+proj=aeqd +lat_0=40 +lon_0=10 +ellps=WGS84"},
     Case{"AzimuthalEquidistant/sphere", ProjTypeAzimuthalEquidistant, sphere, {.lon0 = 10, .lat1 = 40}, {-120, 140, -40, 89}, "+proj=aeqd +lat_0=40 +lon_0=10 +R=6370997"},
 };
+
+// da and df are WGS 84's figures less the datum's; a height of 0 is what zrproj takes.
+constexpr std::array datumTable{
+    DatumCase{DatumTypeEuropean1950Mean, {"Molodensky", {}, {}, {}, {-10, 30, 35, 70}, "+proj=molodensky +ellps=intl +dx=-87 +dy=-98 +dz=-121 +da=-251 +df=-1.4192702255886366e-05"}},
+    DatumCase{DatumTypeDhdnBursaWolf, {"BursaWolf", {}, {}, {}, {5, 15, 47, 55}, "+proj=pipeline +step +proj=cart +a=6377397.155 +rf=299.152815351 +step +proj=helmert +x=582 +y=105 +z=414 +rx=1.04 +ry=0.35 +rz=-3.08 +s=8.3 +convention=position_vector +step +inv +proj=cart +ellps=WGS84"}},
+};
 // clang-format on
 
 } // namespace
@@ -65,6 +71,10 @@ PROJDATA Case::record() const {
 
 std::span<Case const> cases() {
     return table;
+}
+
+std::span<DatumCase const> datumCases() {
+    return datumTable;
 }
 
 } // namespace ZrProj::bench

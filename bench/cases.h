@@ -1,6 +1,7 @@
-// What is measured: a record or two of every projection type.
+// What is measured: a record or two of every projection type, and a datum of each method.
 #pragma once
 
+#include <zrproj/datum.h>
 #include <zrproj/projection.h>
 
 #include <span>
@@ -29,5 +30,13 @@ struct Case {
 };
 
 std::span<Case const> cases();
+
+/// From a datum to WGS 84 and back. What a case says of a projection is not looked at.
+struct DatumCase {
+    DatumType datum;
+    Case definition;
+};
+
+std::span<DatumCase const> datumCases();
 
 } // namespace ZrProj::bench

@@ -1,5 +1,5 @@
-// Every projection, both ways, for single points, short arrays and long ones, at each processor level and beside other
-// libraries. A closing table sets zrproj beside each of the others.
+// Every projection and the datum methods, both ways, for single points, short arrays and long ones, at each processor
+// level and beside other libraries. A closing table sets zrproj beside each of the others.
 #include "table.h"
 
 #include <algorithm>
@@ -89,6 +89,14 @@ std::vector<Contender> contendersFor(Case const& definition) {
     return contenders;
 }
 
+std::vector<Contender> contendersFor(DatumCase const& datum) {
+    auto contenders = zrprojDatumContenders(datum.datum);
+#if defined(ZRPROJ_BENCH_PROJ)
+    contenders.push_back(projDatumContender(datum.definition.proj));
+#endif
+    return contenders;
+}
+
 /// Tells when PROJ's definition does not mean the same.
 void compareResults(Group const& group) {
     auto const few = [&](Contender const& contender) {
@@ -100,10 +108,12 @@ void compareResults(Group const& group) {
     for (auto const& peer : group.contenders) {
         if (peer.name != "PROJ")
             continue;
-        Points const ours = few(group.contenders.front()), theirs = few(peer);
+        auto const& our = group.contenders.front();
+        Points const ours = few(our), theirs = few(peer);
         double farthest = 0;
         for (std::size_t i = 0; i < ours.size(); ++i)
-            farthest = std::max(farthest, std::hypot(ours[i].x - theirs[i].x, ours[i].y - theirs[i].y));
+            farthest = std::max(farthest, std::hypot(ours[i].x * our.metres - theirs[i].x * peer.metres,
+                                                     ours[i].y * our.metres - theirs[i].y * peer.metres));
         if (!(farthest < 1))
             std::printf("%s: not quite PROJ's map, up to %.0f m apart\n", group.definition.name, farthest);
     }
@@ -122,6 +132,8 @@ int main(int argc, char** argv) {
     std::vector<Group> groups;
     for (auto const& definition : cases())
         groups.push_back({definition, contendersFor(definition)});
+    for (auto const& datum : datumCases())
+        groups.push_back({datum.definition, contendersFor(datum)});
     for (auto const& group : groups) {
         compareResults(group);
         registerRows(group);

@@ -34,4 +34,10 @@ std::vector<Contender> projContenders(Case const& definition) {
     return contenders;
 }
 
+Contender projDatumContender(std::string const& definition) {
+    auto contender = contenderOf("PROJ", definition);
+    contender.metres = 6371000;
+    return contender;
+}
+
 } // namespace ZrProj::bench

@@ -3,6 +3,7 @@
 #include "formulas/levels.h"
 
 #include <memory>
+#include <numbers>
 
 namespace ZrProj::bench {
 namespace {
@@ -16,26 +17,53 @@ constexpr NamedLevel levels[] = {{formulas::Level::scalar, "scalar"},
                                  {formulas::Level::avx2, "avx2"},
                                  {formulas::Level::avx512, "avx512"}};
 
-Contender contenderAt(NamedLevel const& at, Case const& definition) {
-    auto const before = formulas::levelInUse();
-    formulas::useLevel(at.level);
+Contender contenderOf(Case const& definition) {
     PROJDATA record = definition.record();
     auto const projector = std::make_shared<CProjector>(&record);
-    formulas::useLevel(before);
-    return {.name = at.name,
+    return {.name = {},
             .isOurs = true,
             .forward = [=](PROJPOINT* points, int count) { projector->Forward(points, count); },
             .inverse = [=](PROJPOINT* points, int count) { projector->Inverse(points, count); }};
 }
 
+Contender::Convert conversion(DatumType from, DatumType to) {
+    DATUMXFORM request{};
+    request.Source = from;
+    request.Destination = to;
+    auto const transform = std::make_shared<CDatumTransform>(&request);
+    return [=](PROJPOINT* points, int count) { transform->Convert(reinterpret_cast<DATUMPOINT*>(points), count); };
+}
+
+Contender contenderOf(DatumType datum) {
+    return {.name = {},
+            .isOurs = true,
+            .metres = 6371000 * std::numbers::pi / 180,
+            .forward = conversion(datum, DatumTypeWorldGeodeticSystem1984),
+            .inverse = conversion(DatumTypeWorldGeodeticSystem1984, datum)};
+}
+
+/// One contender for each level that this machine has.
+template <class What> std::vector<Contender> atEachLevel(What const& what) {
+    std::vector<Contender> contenders;
+    auto const before = formulas::levelInUse();
+    for (auto const& at : levels)
+        if (formulas::isAvailable(at.level)) {
+            formulas::useLevel(at.level);
+            contenders.push_back(contenderOf(what));
+            contenders.back().name = at.name;
+        }
+    formulas::useLevel(before);
+    return contenders;
+}
+
 } // namespace
 
 std::vector<Contender> zrprojContenders(Case const& definition) {
-    std::vector<Contender> contenders;
-    for (auto const& level : levels)
-        if (formulas::isAvailable(level.level))
-            contenders.push_back(contenderAt(level, definition));
-    return contenders;
+    return atEachLevel(definition);
+}
+
+std::vector<Contender> zrprojDatumContenders(DatumType datum) {
+    return atEachLevel(datum);
 }
 
 } // namespace ZrProj::bench

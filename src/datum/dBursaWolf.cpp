@@ -48,8 +48,8 @@ struct BursaWolf {
 
     template <class R> Pair<R> geodetic(R X, R Y, R Z) const {
         R const p2 = X * X + Y * Y, p = sqrt(p2), r = sqrt(Z * Z + p2);
-        R const up = Z * (oneLessF + e2a / r), toU = 1.0 / sqrt(up * up + p2); // tan u = up / p
-        R const sinU = up * toU, cosU = p * toU;
+        R const up = Z * (oneLessF * r + e2a), out = p * r; // tan u = up / out
+        R const toU = 1.0 / sqrt(up * up + out * out), sinU = up * toU, cosU = out * toU;
         R const phi = atan2(Z * oneLessF + e2a * sinU * sinU * sinU, oneLessF * (p - e2a * cosU * cosU * cosU));
         return {atan2(Y, X) * (1 / radian), phi * (1 / radian)};
     }
@@ -58,7 +58,7 @@ struct BursaWolf {
 BursaWolf methodOf(DATUM2WGS84 const& record) {
     Figures const own(record.MajorRadius, record.Flattening);
     Figures const wgs84(EllipsoidRadius(EllipsoidTypeWgs84), EllipsoidFlattening(EllipsoidTypeWgs84));
-    double const factor = 1 + record.Scale * 0.000001;
+    double const factor = 1 + record.Scale / 1e6;
     return record.bFromWGS84 ? BursaWolf(record, -1, 1 / factor, wgs84, own) : BursaWolf(record, 1, factor, own, wgs84);
 }
 

@@ -207,7 +207,7 @@ TEST(DatumConversion, PolesAreConvertedInLatitude) {
 
 TEST(DatumConversion, GivesTheRequestBackUnchanged) {
     DATUMXFORM request;
-    std::memset(static_cast<void*>(&request), 0x5A, sizeof request);
+    std::memset(static_cast<void*>(&request), 0x2A, sizeof request);
     request.Source = request.Destination = DatumTypeUserDefined;
     request.SourceParams.Method = DatumMethodMolodensky;
     request.SourceParams.Ellipsoid = EllipsoidTypeClarke1866;
