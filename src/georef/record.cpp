@@ -19,10 +19,17 @@ bool hasControls(GEOREF const& georef) noexcept {
     return georef.pSource && georef.pTarget;
 }
 
-void scaleControls(GEOREF& georef, double sx, double sy) noexcept {
+/// Scales what the record maps from.
+void scaleSource(GEOREF& georef, double sx, double sy) noexcept {
     for (std::int32_t i = 0; i < georef.nControls; ++i) {
         georef.pSource[i].x *= sx;
         georef.pSource[i].y *= sy;
+    }
+    if (georef.Method == TransformMethodPrecalculatedAffineCoefficients) {
+        georef.A /= sx;
+        georef.B /= sy;
+        georef.D /= sx;
+        georef.E /= sy;
     }
 }
 
@@ -36,13 +43,6 @@ bool fitCoefficients(GEOREF& georef) {
     if (map)
         setCoefficients(georef, *map);
     return map.has_value();
-}
-
-void scaleCoefficients(GEOREF& georef, double sx, double sy) noexcept {
-    georef.A /= sx;
-    georef.B /= sy;
-    georef.D /= sx;
-    georef.E /= sy;
 }
 
 } // namespace
@@ -105,12 +105,10 @@ bool RefResize(GEOREF* georef, int oldWidth, int oldHeight, int newWidth, int ne
         return false;
     if (georef->nControls > 0 && !georef->pSource)
         return false;
-    FloatingPointScope const scope;
-    double const sx = static_cast<double>(newWidth) / oldWidth, sy = static_cast<double>(newHeight) / oldHeight;
-    if (georef->Method == TransformMethodPrecalculatedAffineCoefficients)
-        scaleCoefficients(*georef, sx, sy);
-    scaleControls(*georef, sx, sy);
-    return true;
+    return withDefaultFloatingPoint([&] {
+        scaleSource(*georef, static_cast<double>(newWidth) / oldWidth, static_cast<double>(newHeight) / oldHeight);
+        return true;
+    });
 }
 
 } // namespace ZrProj

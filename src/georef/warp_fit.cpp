@@ -122,7 +122,14 @@ bool fitSpline(FittedWarp& fitted, Factorisation const& affine, Controls const& 
         add(y.plane, fitted.warp.y);
         lack = lackOf(fitted.warp, controls);
     }
-    return lack.greatest() <= 1e-9 * size;
+    return lack.greatest() <= 1e-7 * size;
+}
+
+std::vector<GEOREFPOINT> countedFrom(GEOREFPOINT const& centre, std::span<GEOREFPOINT const> points) {
+    std::vector<GEOREFPOINT> result(points.begin(), points.end());
+    for (auto& point : result)
+        point = {point.x - centre.x, point.y - centre.y};
+    return result;
 }
 
 bool isMethod(WarpingMethod method) {
@@ -142,12 +149,13 @@ std::optional<FittedWarp> fitWarp(WarpingMethod method, Controls const& controls
     if (!affine)
         return std::nullopt;
     auto const centre = extentOf(controls.target).centre;
-    fitted.warp.x[0] = centre.x;
-    fitted.warp.y[0] = centre.y;
+    auto const target = countedFrom(centre, controls.target); // small numbers: what is lacking shows in full
     if (method == WarpingMethodInverseDistanceSquared)
-        fitDistances(fitted, *affine, controls);
-    else if (!fitSpline(fitted, *affine, controls))
+        fitDistances(fitted, *affine, {controls.source, target});
+    else if (!fitSpline(fitted, *affine, {controls.source, target}))
         return std::nullopt;
+    fitted.warp.x[0] += centre.x;
+    fitted.warp.y[0] += centre.y;
     return fitted;
 }
 
