@@ -49,6 +49,8 @@ struct CommandRow {
 constexpr std::array commandRows{
     CommandRow{"forward", "Convert longitudes and latitudes to projected coordinates", makeForward},
     CommandRow{"inverse", "Convert projected coordinates to longitudes and latitudes", makeInverse},
+    CommandRow{"info", "Show what side files say of a map or an image", makeInfo},
+    CommandRow{"convert", "Convert side files into each other", makeConvertFile},
     CommandRow{"list", "List projections, parameters, ellipsoids or State Plane zones", makeList},
     CommandRow{"show", "Show the completed parameters of a projection", makeShow},
 };

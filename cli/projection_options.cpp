@@ -1,5 +1,6 @@
 #include "cli/projection_options.h"
 
+#include "cli/map_info.h"
 #include "cli/parameters.h"
 #include "cli/state_plane.h"
 #include "cli/text.h"
@@ -82,6 +83,7 @@ void ProjectionOptions::addTo(CLI::App& app) {
     m_statePlaneOption =
         add("--state-plane", m_statePlane, "ZONE", "US State Plane zone, by name, USGS code or POSC code");
     m_yearOption = add("--year", m_year, "YEAR", "Definition of the State Plane zone: 1927 or 1983 (the default)");
+    m_likeOption = add("--like", m_like, "FILE", "The projection of a map: its reference file, or its image");
     Value& projection = m_values.front();
     projection.option = add("-p,--projection", projection.text, "NAME",
                             "Any projection, by name (a unique part will do) or number, with its parameters");
@@ -128,7 +130,7 @@ void ProjectionOptions::startFromUtm(ProjectionChoice& choice) const {
 
 ProjType ProjectionOptions::givenProjection() const {
     if (!given(projectionId))
-        throw UsageError("no projection; give --utm, --state-plane or --projection");
+        throw UsageError("no projection; give --utm, --state-plane, --projection or --like");
     return findProjection(value(projectionId).text);
 }
 
@@ -186,8 +188,27 @@ void ProjectionOptions::setValues(PROJDATA& record) const {
     }
 }
 
+/// The projection that a file tells, with all of its parameters.
+PROJDATA ProjectionOptions::projectionLike() const {
+    for (CLI::Option const* option : {m_utmOption, m_statePlaneOption, m_yearOption})
+        if (option->count() > 0)
+            throw UsageError(option->get_name() + " has no place beside --like, which tells it");
+    for (Value const& value : m_values)
+        if (given(value.id))
+            throw UsageError(parameter(value.id).option + " has no place beside --like, which tells it");
+    MapInfo const info = readMap(m_like);
+    if (info.projectionFile.empty())
+        throw UsageError("--like: " + inQuotes(m_like) + " tells no projection");
+    return info.projection;
+}
+
 ProjectionChoice ProjectionOptions::choice() const {
     ProjectionChoice choice;
+    if (m_likeOption->count() > 0) {
+        choice.record = projectionLike();
+        check(choice.record);
+        return choice;
+    }
     startFrom(choice);
     refuseUnused(choice.record.Type);
     setEllipsoid(choice.record);

@@ -1,4 +1,5 @@
-// The options that say which projection: by its parameters, or by a UTM or State Plane zone.
+// The options that say which projection: by its parameters, or by a UTM or State Plane zone, or by
+// a file that tells.
 #pragma once
 
 #include <zrproj/zrproj.h>
@@ -39,6 +40,7 @@ private:
         std::string text;
     };
 
+    PROJDATA projectionLike() const;
     void startFrom(ProjectionChoice& choice) const;
     void startFromUtm(ProjectionChoice& choice) const;
     ProjType givenProjection() const;
@@ -53,7 +55,8 @@ private:
     CLI::Option* m_utmOption = nullptr;
     CLI::Option* m_statePlaneOption = nullptr;
     CLI::Option* m_yearOption = nullptr;
-    std::string m_utm, m_statePlane, m_year;
+    CLI::Option* m_likeOption = nullptr;
+    std::string m_utm, m_statePlane, m_year, m_like;
 };
 
 } // namespace ZrProj::Command

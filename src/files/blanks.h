@@ -4,7 +4,6 @@
 #include "host/text.h"
 
 #include <algorithm>
-#include <ranges>
 #include <string_view>
 
 namespace ZrProj {
@@ -25,8 +24,14 @@ constexpr std::string_view trimBlanks(std::string_view text) {
 
 /// How keys and the names of values are compared: neither letter case nor blanks count.
 constexpr bool equalButBlanks(std::string_view a, std::string_view b) {
-    auto const counts = std::views::filter([](char c) { return !isBlank(c); });
-    return std::ranges::equal(a | counts, b | counts, {}, asciiLower, asciiLower);
+    for (;; a.remove_prefix(1), b.remove_prefix(1)) {
+        a = skipBlanks(a);
+        b = skipBlanks(b);
+        if (a.empty() || b.empty())
+            return a.empty() && b.empty();
+        if (asciiLower(a.front()) != asciiLower(b.front()))
+            return false;
+    }
 }
 
 /// Whether the text begins with the other one, letter case ignored.
