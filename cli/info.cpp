@@ -1,8 +1,7 @@
-// zrproj info: what a side file, or the side files of an image, say.
+// zrproj info: what a side file, or the side files and tags of an image, say.
 #include "cli/commands.h"
 #include "cli/map_info.h"
 #include "cli/parameter_rows.h"
-#include "cli/side_files.h"
 
 #include <CLI/CLI.hpp>
 
@@ -91,10 +90,10 @@ std::string partsFrom(std::string const& file, MapInfo const& info) {
     return parts.empty() ? "not used" : "used for " + parts;
 }
 
-void writeSideFiles(Output& output, std::string const& image, MapInfo const& info) {
+void writeSources(Output& output, std::string const& image, MapInfo const& info) {
     Table table{{}, "lll", {}};
-    for (SideFile const& side : sideFilesOf(image))
-        table.rows.push_back({side.name, side.format->title, partsFrom(side.name, info)});
+    for (MapSource const& source : sourcesOf(image))
+        table.rows.push_back({source.name, source.format->title, partsFrom(source.name, info)});
     table.write(output);
     output << '\n';
 }
@@ -102,7 +101,8 @@ void writeSideFiles(Output& output, std::string const& image, MapInfo const& inf
 class Info : public Subcommand {
 public:
     explicit Info(CLI::App& app) {
-        app.add_option("FILE", m_file, "A reference, RSF or world file, or an image that has them")
+        app.add_option("FILE", m_file,
+                       "A reference, RSF or world file, or an image: a TIFF file, or one that has such files")
             ->option_text(" ")
             ->required();
     }
@@ -112,7 +112,7 @@ public:
         if (FileFormat const* const format = formatOf(m_file))
             output << m_file << ": " << format->title << "\n\n";
         else
-            writeSideFiles(output, m_file, info);
+            writeSources(output, m_file, info);
         Table table{{}, "ll", {}};
         if (!info.projectionFile.empty())
             addProjection(table, info.projection);
@@ -120,6 +120,8 @@ public:
             addDatum(table, info);
         if (!info.georefFile.empty())
             addGeoreference(table, *info.georef);
+        for (std::string const& note : info.notes)
+            table.rows.push_back({"Not read", note});
         table.write(output);
         return 0;
     }

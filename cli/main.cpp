@@ -49,8 +49,9 @@ struct CommandRow {
 constexpr std::array commandRows{
     CommandRow{"forward", "Convert longitudes and latitudes to projected coordinates", makeForward},
     CommandRow{"inverse", "Convert projected coordinates to longitudes and latitudes", makeInverse},
-    CommandRow{"info", "Show what side files say of a map or an image", makeInfo},
-    CommandRow{"convert", "Convert side files into each other", makeConvertFile},
+    CommandRow{"locate", "Convert image coordinates to longitudes and latitudes", makeLocate},
+    CommandRow{"info", "Show what side files and tags say of a map or an image", makeInfo},
+    CommandRow{"convert", "Convert side files and TIFF tags into each other", makeConvertFile},
     CommandRow{"list", "List projections, parameters, ellipsoids or State Plane zones", makeList},
     CommandRow{"show", "Show the completed parameters of a projection", makeShow},
 };

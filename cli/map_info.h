@@ -30,7 +30,8 @@ private:
     GEOREF m_record;
 };
 
-/// A part that no file told has an empty file name, the type 999, the datum 237 or the method 12.
+/// Image coordinates count from the upper left corner of the image. A part that no file told has an empty file name,
+/// the type 999, the datum 237 or the method 12.
 struct MapInfo {
     MapInfo() : projection(), datumParameters() { projection.Type = ProjTypeUndefined; }
 
@@ -41,6 +42,7 @@ struct MapInfo {
     DATUM2WGS84 datumParameters;
     Georeference georef;
     std::string projectionFile, datumFile, georefFile;
+    std::vector<std::string> notes; // what files say that no record can hold
 };
 
 /// A kind of file that can tell of a map.
@@ -58,7 +60,20 @@ struct FileFormat {
 /// The format of a file by its name; null where it is none of ours, as for an image.
 FileFormat const* formatOf(std::string const& file);
 
-/// What a file, or an image's side files, say: each part from the first that has it. Throws std::runtime_error.
+struct MapSource {
+    FileFormat const* format;
+    std::string name;
+};
+
+/// What tells of an image: its side files that are there and, for a TIFF file, its tags, in the order in which they
+/// count.
+std::vector<MapSource> sourcesOf(std::string const& image);
+
+/// What a file, or an image's side files and tags, say: each part from the first that has it, the coefficients of a
+/// reference file, which are but one number, after all others. Throws std::runtime_error.
 MapInfo readMap(std::string const& file);
+
+/// Takes from a later file what the earlier ones did not tell.
+void complete(MapInfo& info, MapInfo&& later);
 
 } // namespace ZrProj::Command

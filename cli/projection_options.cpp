@@ -11,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace ZrProj::Command {
 namespace {
@@ -54,6 +55,16 @@ std::string usedOptions(ProjType type) {
 
 bool isStatePlane(ProjType type) {
     return type == ProjTypeStatePlane1927 || type == ProjTypeStatePlane1983;
+}
+
+/// A Scale that stands for a unit of length goes from the record to the coordinates.
+LengthUnit const* takeUnit(PROJDATA& record) {
+    for (LengthUnit const& unit : lengthUnits)
+        if (std::fabs(record.Scale * unit.metres - 1) < 1e-12) {
+            record.Scale = 1;
+            return &unit;
+        }
+    return nullptr;
 }
 
 /// Refuses what the library refuses, in its words.
@@ -188,6 +199,10 @@ void ProjectionOptions::setValues(PROJDATA& record) const {
     }
 }
 
+bool ProjectionOptions::any() const {
+    return m_utmOption->count() + m_statePlaneOption->count() + m_likeOption->count() > 0 || given(projectionId);
+}
+
 /// The projection that a file tells, with all of its parameters.
 PROJDATA ProjectionOptions::projectionLike() const {
     for (CLI::Option const* option : {m_utmOption, m_statePlaneOption, m_yearOption})
@@ -206,6 +221,7 @@ ProjectionChoice ProjectionOptions::choice() const {
     ProjectionChoice choice;
     if (m_likeOption->count() > 0) {
         choice.record = projectionLike();
+        choice.unit = takeUnit(choice.record);
         check(choice.record);
         return choice;
     }

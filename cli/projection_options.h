@@ -2,8 +2,11 @@
 // a file that tells.
 #pragma once
 
+#include "cli/units.h"
+
 #include <zrproj/zrproj.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -18,7 +21,9 @@ namespace ZrProj::Command {
 /// The projection that a command line asks for.
 struct ProjectionChoice {
     PROJDATA record = {};
-    bool zonePerPoint = false; // --utm auto: UTM, the zone being each point's own
+    bool zonePerPoint = false;               // --utm auto: UTM, the zone being each point's own
+    LengthUnit const* unit = nullptr;        // of a file's coordinates; null for metres
+    std::shared_ptr<CGeorefTransform> image; // whose coordinates are given for projected ones; null for none
 };
 
 class ProjectionOptions {
@@ -29,6 +34,9 @@ public:
     /// stay where it is until they were parsed.
     void addTo(CLI::App& app);
     void addParametersTo(CLI::App& app);
+
+    /// Whether there is an option that names a projection.
+    bool any() const;
 
     /// What the options say, checked. Throws UsageError when they are no usable projection.
     ProjectionChoice choice() const;

@@ -36,7 +36,8 @@ mode_t modeOf(std::string const& original) {
 
 } // namespace
 
-ReplacementFile::ReplacementFile(std::string const& original) : m_original(target(original)), m_name(m_original + ".XXXXXX") {
+ReplacementFile::ReplacementFile(std::string const& original)
+    : m_original(target(original)), m_name(m_original + ".XXXXXX") {
     int const descriptor = mkstemp(m_name.data());
     if (descriptor < 0)
         fail(original, errno);

@@ -104,12 +104,24 @@ MapInfo readRsf(std::string const& file) {
     return info;
 }
 
+/// World files say where the centre of the first pixel lies, everything else where its corner does.
+void moveToCorner(GEOREF& coefficients) {
+    coefficients.C -= (coefficients.A + coefficients.B) / 2;
+    coefficients.F -= (coefficients.D + coefficients.E) / 2;
+}
+
+void moveToCentre(GEOREF& coefficients) {
+    coefficients.C += (coefficients.A + coefficients.B) / 2;
+    coefficients.F += (coefficients.D + coefficients.E) / 2;
+}
+
 MapInfo readWorld(std::string const& file) {
     ReadingStage const stage(file, "map.tfW");
     MapInfo info;
     std::uint32_t flags = 0;
     if (!ZrProjReadESRIWorld(stage.image.c_str(), &*info.georef, &flags) || !(flags & RefFileFlagCoefficients))
         refuse(file, "it has fewer than six lines, each ended by a line feed");
+    moveToCorner(*info.georef);
     info.georefFile = file;
     return info;
 }
@@ -196,7 +208,11 @@ Notes writeWorld(std::string const& file, MapInfo const& info) {
         notes.push_back("the control points are fitted by an affine map, which misses them by " + text +
                         " on the average");
     }
-    bool const written = ZrProjWriteESRIWorld(stage.image.c_str(), &*info.georef);
+    GEOREF centred = *info.georef; // its controls stay those of the original
+    if (!hasCoefficients(info) && !RefControlsToCoeff(&centred))
+        throw std::runtime_error("the control points make no affine fit to write to " + inQuotes(file));
+    moveToCentre(centred);
+    bool const written = ZrProjWriteESRIWorld(stage.image.c_str(), &centred);
     moveTo(file, stage, written && std::filesystem::exists(stage.file));
     return notes;
 }
@@ -208,7 +224,7 @@ constexpr std::array formats{
 };
 
 /// The names of an image's side files of each format, in the order in which they are looked for.
-std::vector<SideFile> expectedSideFiles(std::string const& image) {
+std::vector<MapSource> expectedSideFiles(std::string const& image) {
     std::string_view const extension = extensionOf(image);
     std::string const bare = withoutExtension(image);
     std::string const world = extension.size() < 3 ? bare + 'W' : bare + '.' + extension[0] + extension[2] + 'W';
@@ -242,18 +258,18 @@ std::span<FileFormat const> sideFormats() {
     return formats;
 }
 
-std::vector<SideFile> sideFilesOf(std::string const& image) {
-    std::vector<SideFile> const expected = expectedSideFiles(image);
-    std::vector<SideFile> found;
+std::vector<MapSource> sideFilesOf(std::string const& image) {
+    std::vector<MapSource> const expected = expectedSideFiles(image);
+    std::vector<MapSource> found;
     for (FileFormat const& format : formats) {
-        auto const take = [&](SideFile const& file, std::vector<std::string> const& names) {
+        auto const take = [&](MapSource const& file, std::vector<std::string> const& names) {
             for (std::string const& name : names)
                 if (file.format == &format && std::filesystem::is_regular_file(name))
                     found.push_back({&format, name});
         };
-        for (SideFile const& file : expected)
+        for (MapSource const& file : expected)
             take(file, {file.name});
-        for (SideFile const& file : expected)
+        for (MapSource const& file : expected)
             take(file, variantsOf(file.name));
     }
     return found;

@@ -10,13 +10,8 @@ namespace ZrProj::Command {
 /// In the order in which an image's files count.
 std::span<FileFormat const> sideFormats();
 
-struct SideFile {
-    FileFormat const* format;
-    std::string name;
-};
-
 /// The side files of an image that are there, in the order in which they count. Names that differ in the case of their
 /// extension come after the exact ones.
-std::vector<SideFile> sideFilesOf(std::string const& image);
+std::vector<MapSource> sideFilesOf(std::string const& image);
 
 } // namespace ZrProj::Command

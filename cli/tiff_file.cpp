@@ -31,8 +31,8 @@ constexpr std::array geoTags{
 void declareTags(TIFF* file) {
     std::array<TIFFFieldInfo, geoTags.size()> fields = {};
     std::transform(geoTags.begin(), geoTags.end(), fields.begin(), [](TagRow const& tag) {
-        return TIFFFieldInfo{tag.id, TIFF_VARIABLE2, TIFF_VARIABLE2, tag.type, FIELD_CUSTOM, 1, 1,
-                             const_cast<char*>(tag.name)};
+        return TIFFFieldInfo{
+            tag.id, TIFF_VARIABLE2, TIFF_VARIABLE2, tag.type, FIELD_CUSTOM, 1, 1, const_cast<char*>(tag.name)};
     });
     TIFFMergeFieldInfo(file, fields.data(), static_cast<std::uint32_t>(fields.size()));
 }
@@ -89,7 +89,8 @@ TiffImage readTiff(std::string const& name) {
         std::uint32_t count = 0;
         void const* data = nullptr;
         bool const there = TIFFGetField(file.get(), tag.id, &count, &data) == 1;
-        if (there && !image.tags.Add({static_cast<std::uint16_t>(tag.id), static_cast<std::uint16_t>(tag.type), count, data}))
+        if (there &&
+            !image.tags.Add({static_cast<std::uint16_t>(tag.id), static_cast<std::uint16_t>(tag.type), count, data}))
             fail("cannot read tag " + std::to_string(tag.id) + " of " + name);
     }
     return image;
