@@ -24,6 +24,9 @@ std::unique_ptr<Subcommand> makeForward(CLI::App& app);
 std::unique_ptr<Subcommand> makeGrid(CLI::App& app);
 std::unique_ptr<Subcommand> makeGeoref(CLI::App& app);
 std::unique_ptr<Subcommand> makeInverse(CLI::App& app);
+std::unique_ptr<Subcommand> makeConvertFile(CLI::App& app);
+std::unique_ptr<Subcommand> makeInfo(CLI::App& app);
+std::unique_ptr<Subcommand> makeLocate(CLI::App& app);
 std::unique_ptr<Subcommand> makeList(CLI::App& app);
 std::unique_ptr<Subcommand> makeShow(CLI::App& app);
 

@@ -136,11 +136,14 @@ void Conversion::writeHeader(InputLine const& line) {
     m_header = std::move(header);
 }
 
-/// The unit of projected coordinates: what --units says, else the header, else metres.
+/// The unit of projected coordinates: what --units says, else the header, else the file of --like, else
+/// metres.
 LengthUnit const& Conversion::unit() const {
     if (m_job.columns.unit)
         return *m_job.columns.unit;
-    return m_layout.columns.unit ? *m_layout.columns.unit : lengthUnits.front();
+    if (m_layout.columns.unit)
+        return *m_layout.columns.unit;
+    return m_job.projection.unit ? *m_job.projection.unit : lengthUnits.front();
 }
 
 /// Converts the rows gathered, and passes them to the output.

@@ -1,5 +1,6 @@
 #include "cli/projection_options.h"
 
+#include "cli/map_info.h"
 #include "cli/parameters.h"
 #include "cli/state_plane.h"
 #include "cli/text.h"
@@ -10,6 +11,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace ZrProj::Command {
 namespace {
@@ -55,6 +57,16 @@ bool isStatePlane(ProjType type) {
     return type == ProjTypeStatePlane1927 || type == ProjTypeStatePlane1983;
 }
 
+/// A Scale that stands for a unit of length goes from the record to the coordinates.
+LengthUnit const* takeUnit(PROJDATA& record) {
+    for (LengthUnit const& unit : lengthUnits)
+        if (std::fabs(record.Scale * unit.metres - 1) < 1e-12) {
+            record.Scale = 1;
+            return &unit;
+        }
+    return nullptr;
+}
+
 /// Refuses what the library refuses, in its words.
 void check(PROJDATA const& record) {
     std::array<char, 512> message{};
@@ -82,6 +94,7 @@ void ProjectionOptions::addTo(CLI::App& app) {
     m_statePlaneOption =
         add("--state-plane", m_statePlane, "ZONE", "US State Plane zone, by name, USGS code or POSC code");
     m_yearOption = add("--year", m_year, "YEAR", "Definition of the State Plane zone: 1927 or 1983 (the default)");
+    m_likeOption = add("--like", m_like, "FILE", "The projection of a map: its reference file, or its image");
     Value& projection = m_values.front();
     projection.option = add("-p,--projection", projection.text, "NAME",
                             "Any projection, by name (a unique part will do) or number, with its parameters");
@@ -128,7 +141,7 @@ void ProjectionOptions::startFromUtm(ProjectionChoice& choice) const {
 
 ProjType ProjectionOptions::givenProjection() const {
     if (!given(projectionId))
-        throw UsageError("no projection; give --utm, --state-plane or --projection");
+        throw UsageError("no projection; give --utm, --state-plane, --projection or --like");
     return findProjection(value(projectionId).text);
 }
 
@@ -190,8 +203,32 @@ void ProjectionOptions::setValues(PROJDATA& record) const {
     }
 }
 
+bool ProjectionOptions::any() const {
+    return m_utmOption->count() + m_statePlaneOption->count() + m_likeOption->count() > 0 || given(projectionId);
+}
+
+/// The projection that a file tells, with all of its parameters.
+PROJDATA ProjectionOptions::projectionLike() const {
+    for (CLI::Option const* option : {m_utmOption, m_statePlaneOption, m_yearOption})
+        if (option->count() > 0)
+            throw UsageError(option->get_name() + " has no place beside --like, which tells it");
+    for (Value const& value : m_values)
+        if (given(value.id))
+            throw UsageError(parameter(value.id).option + " has no place beside --like, which tells it");
+    MapInfo const info = readMap(m_like);
+    if (info.projectionFile.empty())
+        throw UsageError("--like: " + inQuotes(m_like) + " tells no projection");
+    return info.projection;
+}
+
 ProjectionChoice ProjectionOptions::choice(Figure const& standard) const {
     ProjectionChoice choice;
+    if (m_likeOption->count() > 0) {
+        choice.record = projectionLike();
+        choice.unit = takeUnit(choice.record);
+        check(choice.record);
+        return choice;
+    }
     startFrom(choice);
     refuseUnused(choice.record.Type);
     setEllipsoid(choice.record, standard);

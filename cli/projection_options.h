@@ -1,10 +1,13 @@
-// The options that say which projection: by its parameters, or by a UTM or State Plane zone.
+// The options that say which projection: by its parameters, or by a UTM or State Plane zone, or by
+// a file that tells.
 #pragma once
 
 #include "cli/datums.h"
+#include "cli/units.h"
 
 #include <zrproj/zrproj.h>
 
+#include <memory>
 #include <optional>
 #include <string>
 #include <vector>
@@ -19,7 +22,9 @@ namespace ZrProj::Command {
 /// The projection that a command line asks for.
 struct ProjectionChoice {
     PROJDATA record = {};
-    bool zonePerPoint = false; // --utm auto: UTM, the zone being each point's own
+    bool zonePerPoint = false;               // --utm auto: UTM, the zone being each point's own
+    LengthUnit const* unit = nullptr;        // of a file's coordinates; null for metres
+    std::shared_ptr<CGeorefTransform> image; // whose coordinates are given for projected ones; null for none
 };
 
 class ProjectionOptions {
@@ -30,6 +35,9 @@ public:
     /// stay where it is until they were parsed.
     void addTo(CLI::App& app);
     void addParametersTo(CLI::App& app);
+
+    /// Whether there is an option that names a projection.
+    bool any() const;
 
     /// What the options say, checked; `standard` is the ellipsoid where they tell none. Throws UsageError when they are
     /// no usable projection.
@@ -42,6 +50,7 @@ private:
         std::string text;
     };
 
+    PROJDATA projectionLike() const;
     void startFrom(ProjectionChoice& choice) const;
     void startFromUtm(ProjectionChoice& choice) const;
     ProjType givenProjection() const;
@@ -56,7 +65,8 @@ private:
     CLI::Option* m_utmOption = nullptr;
     CLI::Option* m_statePlaneOption = nullptr;
     CLI::Option* m_yearOption = nullptr;
-    std::string m_utm, m_statePlane, m_year;
+    CLI::Option* m_likeOption = nullptr;
+    std::string m_utm, m_statePlane, m_year, m_like;
 };
 
 } // namespace ZrProj::Command

@@ -1,6 +1,7 @@
 #include "cli/transform.h"
 
 #include <algorithm>
+#include <cfloat>
 #include <cmath>
 #include <numeric>
 
@@ -30,10 +31,29 @@ void PointBlock::add(BlockPoint const& point) {
 
 Transform::Transform(ProjectionChoice const& choice, Direction direction, std::optional<DatumShift> const& shift)
     : m_choice(choice), m_direction(direction) {
-    if (direction != Direction::Datum)
+    if (direction != Direction::Datum && !isDirect())
         converter(0);
     if (shift)
         m_datum.emplace(*shift);
+}
+
+/// Whether an image's coordinates lead to longitudes and latitudes already.
+bool Transform::isDirect() const {
+    return m_choice.image && m_choice.record.Type == ProjTypeUnprojectedLatLong;
+}
+
+/// Image coordinates become projected ones.
+void Transform::fromImage(PointBlock& block) const {
+    std::vector<GEOREFPOINT> points(block.points.size());
+    std::transform(block.points.begin(), block.points.end(), points.begin(), [](PROJPOINT p) {
+        return GEOREFPOINT{p.x, p.y};
+    });
+    bool const good = m_choice.image->Forward(points.data(), static_cast<int>(points.size()));
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        block.points[i] = {points[i].x, points[i].y};
+        if (block.states[i] == PointState::Good && (!good || points[i].x == DBL_MAX))
+            block.states[i] = PointState::NoResult;
+    }
 }
 
 PointConverter& Transform::converter(UtmZone zone) {
@@ -82,6 +102,10 @@ void Transform::runByZone(PointBlock& block) {
 }
 
 void Transform::project(PointBlock& block) {
+    if (m_choice.image)
+        fromImage(block);
+    if (isDirect())
+        return;
     if (m_choice.zonePerPoint)
         runByZone(block);
     else

@@ -41,6 +41,8 @@ public:
     void run(PointBlock& block, LengthUnit const& unit);
 
 private:
+    bool isDirect() const;
+    void fromImage(PointBlock& block) const;
     void convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states);
     PointConverter& converter(UtmZone zone);
     void runByZone(PointBlock& block);

@@ -18,6 +18,8 @@
 #include "api.h"
 
 #include <cstdint>
+#include <memory>
+#include <vector>
 
 #if defined(_WIN32) && !defined(_WIN64)
 #define ZR_STDCALL __stdcall
@@ -72,5 +74,38 @@ ZRPROJ_API char const* ZrGetFileExt(char const* fileName);
 
 /// Cuts the last extension and its dot off `fileName`, in place. Null, or a name without an extension, is left alone.
 ZRPROJ_API void ZrDropFileExt(char* fileName);
+
+/// A tag of a TIFF file: its number, its type (1 byte, 2 ASCII, 3 short, 4 long, 5 rational, ..., 12 double) and as
+/// many values of that type as `Count` says, in the processor's own byte order. The data is whoever's made the tag.
+struct ZrBitmapTag {
+    std::uint16_t Id;
+    std::uint16_t Type;
+    std::uint32_t Count;
+    void const* pData;
+};
+
+/// The tags of an image, in the order in which they were added. The list owns copies of their data; copies of the list
+/// share them.
+class ZRPROJ_API ZrBitmapTagList {
+public:
+    /// Appends a copy of a tag. False, the list unchanged, for a type that TIFF does not have, for null data with a
+    /// count, for more than 256 MB of data, and when memory runs out.
+    bool Add(ZrBitmapTag const& tag);
+
+    /// The first tag with a number; null where there is none. Good until a tag is added.
+    ZrBitmapTag const* Find(std::uint16_t id) const;
+
+    int Size() const;
+
+    /// The tag at an index from 0 to Size() - 1.
+    ZrBitmapTag const& operator[](int index) const;
+
+private:
+    struct Held {
+        ZrBitmapTag tag;
+        std::shared_ptr<void const> data;
+    };
+    std::vector<Held> m_held;
+};
 
 #endif

@@ -14,10 +14,13 @@
 #include "datum.h"
 #include "ellipsoid.h"
 #include "georef.h"
+#include "geotiff.h"
 #include "preclip.h"
 #include "projection.h"
+#include "reffile.h"
 #include "registration.h"
 #include "userdatum.h"
+#include "worldfile.h"
 #include "zones.h"
 #include "zrlibw.h"
 

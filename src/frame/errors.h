@@ -3,9 +3,10 @@
 
 namespace ZrProj {
 
-inline constexpr unsigned errorInternal = 20200;     // failed assertions
-inline constexpr unsigned errorOutOfMemory = 20201;  // preclipping
-inline constexpr unsigned errorBadParameter = 20205; // preclipping
+inline constexpr unsigned errorInternal = 20200; // failed assertions
+inline constexpr unsigned errorOutOfMemory = 20201;
+inline constexpr unsigned errorReadingFile = 20203;
+inline constexpr unsigned errorBadParameter = 20205;
 
 /// Reports an error to the host: asks first, and sends the texts when the answer is 1. A null or empty `message` means
 /// the text of the error number. Returns false when there is nobody to tell, the last answer was 3, or the callback

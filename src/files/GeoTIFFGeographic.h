@@ -1,0 +1,36 @@
+// The geographic system: an ellipsoid, and a datum where there is one that the catalogue knows.
+#pragma once
+
+#include "files/GeoTIFFTags.h"
+
+#include <zrproj/datum.h>
+#include <zrproj/ellipsoid.h>
+
+namespace ZrProj::GeoTIFF {
+
+struct Ellipsoid {
+    EllipsoidType type = EllipsoidTypeNone; // 0 where the catalogue does not have the figures
+    double radius = 0;
+    double flattening = 0;
+};
+
+/// The catalogue's ellipsoid, or the user's own figures; none (type 50) where there are none.
+Ellipsoid ellipsoidOf(EllipsoidType type, double radius, double flattening);
+
+struct Geographic {
+    Ellipsoid ellipsoid;
+    DatumType datum = DatumTypeNone;
+    DATUM2WGS84 params = {};
+    std::string noDatum; // why there is none
+    double degrees = 1;  // of one unit of angle
+};
+
+/// Reads the geographic keys. `implied` is the code of the system that the projected one stands on, 0 where that says
+/// nothing.
+Outcome<Geographic> readGeographic(KeyDirectory const& keys, std::uint16_t implied);
+
+/// Sets the geographic keys, and returns the system's code, 32767 for one of the user's own.
+Outcome<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum,
+                                       DATUM2WGS84 const* params);
+
+} // namespace ZrProj::GeoTIFF
