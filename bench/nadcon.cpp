@@ -67,7 +67,7 @@ Points pointsInside(std::size_t count) {
     return points;
 }
 
-using File = std::unique_ptr<std::FILE, decltype([](std::FILE* file) { std::fclose(file); })>;
+using File = std::unique_ptr<std::FILE, decltype([](std::FILE* file) { static_cast<void>(std::fclose(file)); })>;
 
 /// Two seeks and four reads.
 double plainValue(std::FILE* file, DATUMPOINT const& point) {

@@ -7,8 +7,8 @@
 #include <clocale>
 #include <cmath>
 #include <csignal>
-#include <cstring>
 #include <limits>
+#include <string_view>
 #include <vector>
 
 #include <sys/resource.h>
@@ -32,6 +32,10 @@ DATUM2WGS84 datum(double dX = 1) {
     return record;
 }
 
+std::string_view bytesOf(DATUM2WGS84 const& record) {
+    return {reinterpret_cast<char const*>(&record), sizeof record};
+}
+
 class UserDatums : public testing::Test {
 protected:
     UserDatums() { NDatSetProfile(profile.c_str()); }
@@ -39,7 +43,7 @@ protected:
 
     void write(std::string const& text) const { std::ofstream(profile, std::ios::binary) << text; }
 
-    bool set(std::string const& name, double dX = 1) const {
+    static bool set(std::string const& name, double dX = 1) {
         DATUM2WGS84 const record = datum(dX);
         return NDatSetDatum(name.c_str(), &record);
     }
@@ -96,7 +100,7 @@ TEST_F(UserDatums, KeepEveryBitOfARecord) {
     for (char const* name : {"exact", "EXACT", "with a comma"}) {
         DATUM2WGS84 back = {};
         EXPECT_TRUE(NDatGetDatumParams(name, &back));
-        EXPECT_EQ(std::memcmp(&back, &record, sizeof back), 0) << name << ' ' << (german ? german : "no locale");
+        EXPECT_EQ(bytesOf(back), bytesOf(record)) << name << ' ' << (german ? german : "no locale");
     }
     std::setlocale(LC_ALL, "C");
     DatumMethod method = DatumMethodNone;

@@ -8,6 +8,7 @@
 #include <filesystem>
 #include <fstream>
 #include <string>
+#include <utility>
 #include <vector>
 
 #include <unistd.h>
@@ -22,7 +23,7 @@ struct GridHeader {
 
 class GridFiles {
 public:
-    explicit GridFiles(std::string const& name = "zrproj-test-" + std::to_string(getpid())) : name_(name) {}
+    explicit GridFiles(std::string name = "zrproj-test-" + std::to_string(getpid())) : name_(std::move(name)) {}
     ~GridFiles() {
         std::filesystem::remove(path(".LAS"));
         std::filesystem::remove(path(".LOS"));
