@@ -289,7 +289,7 @@ struct DATUMXFORM {
     bool bFlag;               ///< without effect
     DATUM2WGS84 SourceParams; ///< used when Source is 0
     DATUM2WGS84
-        DestinationParams; ///< used when Destination is 0; bFromWGS84 must be set to go from WGS 84 to the datum
+    DestinationParams; ///< used when Destination is 0; bFromWGS84 must be set to go from WGS 84 to the datum
 };
 #pragma pack(pop)
 
