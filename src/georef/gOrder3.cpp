@@ -60,7 +60,7 @@ std::optional<formulas::Polynomial> fitPolynomial(int terms, Controls const& con
         std::vector<double> values(controls.size());
         std::ranges::transform(controls.target, values.begin(),
                                [&](auto& point) { return point.*coordinate - to.centre.*coordinate; });
-        values = factors->solve(std::move(values));
+        values = factors->solve(values);
         for (std::size_t k = 0; k < exponents.size(); ++k)
             result[k] = values[k] / power(from.halfSize, exponents[k].u + exponents[k].v);
         result[0] += to.centre.*coordinate;

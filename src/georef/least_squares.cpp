@@ -89,9 +89,10 @@ std::vector<double> Factorisation::solveTriangle(std::span<double const> y) cons
     return x;
 }
 
-std::vector<double> Factorisation::solve(std::vector<double> b) const {
-    applyQTransposed(b);
-    return solveTriangle(b);
+std::vector<double> Factorisation::solve(std::span<double const> b) const {
+    std::vector<double> y(b.begin(), b.end());
+    applyQTransposed(y);
+    return solveTriangle(y);
 }
 
 } // namespace ZrProj

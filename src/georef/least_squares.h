@@ -38,7 +38,7 @@ public:
     /// The x of R P^T x = y; y has as many numbers as A has columns.
     std::vector<double> solveTriangle(std::span<double const> y) const;
     /// The x that makes A x - b shortest.
-    std::vector<double> solve(std::vector<double> b) const;
+    std::vector<double> solve(std::span<double const> b) const;
 
 private:
     explicit Factorisation(Matrix matrix);
