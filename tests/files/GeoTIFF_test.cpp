@@ -95,7 +95,7 @@ TEST(ZrBitmapTagList, OwnsCopiesInOrderAndRefusesNonsense) {
         values.assign(3, 9);
     }
     EXPECT_TRUE(tags.Add({7, 2, 0, nullptr}));
-    for (std::uint16_t type : {0, 14, 15, 19, 65535})
+    for (std::uint16_t type : std::array<std::uint16_t, 5>{0, 14, 15, 19, 65535})
         EXPECT_FALSE(tags.Add({1, type, 1, "x"})) << type;
     EXPECT_FALSE(tags.Add({1, 12, 1, nullptr}));
     EXPECT_FALSE(tags.Add({1, 12, 4000000000u, "x"}));
