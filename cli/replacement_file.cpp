@@ -15,7 +15,7 @@ namespace ZrProj::Command {
 namespace {
 
 [[noreturn]] void fail(std::string const& name, int error) {
-    throw std::runtime_error("cannot write " + name + ": " + systemMessage(error));
+    throw std::runtime_error("cannot write " + inQuotes(name) + ": " + systemMessage(error));
 }
 
 /// What the link stands for, so that the link stays.

@@ -223,16 +223,18 @@ constexpr std::array formats{
     FileFormat{"world file", isWorld, readWorld, writeWorld},
 };
 
+constexpr FileFormat const *reference = formats.data(), *rsf = reference + 1, *world = rsf + 1;
+
 /// The names of an image's side files of each format, in the order in which they are looked for.
 std::vector<MapSource> expectedSideFiles(std::string const& image) {
     std::string_view const extension = extensionOf(image);
     std::string const bare = withoutExtension(image);
-    std::string const world = extension.size() < 3 ? bare + 'W' : bare + '.' + extension[0] + extension[2] + 'W';
-    return {{&formats[0], image + ".zrr"},
-            {&formats[1], bare + ".RSF"},
-            {&formats[2], world},
-            {&formats[2], image + 'w'},
-            {&formats[2], bare + ".WLD"}};
+    std::string const byExtension = extension.size() < 3 ? bare + 'W' : bare + '.' + extension[0] + extension[2] + 'W';
+    return {{reference, image + ".zrr"},
+            {rsf, bare + ".RSF"},
+            {world, byExtension},
+            {world, image + 'w'},
+            {world, bare + ".WLD"}};
 }
 
 /// The plain files beside `expected` whose names differ from it in the case of the extension.

@@ -1,6 +1,7 @@
 #include "cli/tiff_file.h"
 
 #include "cli/replacement_file.h"
+#include "cli/text.h"
 
 #include <tiffio.h>
 
@@ -61,7 +62,7 @@ TiffHandle open(std::string const& name, char const* mode) {
     lastError.clear();
     TiffHandle file(TIFFOpen(name.c_str(), mode));
     if (!file)
-        fail("cannot read " + name);
+        fail("cannot read " + inQuotes(name));
     return file;
 }
 
@@ -91,7 +92,7 @@ TiffImage readTiff(std::string const& name) {
         bool const there = TIFFGetField(file.get(), tag.id, &count, &data) == 1;
         if (there &&
             !image.tags.Add({static_cast<std::uint16_t>(tag.id), static_cast<std::uint16_t>(tag.type), count, data}))
-            fail("cannot read tag " + std::to_string(tag.id) + " of " + name);
+            fail("cannot read tag " + std::to_string(tag.id) + " of " + inQuotes(name));
     }
     return image;
 }
@@ -105,11 +106,11 @@ void writeTiffTags(std::string const& name, std::span<ZrBitmapTag const> tags) {
     for (ZrBitmapTag const& tag : tags)
         setTag(*file, tag);
     if (TIFFRewriteDirectory(file.get()) != 1)
-        fail("cannot write the tags of " + name);
+        fail("cannot write the tags of " + inQuotes(name));
     lastError.clear();
     file.reset();
     if (!lastError.empty())
-        fail("cannot write " + name);
+        fail("cannot write " + inQuotes(name));
     replacement.commit();
 }
 

@@ -55,6 +55,10 @@ inline constexpr std::array methodTable{
 };
 // clang-format on
 
+/// Programs differ in how they compute an equirectangular map of an ellipsoid, by kilometres; one of a sphere is sure.
+inline constexpr char const* twoEquirectangulars =
+    "an equirectangular map of an ellipsoid is a sphere's to some programs, and an ellipsoid's to others";
+
 /// A projection's parameters as the keys have them: degrees, and metres on the ground before any scale factor.
 struct Parameters {
     double latitude = 0, longitude = 0;

@@ -63,6 +63,10 @@ Outcome<Normal> normal(Method const& method, Parameters const& p, Ellipsoid cons
         return trueMercator(method, p, ellipsoid);
     case polarStereographic:
         return polar(method, p, ellipsoid);
+    case equirectangular:
+        if (ellipsoid.flattening != 0)
+            return Refusal{twoEquirectangulars};
+        return Normal{method, p};
     case obliqueMercator:
     case obliqueMercatorFromCentre:
         if (p.azimuth != p.gridAngle)

@@ -82,6 +82,8 @@ Outcome<Method> methodFor(PROJDATA const& record) {
         return Refusal{"GeoTIFF has no name for the projection " + nameOf(record.Type)};
     if (record.Type == ProjTypeHotineObliqueMercator && !(record.bUseAlpha && record.bRotate))
         return Refusal{"GeoTIFF has an oblique Mercator by azimuth and with a turned grid only"};
+    if (row->transformation == equirectangular && record.Flattening != 0)
+        return Refusal{twoEquirectangulars};
     return *row;
 }
 
@@ -155,12 +157,12 @@ Outcome<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DAT
     keys.setText(keyCitation, nameOf(given.Type));
     if (writeAsZone(keys, record, *geographic))
         return keys;
-    auto const method = methodFor(described);
-    if (!method)
-        return method.refusal();
     PROJDATA withFigures = described;
     withFigures.MajorRadius = ellipsoid.radius;
     withFigures.Flattening = ellipsoid.flattening;
+    auto const method = methodFor(withFigures);
+    if (!method)
+        return method.refusal();
     writeDescribed(keys, withFigures, *method);
     return keys;
 }

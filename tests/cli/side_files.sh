@@ -5,7 +5,8 @@ cd "$work" || exit 1
 here() { ls -A | grep -v -x -E 'out|err' | tr '\n' ' '; }
 expect() { [[ $2 == "$3" ]] || fail "$1" "$2"; } # expect NAME TEXT EXPECTED
 
-printf '2\n0\n0\n-2\n500000\n4651000\n' >'sc an.tfw'
+# World files give the centre of the first pixel; the command counts from its corner.
+printf '2\n0\n0\n-2\n500001\n4650999\n' >'sc an.tfw'
 check 'world file' 0 'sc an.tfw: world file
 
 Georeference  Precalculated Affine Coefficients
@@ -23,13 +24,13 @@ check 'to an RSF file' 0 '' '*Affine Polynomial is read back as Helmert' convert
 expect 'RSF file' "$(head -n 3 map.rsf | tail -n 2)" "'Point 0' 0 0 0.0 500000 4651000 0.0 1
 'Point 1' 100 0 0.0 500200 4651000 0.0 1"
 check 'and back to a world file' 0 '' '*misses them by 0.000 on the average' convert map.rsf back.wld
-expect 'world file' "$(sed -n '1p;4,6p' back.wld | tr '\n' ' ')" '2 -2 500000 4651000 '
+expect 'world file' "$(sed -n '1p;4,6p' back.wld | tr '\n' ' ')" '2 -2 500001 4650999 '
 expect 'which file counts' "$("$zrproj" info map.tif | head -n 2)" 'map.tif.zrr  reference file  used for georeference
 map.rsf      RSF file        not used'
 
 # The very file that is named counts, whatever stands beside it.
 printf '1\n0\n0\n1\n7\n8\n' >both.WLD
-printf '3\n0\n0\n3\n5\n6\n' >both.tfw
+printf '3\n0\n0\n3\n6.5\n7.5\n' >both.tfw
 expect 'named file' "$("$zrproj" info both.tfw | grep X)" 'X             3 x + 0 y + 5'
 expect 'image with both' "$("$zrproj" info both.tif | head -n 2)" 'both.WLD  world file  used for georeference
 both.tfw  world file  not used'
@@ -50,11 +51,11 @@ check 'what a world file cannot carry' 0 '' '*the projection is left out*the dat
 before=$(here)
 check 'nothing to write' 1 '' '*no georeference to write to "utm.wld"' convert utm.zrr utm.wld
 check 'no such file' 1 '' '*cannot read "none.zrr": No such file*' info none.zrr
-check 'directory' 1 '' '*no side file says*' info .
+check 'directory' 1 '' '*no side file or tag says*' info .
 cp map.rsf damaged.zrr
 check 'damaged' 1 '' '*cannot read "damaged.zrr": it is no reference file, or damaged' convert damaged.zrr out.wld
 rm damaged.zrr
-check 'kind of file' 2 '' 'zrproj: "out.png" is no name of a file*' convert map.rsf out.png
+check 'kind of file' 2 '' 'zrproj: "out.png" is no TIFF file that is there*' convert map.rsf out.png
 check 'no such directory' 1 '' '*cannot write in "none": No such file*' convert map.rsf none/out.wld
 said=$( (trap '' XFSZ && ulimit -f 0 && "$zrproj" convert both.tfw map.rsf) 2>&1 | cat)
 expect 'full disk' "$said" 'zrproj: cannot write "map.rsf"'

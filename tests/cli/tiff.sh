@@ -1,0 +1,86 @@
+#!/bin/bash
+# tiff.sh COMMAND CITIES: the tags of TIFF files, read and written, and places in images.
+source "$(dirname "${BASH_SOURCE[0]}")/check.bash"
+cd "$work" || exit 1
+here() { ls -A | grep -v -x -E 'out|err' | tr '\n' ' '; }
+expect() { [[ $2 == "$3" ]] || fail "$1" "$2"; } # expect NAME TEXT EXPECTED
+
+# The smallest TIFF file, one grey pixel: little-endian, and the same big-endian.
+little_tiff() {
+    printf 'II*\0\10\0\0\0\11\0'
+    printf '\0\1\4\0\1\0\0\0\1\0\0\0\1\1\4\0\1\0\0\0\1\0\0\0\2\1\3\0\1\0\0\0\10\0\0\0\3\1\3\0\1\0\0\0\1\0\0\0'
+    printf '\6\1\3\0\1\0\0\0\1\0\0\0\21\1\4\0\1\0\0\0\172\0\0\0\25\1\3\0\1\0\0\0\1\0\0\0\26\1\4\0\1\0\0\0\1\0\0\0'
+    printf '\27\1\4\0\1\0\0\0\1\0\0\0\0\0\0\0\0'
+}
+big_tiff() {
+    printf 'MM\0*\0\0\0\10\0\11'
+    printf '\1\0\0\4\0\0\0\1\0\0\0\1\1\1\0\4\0\0\0\1\0\0\0\1\1\2\0\3\0\0\0\1\0\10\0\0\1\3\0\3\0\0\0\1\0\1\0\0'
+    printf '\1\6\0\3\0\0\0\1\0\1\0\0\1\21\0\4\0\0\0\1\0\0\0\172\1\25\0\3\0\0\0\1\0\1\0\0\1\26\0\4\0\0\0\1\0\0\0\1'
+    printf '\1\27\0\4\0\0\0\1\0\0\0\1\0\0\0\0\0'
+}
+reference() { # reference NAME VALUE...
+    echo 'Zorvane Cartographic Reference Information : Version 1.10'
+    printf '%s : %s\n' "$@"
+}
+
+# A scanned map with a world file: what is known of it, its place with a projection told, and all of it into its tags.
+little_tiff >'my scan.tif'
+printf '2\n0\n0\n-2\n630001\n4834999\n' >'my scan.tfw'
+check 'a scan' 0 'my scan.tfw  world file  used for georeference
+
+Georeference  Precalculated Affine Coefficients
+X             2 x + 0 y + 630000
+Y             0 x + -2 y + 4835000' '' info 'my scan.tif'
+check 'no projection' 2 '' '*in which projection "my scan.tif" is; give --utm*' locate 'my scan.tif' </dev/null
+check 'projection told' 0 '-79.387807849 43.656635239' '' locate 'my scan.tif' --utm 17N <<<'0 0'
+reference 'Projection Name' 'Universal Transverse Mercator (UTM)' 'Projection Lon0 (degrees)' -81 'Projection Ellipsoid Type' \
+    'GRS 1980 / IUGG 1980' 'Datum Name' 'North American Datum 1983' 'Datum Method' Molodensky >'my scan.tif.zrr'
+check 'into the tags' 0 '' '' convert 'my scan.tif' 'my scan.tif'
+rm 'my scan.tif.zrr' 'my scan.tfw'
+expect 'tags alone' "$("$zrproj" info 'my scan.tif' | grep -E 'scan|Projection  |Datum  |^[XY]')" \
+    'my scan.tif  GeoTIFF tags  used for projection, datum, georeference
+Projection                         Universal Transverse Mercator (UTM)
+Datum                              North American Datum 1983
+X                                  2 x + 0 y + 630000
+Y                                  0 x + -2 y + 4835000'
+check 'place' 1 'name,x,y,longitude,latitude
+a,0,0,-79.387807849,43.656635240
+b,n,2,*,*' '<stdin>:3: *"n" is not a number*' locate 'my scan.tif' <<<$'name,x,y\na,0,0\nb,n,2'
+check 'like an image' 0 '630084.301,4833438.586' '' forward --like 'my scan.tif' <<<'-79.387139,43.642567'
+
+# A side file over tags that are there: what it does not tell stays.
+printf '1\n0\n0\n-1\n500.5\n799.5\n' >new.wld
+check 'a new place' 0 '' '' convert new.wld 'my scan.tif'
+expect 'the system stays' "$("$zrproj" info 'my scan.tif' | grep -E 'used|^X')" \
+    'my scan.tif  GeoTIFF tags  used for projection, datum, georeference
+X                                  1 x + 0 y + 500'
+check 'from tags to a world file' 0 '' '*the projection is left out*the datum is left out*' convert 'my scan.tif' back.wld
+expect 'world file' "$(cat back.wld)" "$(cat new.wld)"
+
+# Feet, and the other byte order.
+big_tiff >feet.tif
+reference 'Projection Name' 'State Plane 1927' 'Projection Scale' 3.28083333333333 'Projection State Zone' 'Alabama East' \
+    'Projection Ellipsoid Type' 'Clarke 1866' 'Datum Name' 'North American Datum 1927' 'Datum Method' Molodensky >feet.zrr
+check 'feet' 0 '' '' convert feet.zrr feet.tif
+printf '10\n0\n0\n-10\n500005\n999995\n' >feet.tfw
+expect 'like feet' "$("$zrproj" forward --like feet.tif <<<$'lon,lat\n-86,32')" "$("$zrproj" forward --state-plane \
+    'alabama east' --year 1927 --units us-ft <<<$'lon,lat\n-86,32')"
+expect 'place by feet' "$("$zrproj" locate feet.tif <<<'0 0')" "$("$zrproj" inverse --state-plane 'alabama east' --year 1927 \
+    --units us-ft <<<'500000 1000000')"
+reference 'Projection Name' 'Unprojected Lat/Long' 'Datum Name' 'World Geodetic System 1984' 'Datum Method' Molodensky >geo.zrr
+check 'degrees' 0 '' '' convert geo.zrr feet.tif
+printf '0.1\n0\n0\n-0.1\n10.05\n49.95\n' >feet.tfw
+check 'place by degrees' 0 '10.500000000 49.000000000' '' locate feet.tif <<<'5 10'
+
+# What cannot be done, and leaves everything as it was.
+before=$(here) bytes=$(cksum 'my scan.tif')
+reference 'Projection Name' Mollweide 'Projection Ellipsoid Type' 'WGS 84' >mollweide.zrr
+check 'no name in GeoTIFF' 1 '' '*GeoTIFF has no name for the projection Mollweide' convert mollweide.zrr 'my scan.tif'
+rm mollweide.zrr
+check 'damaged' 1 '' '*"cut.tif"*' info cut.tif < <(head -c 60 'my scan.tif' >cut.tif)
+rm cut.tif
+said=$( (trap '' XFSZ && ulimit -f 0 && "$zrproj" convert new.wld 'my scan.tif') 2>&1 | cat)
+[[ $said == 'zrproj: cannot write "my scan.tif"'* ]] || fail 'full disk' "$said"
+expect 'the good file stays' "$(cksum 'my scan.tif')" "$bytes"
+expect 'nothing is left behind' "$(here)" "$before"
+exit $failed
