@@ -8,6 +8,7 @@
 
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/centred_frame.h"
+#include "formulas/edges.h"
 #include "formulas/outline.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -43,5 +44,27 @@ struct ObliqueCylinder {
         return {select(inside, q.theta, R(unplottable)), q.phi};
     }
 };
+
+/// The edges of such a map, which ends at the line's poles and where `along` is half a turn. `latitude` gives the
+/// geographic latitude, in radians, of a place on the sphere.
+template <class Latitude> MapEdges edgesOf(ObliqueCut const& cut, Latitude const& latitude) {
+    constexpr double degree = pi / 180;
+    MapEdges ends;
+    if (cut.B > 1) // the sphere has less longitude than the globe
+        ends.window = windowAbout(cut.lon0, 180 / cut.B);
+    if (cut.cosPole < 1e-12) { // the line is the equator
+        ends.window = windowAbout(cut.lon0 + (cut.lonPole + 90) / cut.B, 180 / cut.B);
+        ends.window.north = 90 - placeInset;
+        ends.window.south = -ends.window.north;
+        return ends;
+    }
+    ends.oblique = cut;
+    for (int i = 0; i < 2; ++i) {
+        double const lon = std::remainder(cut.lonPole + 180 * i, 360.0), sine = i == 0 ? cut.sinPole : -cut.sinPole;
+        auto const around = edgesAround(cut.lon0 + lon / cut.B, latitude(SinCos<double>{sine, cut.cosPole}) / degree);
+        (i == 0 ? ends.hole : ends.otherHole) = around.hole;
+    }
+    return ends;
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

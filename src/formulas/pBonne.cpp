@@ -68,6 +68,6 @@ bool inProjection(PROJDATA const& record, PROJPOINT const&) noexcept {
 
 } // namespace
 
-constinit Formula const bonne{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const bonne{prepare, inProjection, splitOppositeToLon0, edgesOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -52,8 +52,12 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return areLatitudes(90, record.Lat1) && placeInDegrees(record.Lat1, record.Lon0, point).up > 4 * edge;
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    return {.horizon = {true, record.Lon0, record.Lat1}};
+}
+
 } // namespace
 
-constinit Formula const gnomonic{prepare, inProjection, neverSplit};
+constinit Formula const gnomonic{prepare, inProjection, neverSplit, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

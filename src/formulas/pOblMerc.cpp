@@ -65,16 +65,29 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
         hold(converter, Nowhere{});
 }
 
+double radians(double degrees) {
+    return degrees * pi / 180;
+}
+
+NorthernPole poleOf(PROJDATA const& record) {
+    return {{radians(record.Lon1), radians(record.Lat1)}, {radians(record.Lon2), radians(record.Lat2)}};
+}
+
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    auto const radians = [](double degrees) { return degrees * pi / 180; };
-    NorthernPole const pole({radians(record.Lon1), radians(record.Lat1)}, {radians(record.Lon2), radians(record.Lat2)});
+    NorthernPole const pole = poleOf(record);
     double const theta = longitudeFrom(pole.lambda, radians(point.x));
     auto const p = CentredFrame{pole.sin, pole.cos}.place(sinCos(radians(point.y)), theta);
     return pole.defined && std::hypot(p.east, p.north) > 4 * edge;
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    NorthernPole const pole = poleOf(record);
+    ObliqueCut const cut{.present = true, .lon0 = pole.lambda * (180 / pi), .sinPole = pole.sin, .cosPole = pole.cos};
+    return edgesOf(cut, [](SinCos<double> phi) { return std::atan2(phi.sin, phi.cos); });
+}
+
 } // namespace
 
-constinit Formula const obliqueMercator{prepare, inProjection, neverSplit};
+constinit Formula const obliqueMercator{prepare, inProjection, neverSplit, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL
