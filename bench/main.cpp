@@ -1,5 +1,6 @@
 // Every projection, both ways, for single points, short arrays and long ones, at each processor level and beside other
-// libraries. A closing table sets zrproj beside each of the others.
+// libraries. A closing table sets zrproj beside each of the others. Rows called preclip/ cut a line first.
+#include "preclip_rows.h"
 #include "table.h"
 
 #include <algorithm>
@@ -126,6 +127,7 @@ int main(int argc, char** argv) {
         compareResults(group);
         registerRows(group);
     }
+    registerPreclipRows();
     Collector collector(Collector::OO_Tabular);
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(groups, collector, longest);
