@@ -14,7 +14,7 @@
 //     PROJPOINT onBoundary(t)
 //     referenceBegin, referenceEnd  a part of the boundary, and
 //     PROJPOINT outside(t)          the points just outside of it
-//     PROJPOINT farOutside()        a point outside of the area
+//     PROJPOINT farOutside()        a point well outside of the area
 //     bool canBeHeld()              whether a path in the area may go around what lies outside
 //     bool areaIsLeft()             whether who follows the boundary has the area to the left
 #pragma once
@@ -58,7 +58,8 @@ struct Centre {
 /// Whether two places are no farther apart than neighbours on a boundary.
 bool areNeighbours(Direction const& a, Direction const& b);
 
-/// Between two meridians and two parallels. The boundary goes around eastwards from the south-western corner.
+/// Between two meridians and two parallels. The boundary goes around eastwards from the south-western corner. What lies
+/// on the true edge, or next to it, is moved to where cuts are made.
 class WindowArea {
 public:
     struct Spot {
@@ -71,12 +72,10 @@ public:
 
     Spot at(PROJPOINT const& point) const;
     bool holds(Spot const& spot) const { return spot.inside; }
-    PROJPOINT shown(Spot const& spot, PROJPOINT const&) const { return {spot.lon - spot.turn, spot.lat}; }
+    PROJPOINT shown(Spot const& spot, PROJPOINT const& given) const;
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
     static bool isOnBoundary(Spot const&) { return false; }
-    bool keepsAsGiven(Spot const& spot, PROJPOINT const& given) const {
-        return window_.wraps || given.x == spot.lon - spot.turn;
-    }
+    bool keepsAsGiven(Spot const& spot, PROJPOINT const& given) const;
 
     std::array<double, 5> sides;
     PROJPOINT onBoundary(double t) const;
@@ -87,6 +86,7 @@ public:
     static bool areaIsLeft() { return true; }
 
 private:
+    bool isBesideEdge(double lon) const;
     double clampLon(double lon) const;
     double clampLat(double lat) const;
     void crossCopy(Spot const& a, Spot const& b, double turn, Crossings& out) const;

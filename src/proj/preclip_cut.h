@@ -238,7 +238,7 @@ template <class Area> void cut(Area const& area, Path path, std::vector<Path>& o
             out.push_back({std::move(piece.points), false, false});
     } else if (!pieces.list.empty()) {
         std::ranges::move(Closing<Area>(area, pieces.list, unrolled).rings(), std::back_inserter(out));
-    } else if (unrolled.holds(area.farOutside())) {
+    } else if (unrolled.holds(area.onBoundary((area.referenceBegin + area.referenceEnd) / 2))) {
         out.push_back(outline(area, unrolled.holdsItsLeft()));
     }
 }

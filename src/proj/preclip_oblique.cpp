@@ -10,8 +10,8 @@ namespace ZrProj::preclip {
 namespace {
 
 constexpr double degree = 3.141592653589793 / 180;
-double const aside = std::sin(formulas::lineInset * degree); // how far beside the cut its sides lie
-constexpr double lastLatitude = 90 - formulas::placeInset;   // on the oblique globe
+double const aside = std::sin(formulas::lineInset / 4 * degree); // how far beside the cut its sides lie
+constexpr double lastLatitude = 90 - formulas::placeInset;       // on the oblique globe
 
 double eccentricPart(double e, double sinPhi) {
     return e == 0 ? 0 : e * std::atanh(e * sinPhi);

@@ -8,7 +8,9 @@ namespace ZrProj::preclip {
 
 namespace {
 
-enum Side { south, east, north, west };
+constexpr double margin = 1.001 * formulas::lineInset; // to the true edge, and over its rounding
+
+enum Side { southSide, eastSide, northSide, westSide };
 
 } // namespace
 
@@ -28,10 +30,25 @@ double WindowArea::clampLat(double lat) const {
 }
 
 WindowArea::Spot WindowArea::at(PROJPOINT const& point) const {
-    double const turn = 360 * std::nearbyint((point.x - middle_) / 360), lon = point.x - turn;
-    bool const inside =
-        lon >= window_.west && lon <= window_.east && point.y >= window_.south && point.y <= window_.north;
+    // Half open, so that a point on the seam is in the same copy however often the path has wound around.
+    double const turn = 360 * std::floor((point.x - middle_) / 360 + 0.5), lon = point.x - turn;
+    bool const inside = lon >= window_.west - margin && lon <= window_.east + margin && point.y >= window_.south &&
+                        point.y <= window_.north;
     return {point.x, point.y, turn, inside};
+}
+
+bool WindowArea::isBesideEdge(double lon) const {
+    return lon < window_.west - formulas::lineInset / 2 || lon > window_.east + formulas::lineInset / 2;
+}
+
+PROJPOINT WindowArea::shown(Spot const& spot, PROJPOINT const&) const {
+    double const lon = spot.lon - spot.turn;
+    return {isBesideEdge(lon) ? clampLon(lon) : lon, spot.lat};
+}
+
+bool WindowArea::keepsAsGiven(Spot const& spot, PROJPOINT const& given) const {
+    double const lon = spot.lon - spot.turn;
+    return !isBesideEdge(lon) && (window_.wraps || given.x == lon);
 }
 
 void WindowArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
@@ -49,15 +66,17 @@ void WindowArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
 void WindowArea::crossCopy(Spot const& a, Spot const& b, double turn, Crossings& out) const {
     double const dx = b.lon - a.lon, dy = b.lat - a.lat, x = a.lon - turn;
     double const speed[] = {-dy, dx, dy, -dx};
-    double const room[] = {a.lat - window_.south, window_.east - x, window_.north - a.lat, x - window_.west};
+    double const west = window_.west - margin, east = window_.east + margin;
+    double const room[] = {a.lat - window_.south, east - x, window_.north - a.lat, x - west};
     bool const startsHere = a.inside && a.turn == turn, endsHere = b.inside && b.turn == turn;
-    double s0 = 0, s1 = 1;
-    int entry = south, exit = north;
-    for (int side : {south, east, north, west}) {
-        if (speed[side] == 0 && room[side] < 0)
-            return;
+    double s0 = -INFINITY, s1 = INFINITY;
+    int entry = southSide, exit = northSide;
+    for (int side : {southSide, eastSide, northSide, westSide}) {
         double const s = room[side] / speed[side];
-        if (speed[side] < 0 && s > s0) {
+        if (speed[side] == 0) {
+            if (room[side] < 0)
+                return;
+        } else if (speed[side] < 0 && s > s0) {
             s0 = s;
             entry = side;
         } else if (speed[side] > 0 && s < s1) {
@@ -65,22 +84,22 @@ void WindowArea::crossCopy(Spot const& a, Spot const& b, double turn, Crossings&
             exit = side;
         }
     }
-    if (s0 > s1 && !startsHere && !endsHere)
+    if ((s0 > s1 || s0 > 1 || s1 < 0) && !startsHere && !endsHere)
         return;
     if (!startsHere)
-        out.push_back(crossing(true, a, b, std::min(s0, 1.0), entry, turn));
+        out.push_back(crossing(true, a, b, std::clamp(s0, 0.0, 1.0), entry, turn));
     if (!endsHere)
-        out.push_back(crossing(false, a, b, std::max(s1, 0.0), exit, turn));
+        out.push_back(crossing(false, a, b, std::clamp(s1, 0.0, 1.0), exit, turn));
 }
 
 Crossing WindowArea::crossing(bool enters, Spot const& a, Spot const& b, double s, int side, double turn) const {
     double const lon = clampLon(a.lon + s * (b.lon - a.lon) - turn), lat = clampLat(a.lat + s * (b.lat - a.lat));
     switch (side) {
-    case south:
+    case southSide:
         return {enters, lon - window_.west, {lon, window_.south}};
-    case east:
+    case eastSide:
         return {enters, sides[1] + (lat - window_.south), {window_.east, lat}};
-    case north:
+    case northSide:
         return {enters, sides[2] + (window_.east - lon), {lon, window_.north}};
     default:
         return {enters, sides[3] + (window_.north - lat), {window_.west, lat}};
@@ -98,7 +117,7 @@ PROJPOINT WindowArea::onBoundary(double t) const {
 }
 
 PROJPOINT WindowArea::outside(double t) const {
-    return {window_.east + formulas::lineInset / 2, window_.south + (t - sides[1])};
+    return {window_.east + formulas::lineInset, window_.south + (t - sides[1])};
 }
 
 } // namespace ZrProj::preclip
