@@ -12,6 +12,7 @@
 //     sides                         the boundary, a closed curve, by a parameter in degrees: where its sides begin, and
 //                                   its end
 //     PROJPOINT onBoundary(t)
+//     bool isFollowed(from, to)     whether the straight edge between two points of it is near enough to it
 //     referenceBegin, referenceEnd  a part of the boundary, and
 //     PROJPOINT outside(t)          the points just outside of it
 //     PROJPOINT farOutside()        a point well outside of the area
@@ -83,6 +84,7 @@ public:
     PROJPOINT outside(double t) const;
     PROJPOINT farOutside() const { return outside((referenceBegin + referenceEnd) / 2); }
     static bool canBeHeld() { return false; }
+    static bool isFollowed(double, double) { return true; }
     static bool areaIsLeft() { return true; }
 
 private:
@@ -101,6 +103,7 @@ struct CurvedArea {
     template <class Spot> static PROJPOINT shown(Spot const&, PROJPOINT const& given) { return given; }
     template <class Spot> static bool keepsAsGiven(Spot const&, PROJPOINT const&) { return true; }
     static bool canBeHeld() { return true; }
+    static bool isFollowed(double, double) { return true; }
 };
 
 /// A hemisphere; the parameter is the azimuth from the centre.
@@ -204,6 +207,7 @@ public:
 
     static constexpr std::array<double, 5> sides = {0, 180, 540, 720, 1080};
     PROJPOINT onBoundary(double t) const;
+    bool isFollowed(double from, double to) const;
     static constexpr double referenceBegin = 1, referenceEnd = 179;
     PROJPOINT outside(double t) const;
     PROJPOINT farOutside() const { return outside(90); }
@@ -211,6 +215,7 @@ public:
     static bool areaIsLeft() { return true; }
 
 private:
+    static bool isOnSide(double t);
     PROJPOINT geographic(Direction const& from) const;
     PROJPOINT beside(double latitude, double north) const;
 

@@ -105,21 +105,48 @@ inline std::vector<Node> nodesOf(std::vector<Piece> const& pieces) {
     return nodes;
 }
 
-/// The boundary's points from one parameter to a greater one, a degree apart at most. The ends are left out.
-template <class Area> void follow(Area const& area, double from, double to, std::vector<PROJPOINT>& out) {
-    for (std::size_t side = 0; side + 1 < area.sides.size(); ++side) {
-        double const begin = area.sides[side], end = area.sides[side + 1];
-        int const count = static_cast<int>(std::ceil(end - begin));
-        double const step = (end - begin) / count;
-        int const first = static_cast<int>(std::clamp(std::floor((from - begin) / step), 0.0, double(count)));
-        for (int i = first; i < count; ++i) {
-            double const t = begin + i * step;
-            if (t >= to)
-                return;
-            if (t > from)
-                out.push_back(area.onBoundary(t));
+/// Follows the boundary from one parameter to a greater one with points a degree apart at most, and less where the
+/// edges between them would leave it too far. The ends are left out.
+template <class Area> class Follower {
+public:
+    Follower(Area const& area, std::vector<PROJPOINT>& out) : area_(area), out_(out) {}
+
+    void follow(double from, double to) {
+        double last = from;
+        for (std::size_t side = 0; side + 1 < area_.sides.size(); ++side) {
+            double const begin = area_.sides[side], end = area_.sides[side + 1];
+            int const count = static_cast<int>(std::ceil(end - begin));
+            double const step = (end - begin) / count;
+            for (int i = static_cast<int>(std::clamp(std::floor((from - begin) / step), 0.0, double(count)));
+                 i < count && begin + i * step < to; ++i) {
+                double const t = begin + i * step;
+                if (t <= from)
+                    continue;
+                refine(last, t);
+                out_.push_back(area_.onBoundary(t));
+                last = t;
+            }
         }
+        refine(last, to);
     }
+
+private:
+    void refine(double from, double to) {
+        constexpr double least = 1e-4;
+        if (to - from < least || area_.isFollowed(from, to))
+            return;
+        double const middle = (from + to) / 2;
+        refine(from, middle);
+        out_.push_back(area_.onBoundary(middle));
+        refine(middle, to);
+    }
+
+    Area const& area_;
+    std::vector<PROJPOINT>& out_;
+};
+
+template <class Area> void follow(Area const& area, double from, double to, std::vector<PROJPOINT>& out) {
+    Follower<Area>(area, out).follow(from, to);
 }
 
 /// The rings that pieces of a ring make up with what of the boundary lies inside the ring.
@@ -200,7 +227,9 @@ private:
             return;
         }
         follow(area_, nodes_.back().t, area_.sides.back(), out);
-        follow(area_, -1, nodes_.front().t, out);
+        if (nodes_.front().t > 0)
+            out.push_back(area_.onBoundary(0));
+        follow(area_, 0, nodes_.front().t, out);
     }
 
     Area const& area_;
@@ -212,7 +241,8 @@ private:
 
 template <class Area> Path outline(Area const& area, bool holdsItsLeft) {
     Path ring{{}, true, false};
-    follow(area, -1, area.sides.back(), ring.points);
+    ring.points.push_back(area.onBoundary(0));
+    follow(area, 0, area.sides.back(), ring.points);
     if (area.areaIsLeft() != holdsItsLeft)
         std::ranges::reverse(ring.points);
     return ring;

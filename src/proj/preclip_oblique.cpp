@@ -10,8 +10,16 @@ namespace ZrProj::preclip {
 namespace {
 
 constexpr double degree = 3.141592653589793 / 180;
-double const aside = std::sin(formulas::lineInset / 4 * degree); // how far beside the cut its sides lie
-constexpr double lastLatitude = 90 - formulas::placeInset;       // on the oblique globe
+/// How far beside the cut paths are cut, and how far the boundary lies that they are closed along: there straight edges
+/// in longitude and latitude must not get over the cut. The latter is an angle at the pole.
+double const aside = std::sin(formulas::lineInset / 4 * degree), wellAside = std::sin(1e-4 * degree);
+constexpr double endRadius = 2 * formulas::placeInset; // of the boundary around a pole; the holes there are smaller
+constexpr double lastLatitude = 90 - endRadius;        // on the oblique globe
+
+/// How far the boundary lies beside the cut, so far from the axis.
+double boundaryAside(double across) {
+    return std::fmax(aside, wellAside * across);
+}
 
 double eccentricPart(double e, double sinPhi) {
     return e == 0 ? 0 : e * std::atanh(e * sinPhi);
@@ -81,18 +89,17 @@ bool ObliqueArea::keepsAsGiven(Spot const& spot, PROJPOINT const&) {
 }
 
 bool ObliqueArea::isOnBoundary(Spot const& spot) {
-    constexpr double nearPole = 1.01 * formulas::placeInset * degree;
-    auto const& from = spot.from;
-    return (from.east < 0 && std::fabs(from.north) < 2 * aside) || std::hypot(from.east, from.north) < nearPole;
+    double const across = std::hypot(spot.from.east, spot.from.north);
+    bool const isBeside = spot.from.east < 0 && std::fabs(spot.from.north) < 1.01 * boundaryAside(across);
+    return isBeside || across < 1.01 * endRadius * degree;
 }
 
 void ObliqueArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
     double const speed = (cut_.B * std::fabs(b.lon - a.lon) + 1.7 * std::fabs(b.lat - a.lat)) * degree;
     double const curvature = 2 * speed * speed, nearer = std::fmin(std::fabs(a.from.north), std::fabs(b.from.north));
     bool first = isOnFirstSide(a.from);
-    if (first == isOnFirstSide(b.from) &&
-        (nearer > curvature / 8 || (isOnBoundary(a) && isOnBoundary(b) && areNeighbours(a.from, b.from))))
-        return; // clear of the cut, or a piece of one of its sides
+    if (first == isOnFirstSide(b.from) && nearer > curvature / 8)
+        return;
     auto const placeAt = [&](double s) { return at({a.lon + s * (b.lon - a.lon), a.lat + s * (b.lat - a.lat)}).from; };
     auto const north = [&](double s) { return placeAt(s).north; };
     auto const cross = [&](double s) {
@@ -107,18 +114,33 @@ void ObliqueArea::crossings(Spot const& a, Spot const& b, Crossings& out) const 
     SignChanges(north, curvature, cross).search(0, a.from.north, 1, b.from.north);
 }
 
+bool ObliqueArea::isOnSide(double t) {
+    return t <= sides[1] || (t >= sides[2] && t <= sides[3]);
+}
+
 PROJPOINT ObliqueArea::onBoundary(double t) const {
-    if (t < sides[1])
-        return beside(t - 90, aside);
-    if (t >= sides[2] && t < sides[3])
-        return beside(90 - (t - sides[2]), -aside);
+    if (isOnSide(t)) {
+        bool const isFirst = t <= sides[1];
+        double const latitude = std::clamp(isFirst ? t - 90 : 90 - (t - sides[2]), -lastLatitude, lastLatitude);
+        double const north = boundaryAside(std::cos(latitude * degree));
+        return beside(latitude, isFirst ? north : -north);
+    }
     bool const northern = t < sides[2];
     double const along = (northern ? 360 - t : t - 900) * degree;
     double const up = (northern ? 1 : -1) * std::sin(lastLatitude * degree), across = std::cos(lastLatitude * degree);
     Direction from{across * std::cos(along), across * std::sin(along), up};
-    if (from.east < 0 && std::fabs(from.north) < aside)
-        from.north = std::copysign(aside, from.north);
+    if (from.east < 0 && std::fabs(from.north) < boundaryAside(across))
+        from.north = std::copysign(boundaryAside(across), from.north);
     return geographic(from);
+}
+
+bool ObliqueArea::isFollowed(double from, double to) const {
+    if (!isOnSide((from + to) / 2))
+        return true;
+    auto const a = onBoundary(from), b = onBoundary(to);
+    auto const middle = at({a.x + std::remainder(b.x - a.x, 360.0) / 2, (a.y + b.y) / 2}).from;
+    double const wanted = boundaryAside(std::hypot(middle.east, middle.north));
+    return std::fabs(middle.north - (to <= sides[1] ? wanted : -wanted)) < wanted / 8;
 }
 
 PROJPOINT ObliqueArea::outside(double t) const {
