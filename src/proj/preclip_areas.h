@@ -12,6 +12,7 @@
 //     sides                         the boundary, a closed curve, by a parameter in degrees: where its sides begin, and
 //                                   its end
 //     PROJPOINT onBoundary(t)
+//     boundaryIsBeside              whether that lies a little inside of where paths are cut
 //     bool isFollowed(from, to)     whether the straight edge between two points of it is near enough to it
 //     referenceBegin, referenceEnd  a part of the boundary, and
 //     PROJPOINT outside(t)          the points just outside of it
@@ -84,6 +85,7 @@ public:
     PROJPOINT outside(double t) const;
     PROJPOINT farOutside() const { return outside((referenceBegin + referenceEnd) / 2); }
     static bool canBeHeld() { return false; }
+    static constexpr bool boundaryIsBeside = false;
     static bool isFollowed(double, double) { return true; }
     static bool areaIsLeft() { return true; }
 
@@ -103,6 +105,7 @@ struct CurvedArea {
     template <class Spot> static PROJPOINT shown(Spot const&, PROJPOINT const& given) { return given; }
     template <class Spot> static bool keepsAsGiven(Spot const&, PROJPOINT const&) { return true; }
     static bool canBeHeld() { return true; }
+    static constexpr bool boundaryIsBeside = false;
     static bool isFollowed(double, double) { return true; }
 };
 
@@ -207,6 +210,7 @@ public:
 
     static constexpr std::array<double, 5> sides = {0, 180, 540, 720, 1080};
     PROJPOINT onBoundary(double t) const;
+    static constexpr bool boundaryIsBeside = true;
     bool isFollowed(double from, double to) const;
     static constexpr double referenceBegin = 1, referenceEnd = 179;
     PROJPOINT outside(double t) const;

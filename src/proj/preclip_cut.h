@@ -222,14 +222,16 @@ private:
     }
 
     void followArc(std::size_t arc, std::vector<PROJPOINT>& out) const {
-        if (arc != 0) {
-            follow(area_, nodes_[arc - 1].t, nodes_[arc].t, out);
-            return;
-        }
-        follow(area_, nodes_.back().t, area_.sides.back(), out);
-        if (nodes_.front().t > 0)
+        double const from = nodes_[arc == 0 ? nodes_.size() - 1 : arc - 1].t, to = nodes_[arc].t;
+        if (Area::boundaryIsBeside)
+            out.push_back(area_.onBoundary(from));
+        if (arc == 0) {
+            follow(area_, from, area_.sides.back(), out);
             out.push_back(area_.onBoundary(0));
-        follow(area_, 0, nodes_.front().t, out);
+        }
+        follow(area_, arc == 0 ? 0 : from, to, out);
+        if (Area::boundaryIsBeside)
+            out.push_back(area_.onBoundary(to));
     }
 
     Area const& area_;

@@ -16,9 +16,9 @@ double const aside = std::sin(formulas::lineInset / 4 * degree), wellAside = std
 constexpr double endRadius = 2 * formulas::placeInset; // of the boundary around a pole; the holes there are smaller
 constexpr double lastLatitude = 90 - endRadius;        // on the oblique globe
 
-/// How far the boundary lies beside the cut, so far from the axis.
-double boundaryAside(double across) {
-    return std::fmax(aside, wellAside * across);
+/// How far the boundary lies beside the cut. Nearer to the oblique equator less, since there other edges meet the cut.
+double boundaryAside(Direction const& from) {
+    return std::fmax(aside, wellAside * std::hypot(from.east, from.north) * std::fabs(from.up));
 }
 
 double eccentricPart(double e, double sinPhi) {
@@ -90,7 +90,7 @@ bool ObliqueArea::keepsAsGiven(Spot const& spot, PROJPOINT const&) {
 
 bool ObliqueArea::isOnBoundary(Spot const& spot) {
     double const across = std::hypot(spot.from.east, spot.from.north);
-    bool const isBeside = spot.from.east < 0 && std::fabs(spot.from.north) < 1.01 * boundaryAside(across);
+    bool const isBeside = spot.from.east < 0 && std::fabs(spot.from.north) < 1.01 * boundaryAside(spot.from);
     return isBeside || across < 1.01 * endRadius * degree;
 }
 
@@ -122,15 +122,15 @@ PROJPOINT ObliqueArea::onBoundary(double t) const {
     if (isOnSide(t)) {
         bool const isFirst = t <= sides[1];
         double const latitude = std::clamp(isFirst ? t - 90 : 90 - (t - sides[2]), -lastLatitude, lastLatitude);
-        double const north = boundaryAside(std::cos(latitude * degree));
+        double const north = boundaryAside({std::cos(latitude * degree), 0, std::sin(latitude * degree)});
         return beside(latitude, isFirst ? north : -north);
     }
     bool const northern = t < sides[2];
     double const along = (northern ? 360 - t : t - 900) * degree;
     double const up = (northern ? 1 : -1) * std::sin(lastLatitude * degree), across = std::cos(lastLatitude * degree);
     Direction from{across * std::cos(along), across * std::sin(along), up};
-    if (from.east < 0 && std::fabs(from.north) < boundaryAside(across))
-        from.north = std::copysign(boundaryAside(across), from.north);
+    if (from.east < 0 && std::fabs(from.north) < boundaryAside(from))
+        from.north = std::copysign(boundaryAside(from), from.north);
     return geographic(from);
 }
 
@@ -139,7 +139,7 @@ bool ObliqueArea::isFollowed(double from, double to) const {
         return true;
     auto const a = onBoundary(from), b = onBoundary(to);
     auto const middle = at({a.x + std::remainder(b.x - a.x, 360.0) / 2, (a.y + b.y) / 2}).from;
-    double const wanted = boundaryAside(std::hypot(middle.east, middle.north));
+    double const wanted = boundaryAside(middle);
     return std::fabs(middle.north - (to <= sides[1] ? wanted : -wanted)) < wanted / 8;
 }
 
