@@ -71,7 +71,7 @@ inline MapEdges edgesAround(double lon, double lat, double halfWidth = 0) {
     if (fromPole < 10 * placeInset)
         return {.polarHole = {true, lat < 0 ? -1.0 : 1.0, 90 - fromPole - placeInset}};
     double const perDegree = 1 / std::sin(fromPole * (3.141592653589793 / 180));
-    return {.hole = {true, lon, lat, halfWidth + placeInset * perDegree, placeInset}};
+    return {.hole = {true, lon, lat, halfWidth + placeInset * perDegree, placeInset, false}};
 }
 
 /// The edges of a map that shows all but the antipode of its centre.

@@ -27,17 +27,19 @@ struct PolarHole {
     double side = 1, limit = 90;
 };
 
-/// The globe but for an ellipse in longitude and latitude around a place.
+/// The globe but for an ellipse in longitude and latitude around a place. Areas of the map may go around it, unless it
+/// is at the end of a cut.
 struct Hole {
     bool present = false;
     double lon = 0, lat = 0, halfWidth = 0, halfHeight = 0;
+    bool isAtCut = false;
 };
 
 /// The globe but for a cut along half a great circle, from pole to pole of an oblique equator, on a sphere that carries
 /// the globe: its longitudes are B (lon - lon0), its isometric latitudes B psi + logE, psi being that of an ellipsoid
 /// of eccentricity e. On the sphere the northern of the two poles, or their left one, has the longitude `lonPole` and
-/// the given sine and cosine of latitude; the cut lies opposite to where the oblique equator goes 90 degrees east of
-/// it.
+/// the given sine and cosine of latitude, below 0 where the latitude is beyond 90 degrees; the cut lies opposite to
+/// where the oblique equator goes 90 degrees east of it.
 struct ObliqueCut {
     bool present = false;
     double lon0 = 0, B = 1, logE = 0, e = 0;

@@ -52,7 +52,7 @@ template <class Latitude> MapEdges edgesOf(ObliqueCut const& cut, Latitude const
     MapEdges ends;
     if (cut.B > 1) // the sphere has less longitude than the globe
         ends.window = windowAbout(cut.lon0, 180 / cut.B);
-    if (cut.cosPole < 1e-12) { // the line is the equator
+    if (std::fabs(cut.cosPole) < 1e-12) { // the line is the equator
         ends.window = windowAbout(cut.lon0 + (cut.lonPole + 90) / cut.B, 180 / cut.B);
         ends.window.north = 90 - placeInset;
         ends.window.south = -ends.window.north;
@@ -60,9 +60,13 @@ template <class Latitude> MapEdges edgesOf(ObliqueCut const& cut, Latitude const
     }
     ends.oblique = cut;
     for (int i = 0; i < 2; ++i) {
-        double const lon = std::remainder(cut.lonPole + 180 * i, 360.0), sine = i == 0 ? cut.sinPole : -cut.sinPole;
-        auto const around = edgesAround(cut.lon0 + lon / cut.B, latitude(SinCos<double>{sine, cut.cosPole}) / degree);
-        (i == 0 ? ends.hole : ends.otherHole) = around.hole;
+        double const far = (i == 1) == (cut.cosPole > 0) ? 180 : 0; // a cosine below 0: beyond the pole of the sphere
+        double const lon = std::remainder(cut.lonPole + far, 360.0), sine = i == 0 ? cut.sinPole : -cut.sinPole;
+        auto const around =
+            edgesAround(cut.lon0 + lon / cut.B, latitude(SinCos<double>{sine, std::fabs(cut.cosPole)}) / degree);
+        Hole& hole = i == 0 ? ends.hole : ends.otherHole;
+        hole = around.hole;
+        hole.isAtCut = true;
     }
     return ends;
 }

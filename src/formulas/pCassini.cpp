@@ -235,8 +235,8 @@ MapEdges edges(PROJDATA const& record) noexcept {
     MapEdges ends{.window = windowAbout(record.Lon0, 90)};
     double const torn = 90 * record.Flattening * 1.01;
     if (torn > 0) {
-        ends.hole = {true, record.Lon0 + 90, 0, torn + placeInset, placeInset};
-        ends.otherHole = {true, record.Lon0 - 90, 0, torn + placeInset, placeInset};
+        ends.hole = {true, record.Lon0 + 90, 0, torn + placeInset, placeInset, true};
+        ends.otherHole = {true, record.Lon0 - 90, 0, torn + placeInset, placeInset, true};
     }
     return ends;
 }

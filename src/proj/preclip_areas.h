@@ -170,6 +170,8 @@ public:
 
     explicit HoleArea(formulas::Hole const& hole) : hole_(hole) {}
 
+    bool canBeHeld() const { return !hole_.isAtCut; }
+
     static Spot at(PROJPOINT const& point) { return point; }
     bool holds(Spot const& spot) const;
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
