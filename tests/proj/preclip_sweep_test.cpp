@@ -35,7 +35,7 @@ struct Shape {
 
 int shapesPerProjection() {
     char const* const asked = std::getenv("ZRPROJ_PRECLIP_SWEEP");
-    return asked ? std::atoi(asked) : 1000;
+    return asked ? std::atoi(asked) : 400;
 }
 
 double stepOf(double from, double to) {
