@@ -54,7 +54,7 @@ struct Centre {
     double sin, cos; // of its latitude
 
     Direction direction(SpherePlace const& place) const;
-    SpherePlace place(Direction const& direction) const;
+    SpherePlace place(Direction const& at) const;
 };
 
 /// Whether two places are no farther apart than neighbours on a boundary.
@@ -73,7 +73,7 @@ public:
     explicit WindowArea(formulas::Window const& window);
 
     Spot at(PROJPOINT const& point) const;
-    bool holds(Spot const& spot) const { return spot.inside; }
+    static bool holds(Spot const& spot) { return spot.inside; }
     PROJPOINT shown(Spot const& spot, PROJPOINT const& given) const;
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
     static bool isOnBoundary(Spot const&) { return false; }

@@ -2,6 +2,7 @@
 #include "proj/preclip_areas.h"
 
 #include <algorithm>
+#include <cfloat>
 #include <cmath>
 
 namespace ZrProj::preclip {
@@ -69,7 +70,7 @@ void WindowArea::crossCopy(Spot const& a, Spot const& b, double turn, Crossings&
     double const west = window_.west - margin, east = window_.east + margin;
     double const room[] = {a.lat - window_.south, east - x, window_.north - a.lat, x - west};
     bool const startsHere = a.inside && a.turn == turn, endsHere = b.inside && b.turn == turn;
-    double s0 = -INFINITY, s1 = INFINITY;
+    double s0 = -DBL_MAX, s1 = DBL_MAX;
     int entry = southSide, exit = northSide;
     for (int side : {southSide, eastSide, northSide, westSide}) {
         double const s = room[side] / speed[side];
