@@ -1,7 +1,9 @@
 // Every projection and the datum methods, both ways, for single points, short arrays and long ones, at each processor
-// level and beside other libraries; and georeferencing. Closing tables set zrproj beside each of the others.
+// level and beside other libraries; and georeferencing. Closing tables set zrproj beside each of the others. Rows
+// called preclip/ cut a line first.
 #include "georef.h"
 #include "nadcon.h"
+#include "preclip_rows.h"
 #include "table.h"
 
 #include <algorithm>
@@ -142,6 +144,7 @@ int main(int argc, char** argv) {
     }
     registerNadcon();
     registerGeorefRows();
+    registerPreclipRows();
     Collector collector(Collector::OO_Tabular);
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(groups, collector, longest);

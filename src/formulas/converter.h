@@ -2,6 +2,8 @@
 // record is. The same for every processor level.
 #pragma once
 
+#include "formulas/map_edges.h"
+
 #include <zrproj/projection.h>
 
 #include <cstddef>
@@ -31,12 +33,13 @@ struct Converter {
 };
 
 /// The operations of a projection type. `work` has its angles in radians and the ellipsoid in MajorRadius and
-/// Flattening; the two tests take a record and points in degrees.
+/// Flattening; the others take a record and points in degrees.
 struct Formula {
     void (*prepare)(Converter& converter, PROJDATA const& work) noexcept;
     bool (*inProjection)(PROJDATA const& record, PROJPOINT const& point) noexcept;
     bool (*offsetSplitObject)(PROJDATA const& record, PROJPOINT const* points, unsigned count, double* out1,
                               double* out2) noexcept;
+    MapEdges (*edges)(PROJDATA const& record) noexcept; // where there is a map
 };
 
 /// One row for each ProjType; null where a type has no formula.

@@ -1,8 +1,9 @@
-// Where a projection's map has its edges: the in-range and split tests that several types share. Degrees, but where
-// radians are named.
+// Where a projection's map has its edges: the in-range and split tests that several types share, and the edges that
+// lines and areas are cut at. Degrees, but where radians are named.
 #pragma once
 
 #include "formulas/elementary.h"
+#include "formulas/map_edges.h"
 
 #include <zrproj/projection.h>
 
@@ -52,6 +53,31 @@ inline bool splitAtOppositeMeridian(double lon0, PROJPOINT const* points, unsign
 inline bool splitOppositeToLon0(PROJDATA const& record, PROJPOINT const* points, unsigned count, double* out1,
                                 double* out2) noexcept {
     return splitAtOppositeMeridian(record.Lon0, points, count, out1, out2);
+}
+
+/// The longitudes within `halfWidth` of a central meridian.
+inline Window windowAbout(double lon0, double halfWidth) {
+    double const middle = std::remainder(lon0, 360.0), reach = halfWidth - lineInset;
+    return {.present = true, .west = middle - reach, .east = middle + reach};
+}
+
+/// The edges of a map that ends at the meridian opposite to the record's Lon0.
+inline MapEdges edgesOppositeToLon0(PROJDATA const& record) noexcept {
+    return {.window = windowAbout(record.Lon0, 180)};
+}
+
+/// The edges of a map that shows all but a place, or all but what lies within `halfWidth` of it on its parallel.
+inline MapEdges edgesAround(double lon, double lat, double halfWidth = 0) {
+    double const fromPole = 90 - std::fabs(lat);
+    if (fromPole < 10 * placeInset)
+        return {.polarHole = {true, lat < 0 ? -1.0 : 1.0, 90 - fromPole - placeInset}};
+    double const perDegree = 1 / std::sin(fromPole * (3.141592653589793 / 180));
+    return {.hole = {true, lon, lat, halfWidth + placeInset * perDegree, placeInset, false}};
+}
+
+/// The edges of a map that shows all but the antipode of its centre.
+inline MapEdges edgesAroundAntipode(double lon, double lat) {
+    return edgesAround(lon + 180, -lat);
 }
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

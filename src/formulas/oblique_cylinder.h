@@ -8,6 +8,7 @@
 
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/centred_frame.h"
+#include "formulas/edges.h"
 #include "formulas/outline.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -48,5 +49,31 @@ struct ObliqueCylinder {
         return {pole.onSphere(Place<R>{up.cos * at.cos, up.cos * at.sin, up.sin}), inside};
     }
 };
+
+/// The edges of such a map, which ends at the line's poles and where `along` is half a turn. `latitude` gives the
+/// geographic latitude, in radians, of a place on the sphere.
+template <class Latitude> MapEdges edgesOf(ObliqueCut const& cut, Latitude const& latitude) {
+    constexpr double degree = pi / 180;
+    MapEdges ends;
+    if (cut.B > 1) // the sphere has less longitude than the globe
+        ends.window = windowAbout(cut.lon0, 180 / cut.B);
+    if (std::fabs(cut.cosPole) < 1e-12) { // the line is the equator
+        ends.window = windowAbout(cut.lon0 + (cut.lonPole + 90) / cut.B, 180 / cut.B);
+        ends.window.north = 90 - placeInset;
+        ends.window.south = -ends.window.north;
+        return ends;
+    }
+    ends.oblique = cut;
+    for (int i = 0; i < 2; ++i) {
+        double const far = (i == 1) == (cut.cosPole > 0) ? 180 : 0; // a cosine below 0: beyond the pole of the sphere
+        double const lon = std::remainder(cut.lonPole + far, 360.0), sine = i == 0 ? cut.sinPole : -cut.sinPole;
+        auto const around =
+            edgesAround(cut.lon0 + lon / cut.B, latitude(SinCos<double>{sine, std::fabs(cut.cosPole)}) / degree);
+        Hole& hole = i == 0 ? ends.hole : ends.otherHole;
+        hole = around.hole;
+        hole.isAtCut = true;
+    }
+    return ends;
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

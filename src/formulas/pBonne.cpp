@@ -62,6 +62,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 
 } // namespace
 
-constinit Formula const bonne{prepare, isAnywhere, splitOppositeToLon0};
+constinit Formula const bonne{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

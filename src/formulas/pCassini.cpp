@@ -178,8 +178,19 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
 }
 
+/// A quarter turn from the central meridian, and on an ellipsoid on the equator a little before, where it is torn.
+MapEdges edges(PROJDATA const& record) noexcept {
+    MapEdges ends{.window = windowAbout(record.Lon0, 90)};
+    double const torn = 90 * record.Flattening * 1.01;
+    if (torn > 0) {
+        ends.hole = {true, record.Lon0 + 90, 0, torn + placeInset, placeInset, true};
+        ends.otherHole = {true, record.Lon0 - 90, 0, torn + placeInset, placeInset, true};
+    }
+    return ends;
+}
+
 } // namespace
 
-constinit Formula const cassini{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const cassini{prepare, inProjection, splitOppositeToLon0, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

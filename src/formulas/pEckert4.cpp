@@ -53,6 +53,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 
 } // namespace
 
-constinit Formula const eckertIV{prepare, isAnywhere, splitOppositeToLon0};
+constinit Formula const eckertIV{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

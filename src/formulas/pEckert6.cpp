@@ -44,6 +44,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 
 } // namespace
 
-constinit Formula const eckertVI{prepare, isAnywhere, splitOppositeToLon0};
+constinit Formula const eckertVI{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -49,8 +49,12 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return placeInDegrees(record.Lat1, record.Lon0, point).up > 4 * edge;
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    return {.horizon = {true, record.Lon0, record.Lat1}};
+}
+
 } // namespace
 
-constinit Formula const gnomonic{prepare, inProjection, neverSplit};
+constinit Formula const gnomonic{prepare, inProjection, neverSplit, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -193,8 +193,26 @@ bool offsetSplitObject(PROJDATA const& record, PROJPOINT const* points, unsigned
     return splitAtOppositeMeridian(record.Lon1 != 0 ? record.Lon1 : record.Lon0, points, count, out1, out2);
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    Setting const at(inRadians(record));
+    LineSphere const& sphere = at.sphere;
+    IsometricLatitude const isometricLatitude(record.Flattening);
+    auto const latitude = [&](SinCos<double> chi) {
+        return isometricLatitude.geodetic((isometric(chi) - sphere.logE) / sphere.B);
+    };
+    return edgesOf({.present = true,
+                    .lon0 = at.line.lambda0 * (180 / pi),
+                    .B = sphere.B,
+                    .logE = sphere.logE,
+                    .e = sphere.e,
+                    .lonPole = -90,
+                    .sinPole = at.cylinder.pole.sin1,
+                    .cosPole = at.cylinder.pole.cos1},
+                   latitude);
+}
+
 } // namespace
 
-constinit Formula const hotine{prepare, inProjection, offsetSplitObject};
+constinit Formula const hotine{prepare, inProjection, offsetSplitObject, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

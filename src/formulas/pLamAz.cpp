@@ -66,8 +66,12 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return isClearOfAntipode(record.Lat1, record.Lon0, point);
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    return edgesAroundAntipode(record.Lon0, record.Lat1);
+}
+
 } // namespace
 
-constinit Formula const lambertAzimuthal{prepare, inProjection, neverSplit};
+constinit Formula const lambertAzimuthal{prepare, inProjection, neverSplit, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

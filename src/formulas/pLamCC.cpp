@@ -92,8 +92,17 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return sideOf(record.Lat1, record.Lat2) * point.y > -90;
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    MapEdges ends = edgesOppositeToLon0(record);
+    if (sideOf(record.Lat1, record.Lat2) > 0)
+        ends.window.south = placeInset - 90;
+    else
+        ends.window.north = 90 - placeInset;
+    return ends;
+}
+
 } // namespace
 
-constinit Formula const lambertConformalConic{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const lambertConformalConic{prepare, inProjection, splitOppositeToLon0, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

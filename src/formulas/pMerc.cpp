@@ -48,8 +48,15 @@ bool inProjection(PROJDATA const&, PROJPOINT const& point) noexcept {
     return std::fabs(point.y) < 90;
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    MapEdges ends = edgesOppositeToLon0(record);
+    ends.window.north = 90 - placeInset;
+    ends.window.south = -ends.window.north;
+    return ends;
+}
+
 } // namespace
 
-constinit Formula const mercator{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const mercator{prepare, inProjection, splitOppositeToLon0, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -41,6 +41,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 
 } // namespace
 
-constinit Formula const miller{prepare, isAnywhere, splitOppositeToLon0};
+constinit Formula const miller{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -49,6 +49,6 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 
 } // namespace
 
-constinit Formula const mollweide{prepare, isAnywhere, splitOppositeToLon0};
+constinit Formula const mollweide{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -64,16 +64,25 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
         hold(converter, ObliqueMercator(work, pole));
 }
 
+NorthernPole poleOf(PROJDATA const& record) {
+    return {{record.Lon1 * degree, record.Lat1 * degree}, {record.Lon2 * degree, record.Lat2 * degree}};
+}
+
 bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    auto const radians = [](double degrees) { return degrees * degree; };
-    NorthernPole const pole({radians(record.Lon1), radians(record.Lat1)}, {radians(record.Lon2), radians(record.Lat2)});
-    double const theta = longitudeFrom(pole.lambda, radians(point.x));
-    auto const p = CentredFrame{pole.sin, pole.cos}.place(sinCos(radians(point.y)), theta);
+    NorthernPole const pole = poleOf(record);
+    double const theta = longitudeFrom(pole.lambda, point.x * degree);
+    auto const p = CentredFrame{pole.sin, pole.cos}.place(sinCos(point.y * degree), theta);
     return std::hypot(p.east, p.north) > 4 * edge;
+}
+
+MapEdges edges(PROJDATA const& record) noexcept {
+    NorthernPole const pole = poleOf(record);
+    ObliqueCut const cut{.present = true, .lon0 = pole.lambda * radian, .sinPole = pole.sin, .cosPole = pole.cos};
+    return edgesOf(cut, [](SinCos<double> phi) { return std::atan2(phi.sin, phi.cos); });
 }
 
 } // namespace
 
-constinit Formula const obliqueMercator{prepare, inProjection, neverSplit};
+constinit Formula const obliqueMercator{prepare, inProjection, neverSplit, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -66,8 +66,12 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return placeInDegrees(record.Lat0, record.Lon0, point).up > -edge / 2;
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    return {.horizon = {true, record.Lon0, record.Lat0}};
+}
+
 } // namespace
 
-constinit Formula const orthographic{prepare, inProjection, neverSplit};
+constinit Formula const orthographic{prepare, inProjection, neverSplit, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -87,8 +87,12 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    return {.window = windowAbout(record.Lon0, 90)};
+}
+
 } // namespace
 
-constinit Formula const polyconic{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const polyconic{prepare, inProjection, splitOppositeToLon0, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -73,8 +73,12 @@ bool splitOppositeToGreenwich(PROJDATA const&, PROJPOINT const* points, unsigned
     return splitAtOppositeMeridian(0, points, count, out1, out2);
 }
 
+MapEdges edges(PROJDATA const&) noexcept {
+    return {.window = windowAbout(0, 180)};
+}
+
 } // namespace
 
-constinit Formula const robinson{prepare, isAnywhere, splitOppositeToGreenwich};
+constinit Formula const robinson{prepare, isAnywhere, splitOppositeToGreenwich, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

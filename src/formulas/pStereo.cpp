@@ -70,8 +70,12 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return isClearOfAntipode(record.Lat0, record.Lon0, point);
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    return edgesAroundAntipode(record.Lon0, record.Lat0);
+}
+
 } // namespace
 
-constinit Formula const stereographic{prepare, inProjection, neverSplit};
+constinit Formula const stereographic{prepare, inProjection, neverSplit, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

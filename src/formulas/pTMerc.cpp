@@ -138,8 +138,13 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return record.Lon0 - 45 < point.x && point.x < record.Lon0 + 45;
 }
 
+MapEdges edges(PROJDATA const& record) noexcept {
+    double const west = std::fmax(record.Lon0 - 45, -360), east = std::fmin(record.Lon0 + 45, 360);
+    return {.window = {.present = true, .wraps = false, .west = west + lineInset, .east = east - lineInset}};
+}
+
 } // namespace
 
-constinit Formula const transverseMercator{prepare, inProjection, splitOppositeToLon0};
+constinit Formula const transverseMercator{prepare, inProjection, splitOppositeToLon0, edges};
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -1,29 +1,106 @@
-// Preclipping. The cutting itself is still to come: both operations refuse.
+// Preclipping: lines and rings cut to what a projection's map shows.
 #include <zrproj/preclip.h>
 
+#include "frame/errors.h"
+#include "frame/log.h"
+#include "host/fpenv.h"
+#include "proj/handle.h"
+#include "proj/preclip_cut.h"
+
 #include <memory>
+#include <new>
 
 namespace ZrProj {
 
 namespace {
 
-bool refuse(CPROJCHAIN** chains) {
+using preclip::Path;
+
+constexpr char sourceFile[] = ".\\preclip.cpp";
+
+std::vector<Path> cutToEdges(formulas::MapEdges const& edges, std::vector<Path> paths) {
+    if (edges.window.present)
+        paths = preclip::cut(preclip::WindowArea(edges.window), std::move(paths));
+    if (edges.horizon.present)
+        paths = preclip::cut(preclip::HorizonArea(edges.horizon), std::move(paths));
+    if (edges.oblique.present)
+        paths = preclip::cut(preclip::ObliqueArea(edges.oblique), std::move(paths));
+    if (edges.polarHole.present)
+        paths = preclip::cut(preclip::PolarHoleArea(edges.polarHole), std::move(paths));
+    for (auto const* hole : {&edges.hole, &edges.otherHole})
+        if (hole->present)
+            paths = preclip::cut(preclip::HoleArea(*hole), std::move(paths));
+    return paths;
+}
+
+/// Frees a list that nobody has taken.
+struct FreeChains {
+    void operator()(CPROJCHAIN* chains) const { ProjFreeChains(chains); }
+};
+using Chains = std::unique_ptr<CPROJCHAIN, FreeChains>;
+
+/// `points` and one more chain, in front of `rest`.
+Chains chainOf(std::span<PROJPOINT const> points, bool isClosed, Chains rest) {
+    auto copy = std::make_unique_for_overwrite<PROJPOINT[]>(points.size());
+    std::ranges::copy(points, copy.get());
+    Chains chain(new CPROJCHAIN{static_cast<unsigned>(points.size()), copy.get(), isClosed, rest.get()});
+    static_cast<void>(copy.release());
+    static_cast<void>(rest.release());
+    return chain;
+}
+
+Chains chainsOf(std::vector<Path> const& paths, std::span<PROJPOINT const> given) {
+    Chains chains;
+    for (auto path = paths.rbegin(); path != paths.rend(); ++path)
+        chains = chainOf(path->isAsGiven ? given : path->points, path->isRing, std::move(chains));
+    return chains;
+}
+
+using Reader = std::vector<Path> (*)(std::span<PROJPOINT const> points);
+
+bool preclipTo(ProjectionBlock const& block, std::span<PROJPOINT const> points, Reader read, CPROJCHAIN** chains) {
+    if (!block.formula)
+        return AssertFailed(sourceFile, __LINE__);
+    if (!block.converter.hasMap)
+        return true;
+    try {
+        *chains = withDefaultFloatingPoint([&] {
+                      return chainsOf(cutToEdges(block.formula->edges(block.area), read(points)), points);
+                  }).release();
+        return true;
+    } catch (std::exception const&) { // no memory, or no vector so long
+        ReportError(sourceFile, __LINE__, errorOutOfMemory, nullptr);
+        return false;
+    }
+}
+
+bool preclipAny(void* handle, PROJPOINT const* points, unsigned count, unsigned least, Reader read,
+                CPROJCHAIN** chains) {
     if (chains)
         *chains = nullptr;
-    return false;
+    if (!handle || !points || !chains || count < least) {
+        ReportError(sourceFile, __LINE__, errorBadParameter, nullptr);
+        return false;
+    }
+    return preclipTo(ProjectionBlock::of(handle), {points, count}, read, chains);
 }
 
 } // namespace
 
-bool ProjLLPreclipPolyline(void*, PROJPOINT const*, unsigned, CPROJCHAIN** chains) {
-    return refuse(chains);
+bool ProjLLPreclipPolyline(void* handle, PROJPOINT const* points, unsigned count, CPROJCHAIN** chains) {
+    LogPrintf("ProjLLPreclipPolyline(hProj=%p, pPts=%p, nPts=%u, ppChains=%p)\n", handle,
+              static_cast<void const*>(points), count, static_cast<void*>(chains));
+    return preclipAny(handle, points, count, 2, preclip::linesOf, chains);
 }
 
-bool ProjLLPreclipPolygon(void*, PROJPOINT const*, unsigned, CPROJCHAIN** chains) {
-    return refuse(chains);
+bool ProjLLPreclipPolygon(void* handle, PROJPOINT const* points, unsigned count, CPROJCHAIN** chains) {
+    LogPrintf("ProjLLPreclipPolygon(hProj=%p, pPts=%p, nPts=%u, ppChains=%p)\n", handle,
+              static_cast<void const*>(points), count, static_cast<void*>(chains));
+    return preclipAny(handle, points, count, 3, preclip::ringsOf, chains);
 }
 
 void ProjFreeChains(CPROJCHAIN* chains) {
+    LogPrintf("ProjFreeChains(pChains=%p)\n", static_cast<void*>(chains));
     while (chains) {
         std::unique_ptr<CPROJCHAIN> const piece(chains);
         std::unique_ptr<PROJPOINT[]> const points(piece->pPoints);

@@ -1,19 +1,191 @@
 #include <zrproj/preclip.h>
 
+#include "support/cases.h"
+#include "support/error_host.h"
+#include "support/faults.h"
+#include "support/floating_point.h"
+#include "support/registry.h"
+
 #include <gtest/gtest.h>
 
-using namespace ZrProj;
+#include <cfloat>
+#include <cmath>
+#include <cstring>
+#include <memory>
+#include <vector>
 
-TEST(Preclip, RefusesForNow) {
-    PROJPOINT const point = {0, 0};
+using namespace ZrProj;
+using namespace ZrProj::test;
+
+namespace {
+
+using Points = std::vector<PROJPOINT>;
+
+struct Chain {
+    Points points;
+    bool isClosed;
+};
+
+enum Kind { line, area };
+
+/// What the call gives; a call that fails is a failure of the test.
+std::vector<Chain> preclip(std::string const& words, Kind kind, Points const& points) {
+    PROJDATA record = recordOf(words);
+    CProjector projector(&record);
+    CPROJCHAIN* chains = nullptr;
+    auto const count = static_cast<unsigned>(points.size());
+    EXPECT_TRUE(kind == line ? projector.LLPreclipPolyline(points.data(), count, &chains)
+                             : projector.LLPreclipPolygon(points.data(), count, &chains));
+    std::vector<Chain> result;
+    for (auto const* chain = chains; chain; chain = chain->pNext)
+        result.push_back({{chain->pPoints, chain->pPoints + chain->nPoints}, chain->bClosed});
+    ProjFreeChains(chains);
+    return result;
+}
+
+bool isSame(Points const& a, Points const& b) {
+    return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(PROJPOINT)) == 0;
+}
+
+constexpr char mercator[] = "type=1 ellipsoid=47";
+constexpr char albers[] = "type=2 ellipsoid=47 lat1=29.5 lat2=45.5 lon0=5";
+constexpr char orthographic[] = "type=7 ellipsoid=48 lat0=40 lon0=10";
+constexpr char sinusoidal[] = "type=19 ellipsoid=47";
+constexpr char northernAzimuthal[] = "type=20 ellipsoid=47 lat1=90";
+constexpr char gaussKruger[] = "type=18 ellipsoid=47 lon0=-175";
+double const none = std::nan("");
+
+} // namespace
+
+TEST(Preclip, RefusesWhatIsNoLineOrArea) {
+    PROJDATA record = recordOf(mercator);
+    CProjector const created(&record);
+    PROJPOINT const points[3] = {{0, 0}, {1, 0}, {1, 1}};
     CPROJCHAIN chain = {};
-    CPROJCHAIN* chains = &chain;
-    EXPECT_FALSE(ProjLLPreclipPolyline(nullptr, &point, 1, &chains));
-    EXPECT_EQ(chains, nullptr);
-    chains = &chain;
-    EXPECT_FALSE(ProjLLPreclipPolygon(nullptr, &point, 1, &chains));
-    EXPECT_EQ(chains, nullptr);
-    EXPECT_FALSE(ProjLLPreclipPolyline(nullptr, nullptr, 0, nullptr));
+    auto const expectRefused = [&](auto const& call, bool hasChains = true) {
+        ErrorHost host(1);
+        CPROJCHAIN* chains = &chain;
+        EXPECT_FALSE(call(hasChains ? &chains : nullptr));
+        EXPECT_EQ(chains, hasChains ? nullptr : &chain);
+        ASSERT_EQ(host.calls.size(), 2u);
+        EXPECT_EQ(host.calls[1].number, 20205u);
+        EXPECT_EQ(host.calls[1].file, ".\\preclip.cpp");
+        EXPECT_EQ(host.calls[1].text, "Software was passed a bad parameter");
+    };
+    void* const handle = ProjCreateProjection(&record);
+    expectRefused([&](auto chains) { return ProjLLPreclipPolyline(nullptr, points, 3, chains); });
+    expectRefused([&](auto chains) { return ProjLLPreclipPolyline(handle, nullptr, 3, chains); });
+    expectRefused([&](auto chains) { return ProjLLPreclipPolyline(handle, points, 1, chains); });
+    expectRefused([&](auto chains) { return ProjLLPreclipPolyline(handle, points, 3, chains); }, false);
+    expectRefused([&](auto chains) { return ProjLLPreclipPolygon(nullptr, points, 3, chains); });
+    expectRefused([&](auto chains) { return ProjLLPreclipPolygon(handle, nullptr, 3, chains); });
+    expectRefused([&](auto chains) { return ProjLLPreclipPolygon(handle, points, 2, chains); });
+    expectRefused([&](auto chains) { return ProjLLPreclipPolygon(handle, points, 0, chains); });
+    expectRefused([&](auto chains) { return ProjLLPreclipPolygon(handle, points, 3, chains); }, false);
+    ProjDeleteProjection(handle);
+}
+
+TEST(Preclip, WhatLiesInsideComesBackAsItIs) {
+    Points const ring{{170.1, 10.3}, {-170.7, 12.9}, {-175.1, 30.7}, {170.1, 10.3}};
+    for (auto const* words : {"type=1 ellipsoid=47 lon0=180", "type=6 ellipsoid=47 lat0=20 lon0=-170", albers})
+        for (Kind const kind : {line, area}) {
+            auto const chains = preclip(words, kind, ring);
+            if (words == albers) // which ends at the longitude -175
+                EXPECT_EQ(chains.size(), kind == line ? 3u : 2u);
+            else {
+                ASSERT_EQ(chains.size(), 1u);
+                EXPECT_TRUE(isSame(chains[0].points, ring));
+                EXPECT_EQ(chains[0].isClosed, kind == area);
+            }
+        }
+}
+
+TEST(Preclip, LinesEndOnBothSidesOfTheOppositeMeridian) {
+    auto const chains = preclip(sinusoidal, line, {{170, 0}, {-170, 20}, {-160, 20}});
+    ASSERT_EQ(chains.size(), 2u);
+    ASSERT_EQ(chains[0].points.size(), 2u);
+    ASSERT_EQ(chains[1].points.size(), 3u);
+    EXPECT_NEAR(chains[0].points[1].x, 180, 2e-9);
+    EXPECT_LT(chains[0].points[1].x, 180);
+    EXPECT_NEAR(chains[1].points[0].x, -180, 2e-9);
+    EXPECT_GT(chains[1].points[0].x, -180);
+    EXPECT_NEAR(chains[1].points[0].y, 10, 2e-9);
+}
+
+TEST(Preclip, ALongitudeWindowTakesPlacesFromTheOtherSideOfTheAntimeridian) {
+    auto const chains = preclip(gaussKruger, line, {{100, 50}, {170, 50}, {-140, 50}, {-100, 50}});
+    ASSERT_EQ(chains.size(), 1u);
+    EXPECT_NEAR(chains[0].points.front().x, -220, 2e-9);
+    EXPECT_EQ(chains[0].points[1].x, -190);
+    EXPECT_NEAR(chains[0].points.back().x, -130, 2e-9);
+}
+
+TEST(Preclip, ARingAroundAPoleIsClosedAlongIt) {
+    Points coast;
+    for (int lon = -180; lon < 180; lon += 10)
+        coast.push_back({double(lon), -70 + 5 * std::sin(lon / 20.0)});
+    auto const cylindrical = preclip(sinusoidal, area, coast);
+    ASSERT_EQ(cylindrical.size(), 1u);
+    double lowest = 0;
+    for (auto const& point : cylindrical[0].points)
+        lowest = std::fmin(lowest, point.y);
+    EXPECT_EQ(lowest, -90);
+    EXPECT_EQ(preclip("type=6 ellipsoid=47 lat0=-90", area, coast).size(), 1u);
+    // On the map about the other pole it is all that lies beyond the coast: the coast, and the rim of the map.
+    auto const beyond = preclip(northernAzimuthal, area, coast);
+    ASSERT_EQ(beyond.size(), 2u);
+    EXPECT_TRUE(isSame(beyond[0].points, coast));
+    EXPECT_EQ(beyond[1].points.size(), 360u);
+    EXPECT_NEAR(beyond[1].points[0].y, -90, 2e-6);
+    // Seen from far away there is nothing of it.
+    EXPECT_TRUE(preclip("type=7 ellipsoid=47 lat0=90", area, coast).empty());
+}
+
+TEST(Preclip, AnAreaThatHoldsTheWholeMapBecomesItsOutline) {
+    Points const world{{-180, -90}, {-60, -90}, {60, -90}, {180, -90}, {180, 90}, {60, 90}, {-60, 90}, {-180, 90}};
+    auto const map = preclip("type=8 ellipsoid=48 lon0=-90", area, world);
+    ASSERT_EQ(map.size(), 2u); // the world as given has a seam at 180
+    Points const most{{-179, -80}, {-60, -80}, {60, -80}, {179, -80}, {179, 80}, {60, 80}, {-60, 80}, {-179, 80}};
+    auto const outline = preclip("type=7 ellipsoid=48", area, most);
+    ASSERT_EQ(outline.size(), 1u);
+    auto const hemisphere = preclip("type=27 ellipsoid=48", area, world);
+    ASSERT_EQ(hemisphere.size(), 1u);
+    EXPECT_EQ(hemisphere[0].points.size(), 360u);
+}
+
+TEST(Preclip, PointsThatAreNoPlaces) {
+    auto const broken =
+        preclip(sinusoidal, line, {{0, 0}, {1, 1}, {none, 1}, {2, 2}, {DBL_MAX, DBL_MAX}, {3, 3}, {4, 4}});
+    ASSERT_EQ(broken.size(), 2u);
+    EXPECT_TRUE(isSame(broken[0].points, {{0, 0}, {1, 1}}));
+    EXPECT_TRUE(isSame(broken[1].points, {{3, 3}, {4, 4}}));
+    auto const ring = preclip(sinusoidal, area, {{0, 0}, {1, -91}, {1, 1}, {INFINITY, 1}, {0, 1}, {0, 1e300}});
+    ASSERT_EQ(ring.size(), 1u);
+    EXPECT_TRUE(isSame(ring[0].points, {{0, 0}, {1, 1}, {0, 1}}));
+    EXPECT_TRUE(preclip(sinusoidal, area, {{0, 0}, {none, none}, {1, 1}}).empty());
+}
+
+TEST(Preclip, NoMapNoChains) {
+    EXPECT_TRUE(preclip("type=5 ellipsoid=47 lat1=30 lat2=-30", line, {{0, 0}, {1, 1}}).empty());
+    PROJDATA record{};
+    void* const unprojected = ProjCreateProjection(&record);
+    PROJPOINT const points[2] = {{0, 0}, {1, 1}};
+    CPROJCHAIN* chains = nullptr;
+    EXPECT_FALSE(ProjLLPreclipPolyline(unprojected, points, 2, &chains));
+    ProjDeleteProjection(unprojected);
+}
+
+TEST(Preclip, LeavesTheFloatingPointEnvironmentAlone) {
+    PROJDATA record = recordOf(orthographic);
+    CProjector projector(&record);
+    PROJPOINT const points[4] = {{none, 0}, {0, 0}, {170, 1e-310}, {1, 90}};
+    CPROJCHAIN* chains = nullptr;
+    {
+        TrapsEnabled const traps;
+        EXPECT_TRUE(projector.LLPreclipPolygon(points, 4, &chains));
+        EXPECT_TRUE(traps.untouched());
+    }
+    ProjFreeChains(chains);
 }
 
 // Under the address sanitizer a piece left behind, or freed twice, is a failure.

@@ -1,0 +1,93 @@
+#include "proj/preclip_path.h"
+
+#include <cmath>
+
+namespace ZrProj::preclip {
+
+bool isPlace(PROJPOINT const& point) {
+    return std::fabs(point.x) <= 360 && std::fabs(point.y) <= 90;
+}
+
+std::vector<Path> linesOf(std::span<PROJPOINT const> points) {
+    std::vector<Path> lines;
+    for (std::size_t i = 0, next = 0; i < points.size(); i = next + 1) {
+        for (next = i; next < points.size() && isPlace(points[next]);)
+            ++next;
+        if (next - i >= 2)
+            lines.push_back({{points.begin() + std::ptrdiff_t(i), points.begin() + std::ptrdiff_t(next)},
+                             false,
+                             next - i == points.size()});
+    }
+    return lines;
+}
+
+std::vector<Path> ringsOf(std::span<PROJPOINT const> points) {
+    Path ring{{}, true, true};
+    ring.points.reserve(points.size());
+    for (auto const& point : points)
+        if (isPlace(point))
+            ring.points.push_back(point);
+    ring.isAsGiven = ring.points.size() == points.size();
+    if (ring.points.size() < 3)
+        return {};
+    if (ring.points.front().x == ring.points.back().x && ring.points.front().y == ring.points.back().y)
+        ring.points.pop_back();
+    return {std::move(ring)};
+}
+
+namespace {
+
+/// The step in longitude from one point to the next, the short way.
+double shortWay(double from, double to) {
+    double const step = to - from;
+    return std::fabs(step) > 180 ? step - 360 * std::round(step / 360) : step;
+}
+
+} // namespace
+
+Unrolled::Unrolled(Path const& path) {
+    auto const& given = path.points;
+    points_.reserve(given.size() + 1);
+    points_.push_back(given.front());
+    double turned = 0; // 360 times a whole number
+    for (std::size_t i = 1; i < given.size() + (path.isRing ? 1 : 0); ++i) {
+        auto const &from = given[i - 1], &to = given[i % given.size()];
+        double const step = to.x - from.x;
+        if (std::fabs(step) > 180)
+            turned += shortWay(from.x, to.x) - step;
+        turned = 360 * std::round(turned / 360);
+        points_.push_back({to.x + turned, to.y});
+        if (path.isRing)
+            underneath_ += (points_[i].x - points_[i - 1].x) * (from.y + to.y) / 2;
+    }
+    turns_ = std::round(turned / 360);
+}
+
+bool Unrolled::holdsNorthPole() const {
+    if (std::fmod(turns_, 2.0) == 0)
+        return false;
+    double const mean = underneath_ / turns_ / 360;
+    return std::fabs(mean) < 1e-9 ? turns_ > 0 : mean > 0;
+}
+
+bool Unrolled::holds(PROJPOINT const& place) const {
+    bool inside = holdsNorthPole();
+    for (std::size_t i = 1; i < points_.size(); ++i) {
+        auto const &a = points_[i - 1], &b = points_[i];
+        double const west = a.x < b.x ? a.x : b.x, east = a.x < b.x ? b.x : a.x;
+        double const lon = place.x + 360 * std::ceil((west - place.x) / 360);
+        if (lon < east && lon >= west && a.y + (lon - a.x) / (b.x - a.x) * (b.y - a.y) > place.y)
+            inside = !inside;
+    }
+    return inside;
+}
+
+bool Unrolled::holdsItsLeft() const {
+    if (std::fmod(turns_, 2.0) != 0)
+        return (turns_ > 0) == holdsNorthPole();
+    // Around the first point's latitude, so that a ring of even turns counts as if it were none.
+    double const first = points_.front().y;
+    return underneath_ - turns_ * 360 * first < 0;
+}
+
+} // namespace ZrProj::preclip

@@ -1,0 +1,154 @@
+// The areas that are bounded by a curve on the sphere: a hemisphere, and the globe without a place.
+#include "proj/preclip_areas.h"
+#include "proj/preclip_crossings.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ZrProj::preclip {
+
+namespace {
+
+constexpr double degree = 3.141592653589793 / 180;
+
+PROJPOINT between(PROJPOINT const& a, PROJPOINT const& b, double s) {
+    return {a.x + s * (b.x - a.x), a.y + s * (b.y - a.y)};
+}
+
+/// A longitude within +-180.
+double turnedBack(double lon) {
+    return std::remainder(lon, 360.0);
+}
+
+PROJPOINT turnedBack(PROJPOINT const& point) {
+    return {turnedBack(point.x), point.y};
+}
+
+} // namespace
+
+Direction Centre::direction(SpherePlace const& place) const {
+    double const out = place.cos * std::cos(place.theta);
+    return {place.cos * std::sin(place.theta), cos * place.sin - sin * out, sin * place.sin + cos * out};
+}
+
+SpherePlace Centre::place(Direction const& at) const {
+    double const out = cos * at.up - sin * at.north;
+    return {std::atan2(at.east, out), sin * at.up + cos * at.north, std::hypot(at.east, out)};
+}
+
+bool areNeighbours(Direction const& a, Direction const& b) {
+    constexpr double cosine = 0.99983; // of 1.05 degrees
+    return a.east * b.east + a.north * b.north + a.up * b.up > cosine;
+}
+
+HorizonArea::HorizonArea(formulas::Horizon const& horizon)
+    : horizon_(horizon), centre_{std::sin(horizon.lat * degree), std::cos(horizon.lat * degree)},
+      plane_(std::sin(formulas::lineInset * degree)), tolerance_(plane_ / 2) {}
+
+HorizonArea::Spot HorizonArea::at(PROJPOINT const& point) const {
+    double const phi = point.y * degree;
+    auto const from = centre_.direction({turnedBack(point.x - horizon_.lon) * degree, std::sin(phi), std::cos(phi)});
+    return {point.x, point.y, from, from.up - plane_};
+}
+
+void HorizonArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
+    double const speed = (std::fabs(b.lon - a.lon) + std::fabs(b.lat - a.lat)) * degree, curvature = speed * speed;
+    if (holds(a) == holds(b) && std::fmin(std::fabs(a.height), std::fabs(b.height)) > curvature / 8)
+        return;
+    if (isOnBoundary(a) && isOnBoundary(b) && areNeighbours(a.from, b.from))
+        return; // a piece of the horizon
+    PROJPOINT const from{a.lon, a.lat}, to{b.lon, b.lat};
+    // What is hardly below the plane counts as on it: there lie the cuts of an earlier time, rounded.
+    auto const level = [&](double height) { return height < 0 && height >= -tolerance_ ? 0 : height; };
+    auto const height = [&](double s) { return level(at(between(from, to, s)).height); };
+    bool inside = holds(a);
+    auto const cut = [&](double s) {
+        PROJPOINT const point = between(from, to, s);
+        auto const spot = at(point);
+        double const azimuth = std::atan2(spot.from.east, spot.from.north) / degree;
+        inside = !inside;
+        out.push_back({inside, azimuth < 0 ? azimuth + 360 : azimuth, turnedBack(point)});
+    };
+    SignChanges(height, curvature, cut).search(0, level(a.height), 1, level(b.height));
+}
+
+PROJPOINT HorizonArea::atAzimuth(double t, double up) const {
+    double const across = std::sqrt((1 - up) * (1 + up));
+    auto const place = centre_.place({across * std::sin(t * degree), across * std::cos(t * degree), up});
+    return {turnedBack(horizon_.lon + place.theta / degree), std::atan2(place.sin, place.cos) / degree};
+}
+
+PROJPOINT HorizonArea::farOutside() const {
+    return {horizon_.lon + 180, -horizon_.lat};
+}
+
+void PolarHoleArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
+    if (holds(a) == holds(b))
+        return;
+    double const latitude = hole_.side * hole_.limit, s = std::clamp((latitude - a.y) / (b.y - a.y), 0.0, 1.0);
+    double const lon = turnedBack(between(a, b, s).x);
+    out.push_back({holds(b), lon < 0 ? lon + 360 : lon, {lon, latitude}});
+}
+
+PROJPOINT PolarHoleArea::onBoundary(double t) const {
+    return {turnedBack(t), hole_.side * hole_.limit};
+}
+
+namespace {
+
+/// Inside of the ellipse by no more than this is on it: the cuts of an earlier time, rounded, and the chords between
+/// neighbours on it.
+constexpr double nearlyOnEllipse = 0.996; // of the square of the distance
+
+double squareOf(PROJPOINT const& p) {
+    return p.x * p.x + p.y * p.y;
+}
+
+} // namespace
+
+PROJPOINT HoleArea::scaled(Spot const& spot, double lon) const {
+    double const turned = 360 * std::round((lon - hole_.lon) / 360);
+    return {(spot.x - hole_.lon - turned) / hole_.halfWidth, (spot.y - hole_.lat) / hole_.halfHeight};
+}
+
+bool HoleArea::holds(Spot const& spot) const {
+    return squareOf(scaled(spot, spot.x)) >= nearlyOnEllipse;
+}
+
+bool HoleArea::isOnBoundary(Spot const& spot) const {
+    double const square = squareOf(scaled(spot, spot.x));
+    return square >= nearlyOnEllipse && square <= 2 - nearlyOnEllipse;
+}
+
+void HoleArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
+    double const low = hole_.lat - hole_.halfHeight, high = hole_.lat + hole_.halfHeight;
+    if ((a.y < low && b.y < low) || (a.y > high && b.y > high))
+        return;
+    double const lon = (a.x + b.x) / 2;
+    auto const p = scaled(a, lon), q = scaled(b, lon);
+    double const dx = q.x - p.x, dy = q.y - p.y, length2 = dx * dx + dy * dy;
+    if (length2 == 0)
+        return;
+    double const foot = -(p.x * dx + p.y * dy) / length2, cross = p.x * dy - p.y * dx, miss2 = cross * cross / length2;
+    double const half = std::sqrt(std::max(1 - miss2, 0.0) / length2);
+    bool const leaves = holds(a), returns = holds(b);
+    bool const passes = miss2 < nearlyOnEllipse && foot > 0 && foot < 1;
+    if (leaves == returns && !(leaves && passes))
+        return;
+    auto const cut = [&](bool enters, double s) {
+        PROJPOINT const at = between(p, q, s);
+        double const t = std::atan2(at.y, at.x) / degree, angle = t < 0 ? t + 360 : t;
+        out.push_back({enters, angle, onBoundary(angle)});
+    };
+    if (leaves)
+        cut(false, std::clamp(foot - half, 0.0, 1.0));
+    if (returns)
+        cut(true, std::clamp(foot + half, 0.0, 1.0));
+}
+
+PROJPOINT HoleArea::onEllipse(double t, double size) const {
+    return {turnedBack(hole_.lon + size * hole_.halfWidth * std::cos(t * degree)),
+            hole_.lat + size * hole_.halfHeight * std::sin(t * degree)};
+}
+
+} // namespace ZrProj::preclip

@@ -1,0 +1,124 @@
+// The area between two meridians and two parallels.
+#include "proj/preclip_areas.h"
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+
+namespace ZrProj::preclip {
+
+namespace {
+
+constexpr double margin = 1.001 * formulas::lineInset; // to the true edge, and over its rounding
+
+enum Side { southSide, eastSide, northSide, westSide };
+
+} // namespace
+
+WindowArea::WindowArea(formulas::Window const& window) : window_(window), middle_((window.west + window.east) / 2) {
+    double const width = window.east - window.west, height = window.north - window.south;
+    sides = {0, width, width + height, 2 * width + height, 2 * (width + height)};
+    referenceBegin = sides[1];
+    referenceEnd = sides[2];
+}
+
+double WindowArea::clampLon(double lon) const {
+    return std::clamp(lon, window_.west, window_.east);
+}
+
+double WindowArea::clampLat(double lat) const {
+    return std::clamp(lat, window_.south, window_.north);
+}
+
+WindowArea::Spot WindowArea::at(PROJPOINT const& point) const {
+    // Half open, so that a point on the seam is in the same copy however often the path has wound around.
+    double const turn = 360 * std::floor((point.x - middle_) / 360 + 0.5), lon = point.x - turn;
+    bool const inside = lon >= window_.west - margin && lon <= window_.east + margin && point.y >= window_.south &&
+                        point.y <= window_.north;
+    return {point.x, point.y, turn, inside};
+}
+
+bool WindowArea::isBesideEdge(double lon) const {
+    return lon < window_.west - formulas::lineInset / 2 || lon > window_.east + formulas::lineInset / 2;
+}
+
+PROJPOINT WindowArea::shown(Spot const& spot, PROJPOINT const&) const {
+    double const lon = spot.lon - spot.turn;
+    return {isBesideEdge(lon) ? clampLon(lon) : lon, spot.lat};
+}
+
+bool WindowArea::keepsAsGiven(Spot const& spot, PROJPOINT const& given) const {
+    double const lon = spot.lon - spot.turn;
+    return !isBesideEdge(lon) && (window_.wraps || given.x == lon);
+}
+
+void WindowArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
+    if (a.inside && b.inside && a.turn == b.turn)
+        return;
+    double const step = b.turn < a.turn ? -360 : 360;
+    for (double turn = a.turn;; turn += step) {
+        crossCopy(a, b, turn, out);
+        if (turn == b.turn)
+            return;
+    }
+}
+
+/// Liang and Barsky (1984): the part of the edge that lies between the window's meridians and parallels.
+void WindowArea::crossCopy(Spot const& a, Spot const& b, double turn, Crossings& out) const {
+    double const dx = b.lon - a.lon, dy = b.lat - a.lat, x = a.lon - turn;
+    double const speed[] = {-dy, dx, dy, -dx};
+    double const west = window_.west - margin, east = window_.east + margin;
+    double const room[] = {a.lat - window_.south, east - x, window_.north - a.lat, x - west};
+    bool const startsHere = a.inside && a.turn == turn, endsHere = b.inside && b.turn == turn;
+    double s0 = -DBL_MAX, s1 = DBL_MAX;
+    int entry = southSide, exit = northSide;
+    for (int side : {southSide, eastSide, northSide, westSide}) {
+        double const s = room[side] / speed[side];
+        if (speed[side] == 0) {
+            if (room[side] < 0)
+                return;
+        } else if (speed[side] < 0 && s > s0) {
+            s0 = s;
+            entry = side;
+        } else if (speed[side] > 0 && s < s1) {
+            s1 = s;
+            exit = side;
+        }
+    }
+    if ((s0 > s1 || s0 > 1 || s1 < 0) && !startsHere && !endsHere)
+        return;
+    if (!startsHere)
+        out.push_back(crossing(true, a, b, std::clamp(s0, 0.0, 1.0), entry, turn));
+    if (!endsHere)
+        out.push_back(crossing(false, a, b, std::clamp(s1, 0.0, 1.0), exit, turn));
+}
+
+Crossing WindowArea::crossing(bool enters, Spot const& a, Spot const& b, double s, int side, double turn) const {
+    double const lon = clampLon(a.lon + s * (b.lon - a.lon) - turn), lat = clampLat(a.lat + s * (b.lat - a.lat));
+    switch (side) {
+    case southSide:
+        return {enters, lon - window_.west, {lon, window_.south}};
+    case eastSide:
+        return {enters, sides[1] + (lat - window_.south), {window_.east, lat}};
+    case northSide:
+        return {enters, sides[2] + (window_.east - lon), {lon, window_.north}};
+    default:
+        return {enters, sides[3] + (window_.north - lat), {window_.west, lat}};
+    }
+}
+
+PROJPOINT WindowArea::onBoundary(double t) const {
+    if (t < sides[1])
+        return {clampLon(window_.west + t), window_.south};
+    if (t < sides[2])
+        return {window_.east, clampLat(window_.south + (t - sides[1]))};
+    if (t < sides[3])
+        return {clampLon(window_.east - (t - sides[2])), window_.north};
+    return {window_.west, clampLat(window_.north - (t - sides[3]))};
+}
+
+PROJPOINT WindowArea::outside(double t) const {
+    return {window_.east + formulas::lineInset, window_.south + (t - sides[1])};
+}
+
+} // namespace ZrProj::preclip
