@@ -53,7 +53,7 @@ public:
 
 private:
     struct Fitted;
-    Fitted* m_fitted; // shared, with a use count; null: not calibrated
+    Fitted* m_fitted = nullptr; // shared, with a use count; null: not calibrated
 };
 
 } // namespace ZrProj

@@ -26,7 +26,7 @@ struct CImageRegistration::Fitted {
     }
 };
 
-CImageRegistration::CImageRegistration() : m_fitted(nullptr) {}
+CImageRegistration::CImageRegistration() = default;
 
 CImageRegistration::CImageRegistration(CImageRegistration const& other) : m_fitted(Fitted::share(other.m_fitted)) {}
 

@@ -29,7 +29,7 @@ public:
         std::vector<double> weights;
         std::vector<double> plane; // 1, u, v
     };
-    Solution solve(std::vector<double> wanted) const;
+    Solution solve(std::vector<double> y) const; // y: what is wanted at the controls
 
 private:
     SplineEquations(formulas::Warp const& warp, Factorisation const& affine);
