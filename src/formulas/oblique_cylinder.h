@@ -53,7 +53,6 @@ struct ObliqueCylinder {
 /// The edges of such a map, which ends at the line's poles and where `along` is half a turn. `latitude` gives the
 /// geographic latitude, in radians, of a place on the sphere.
 template <class Latitude> MapEdges edgesOf(ObliqueCut const& cut, Latitude const& latitude) {
-    constexpr double degree = pi / 180;
     MapEdges ends;
     if (cut.B > 1) // the sphere has less longitude than the globe
         ends.window = windowAbout(cut.lon0, 180 / cut.B);

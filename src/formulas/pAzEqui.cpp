@@ -193,7 +193,7 @@ void prepare(Converter& converter, PROJDATA const& work) noexcept {
 
 /// The antipode; on an ellipsoid it is torn along its parallel, over as much as the astroid about it.
 MapEdges edges(PROJDATA const& record) noexcept {
-    double const torn = 180 * record.Flattening * std::cos(record.Lat1 * (pi / 180)) * 1.03;
+    double const torn = 180 * record.Flattening * std::cos(record.Lat1 * degree) * 1.03;
     return edgesAround(record.Lon0 + 180, -record.Lat1, torn);
 }
 

@@ -201,7 +201,7 @@ MapEdges edges(PROJDATA const& record) noexcept {
         return isometricLatitude.geodetic((isometric(chi) - sphere.logE) / sphere.B);
     };
     return edgesOf({.present = true,
-                    .lon0 = at.line.lambda0 * (180 / pi),
+                    .lon0 = at.line.lambda0 * radian,
                     .B = sphere.B,
                     .logE = sphere.logE,
                     .e = sphere.e,

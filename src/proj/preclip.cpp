@@ -61,7 +61,7 @@ using Reader = std::vector<Path> (*)(std::span<PROJPOINT const> points);
 bool preclipTo(ProjectionBlock const& block, std::span<PROJPOINT const> points, Reader read, CPROJCHAIN** chains) {
     if (!block.formula)
         return AssertFailed(sourceFile, __LINE__);
-    if (!block.converter.hasMap)
+    if (!block.converter.forward)
         return true;
     try {
         *chains = withDefaultFloatingPoint([&] {
