@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <cfloat>
 #include <numeric>
+#include <utility>
 
 namespace ZrProj::Command {
 namespace {
@@ -28,7 +29,8 @@ void PointBlock::add(BlockPoint const& point) {
     zones.push_back(point.zone);
 }
 
-Transform::Transform(ProjectionChoice const& choice, Direction direction) : m_choice(choice), m_direction(direction) {
+Transform::Transform(ProjectionChoice choice, Direction direction)
+    : m_choice(std::move(choice)), m_direction(direction) {
     if (!isDirect())
         converter(0);
 }

@@ -32,7 +32,7 @@ struct PointBlock {
 class Transform {
 public:
     /// Throws UsageError when the projection cannot convert.
-    Transform(ProjectionChoice const& choice, Direction direction);
+    Transform(ProjectionChoice choice, Direction direction);
 
     /// Converts a block in place; `unit` is that of projected coordinates.
     void run(PointBlock& block, LengthUnit const& unit);
