@@ -4,6 +4,7 @@
 #include <cfloat>
 #include <cmath>
 #include <numeric>
+#include <utility>
 
 namespace ZrProj::Command {
 namespace {
@@ -29,8 +30,8 @@ void PointBlock::add(BlockPoint const& point) {
     zones.push_back(point.zone);
 }
 
-Transform::Transform(ProjectionChoice const& choice, Direction direction, std::optional<DatumShift> const& shift)
-    : m_choice(choice), m_direction(direction) {
+Transform::Transform(ProjectionChoice choice, Direction direction, std::optional<DatumShift> const& shift)
+    : m_choice(std::move(choice)), m_direction(direction) {
     if (direction != Direction::Datum && !isDirect())
         converter(0);
     if (shift)

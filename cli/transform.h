@@ -35,7 +35,7 @@ struct PointBlock {
 class Transform {
 public:
     /// choice: not looked at for Direction::Datum. Throws UsageError when the projection or the datums cannot convert.
-    Transform(ProjectionChoice const& choice, Direction direction, std::optional<DatumShift> const& shift);
+    Transform(ProjectionChoice choice, Direction direction, std::optional<DatumShift> const& shift);
 
     /// Converts a block in place; `unit` is that of projected coordinates.
     void run(PointBlock& block, LengthUnit const& unit);

@@ -109,6 +109,7 @@ void reset(Outputs const& outputs) {
 
 } // namespace
 
+// NOLINTNEXTLINE(readability-non-const-parameter): all of them are written through Outputs
 bool ZrProjGetBitmapGeoParams(char const* imageFileName, ZrBitmapTagList const* tags, PROJDATA* data, DatumType* datum,
                               DATUM2WGS84* params, GEOREF* georef, std::uint32_t* flags) {
     Outputs const outputs{data, datum, params, georef};

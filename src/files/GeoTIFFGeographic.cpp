@@ -190,6 +190,8 @@ Outcome<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& elli
     bool const shifted = params.Method == DatumMethodMolodensky || params.Method == DatumMethodBursaWolf;
     if (datum == DatumTypeUserDefined && !shifted)
         return Refusal{"a datum of the user's own needs its shifts to WGS 84"};
+    if (datum != DatumTypeNone && nameOf(datum)[0] == '\0')
+        return Refusal{"the datum is none of the catalogue's"};
     if (ellipsoid.type == EllipsoidTypeNone)
         return Refusal{"the records tell no ellipsoid"};
     if (params.PrimeMeridian != 0)

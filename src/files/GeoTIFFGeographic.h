@@ -29,8 +29,9 @@ struct Geographic {
 /// nothing.
 Outcome<Geographic> readGeographic(KeyDirectory const& keys, std::uint16_t implied);
 
-/// Sets the geographic keys, and returns the system's code, 32767 for one of the user's own.
+/// Sets the geographic keys, and returns the system's code, 32767 for one without. `own` are the parameters of a datum
+/// of the user's own (0), and may be null for others.
 Outcome<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum,
-                                       DATUM2WGS84 const* params);
+                                       DATUM2WGS84 const* own);
 
 } // namespace ZrProj::GeoTIFF

@@ -11,10 +11,6 @@ namespace {
 
 constexpr double poleLatitude = 90;
 
-Refusal needsZero(char const* what) {
-    return {std::string("the projection has no ") + what + " other than 0 in the records"};
-}
-
 /// Puts equivalents in the place of parameters that no record has; `method` is how the result is to be taken.
 struct Normal {
     Method method;
@@ -77,6 +73,17 @@ Outcome<Normal> normal(Method const& method, Parameters const& p, Ellipsoid cons
     }
 }
 
+/// What a record of the method's type cannot hold of the parameters; "" when it can hold all.
+std::string faultOf(Method const& method, Parameters const& p) {
+    if (method.latitude == Latitude::MustBeZero && p.latitude != 0)
+        return "the projection has no latitude of origin other than 0 in the records";
+    if (method.longitude == Longitude::MustBeZero && p.longitude != 0)
+        return "the projection has no central meridian other than 0 in the records";
+    if (method.scale == ScaleFactor::MustBeOne && p.scale != 1)
+        return "the projection has no scale factor in the records";
+    return p.scale > 0 ? "" : "the scale factor is not above 0";
+}
+
 void setOblique(PROJDATA& record, Method const& method, Parameters const& p) {
     record.bUseAlpha = true;
     record.bRotate = true;
@@ -84,8 +91,11 @@ void setOblique(PROJDATA& record, Method const& method, Parameters const& p) {
     record.Alpha = p.azimuth;
 }
 
-/// The parallel of an equidistant cylindrical map, or both of a cone.
-void setParallels(PROJDATA& record, Method const& method, Parameters const& p) {
+void setAngles(PROJDATA& record, Method const& method, Parameters const& p) {
+    if (method.latitude != Latitude::MustBeZero)
+        ProjSetParam(&record, static_cast<int>(method.latitude), &p.latitude);
+    if (method.longitude != Longitude::MustBeZero)
+        ProjSetParam(&record, static_cast<int>(method.longitude), &p.longitude);
     if (method.parallels > 0)
         record.Lat1 = p.parallel1;
     if (method.parallels > 1)
@@ -109,21 +119,12 @@ Outcome<PROJDATA> recordOf(Transformation transformation, Parameters const& give
     if (!normalised)
         return normalised.refusal();
     auto const& [method, p] = *normalised;
-    if (method.latitude == Latitude::MustBeZero && p.latitude != 0)
-        return needsZero("latitude of origin");
-    if (method.longitude == Longitude::MustBeZero && p.longitude != 0)
-        return needsZero("central meridian");
-    if (method.scale == ScaleFactor::MustBeOne && p.scale != 1)
-        return Refusal{"the projection has no scale factor in the records"};
-    if (!(p.scale > 0))
-        return Refusal{"the scale factor is not above 0"};
+    std::string const fault = faultOf(method, p);
+    if (!fault.empty())
+        return Refusal{fault};
     PROJDATA record = {};
     record.Type = method.type;
-    setParallels(record, method, p);
-    if (method.latitude != Latitude::MustBeZero)
-        ProjSetParam(&record, static_cast<int>(method.latitude), &p.latitude);
-    if (method.longitude != Longitude::MustBeZero)
-        ProjSetParam(&record, static_cast<int>(method.longitude), &p.longitude);
+    setAngles(record, method, p);
     bool const folded = method.scale == ScaleFactor::Folded;
     record.Scale = folded ? p.scale : 1;
     record.xOrg = p.east / record.Scale;

@@ -21,6 +21,6 @@ Outcome<System> readSystem(KeyDirectory const& keys);
 Outcome<KeyDirectory> writeSystem(PROJDATA const* projection, DatumType datum, DATUM2WGS84 const* params);
 
 /// The record of a transformation with its parameters; the ellipsoid is set, the unit of length is the metre.
-Outcome<PROJDATA> recordOf(Transformation transformation, Parameters const& parameters, Ellipsoid const& ellipsoid);
+Outcome<PROJDATA> recordOf(Transformation transformation, Parameters const& given, Ellipsoid const& ellipsoid);
 
 } // namespace ZrProj::GeoTIFF

@@ -3,6 +3,7 @@
 #include "files/GeoTIFFSystem.h"
 #include "files/GeoTIFFUnits.h"
 #include "files/GeoTIFFZones.h"
+#include "proj/record.h"
 
 #include <algorithm>
 #include <array>
@@ -21,7 +22,7 @@ std::string nameOf(ProjType type) {
 PROJDATA completed(PROJDATA record) {
     if (record.Type == ProjTypeUniversalTransverseMercator) {
         record.xOrg = 500000;
-        record.yOrg = record.bSouth ? 10000000 : 0;
+        record.yOrg = flagByte<&PROJDATA::bSouth>(record) ? 10000000 : 0;
         record.K0 = record.K0 == 0 ? 0.9996 : record.K0;
     }
     record.Scale = record.Scale == 0 ? 1 : record.Scale;
@@ -44,7 +45,7 @@ Transformation transformationOf(PROJDATA const& record) {
     if (type == ProjTypeUniversalTransverseMercator || type == ProjTypeGaussKruger)
         return transverseMercator;
     if (type == ProjTypeHotineObliqueMercator)
-        return record.bUOffset ? obliqueMercatorFromCentre : obliqueMercator;
+        return flagByte<&PROJDATA::bUOffset>(record) ? obliqueMercatorFromCentre : obliqueMercator;
     if (type == ProjTypeStereographic)
         return std::fabs(record.Lat0) == 90 ? polarStereographic : stereographic;
     auto const row = std::ranges::find(methodTable, type, &Method::type);
@@ -80,10 +81,16 @@ Outcome<Method> methodFor(PROJDATA const& record) {
     auto const row = std::ranges::find(methodTable, transformationOf(record), &Method::transformation);
     if (row == methodTable.end())
         return Refusal{"GeoTIFF has no name for the projection " + nameOf(record.Type)};
-    if (record.Type == ProjTypeHotineObliqueMercator && !(record.bUseAlpha && record.bRotate))
+    bool const byAzimuth = flagByte<&PROJDATA::bUseAlpha>(record) && flagByte<&PROJDATA::bRotate>(record);
+    if (record.Type == ProjTypeHotineObliqueMercator && !byAzimuth)
         return Refusal{"GeoTIFF has an oblique Mercator by azimuth and with a turned grid only"};
     if (row->transformation == equirectangular && record.Flattening != 0)
         return Refusal{twoEquirectangulars};
+    double const latitude = angleAt(record, static_cast<int>(row->latitude));
+    double const parallel =
+        std::max(row->parallels > 0 ? std::fabs(record.Lat1) : 0, row->parallels > 1 ? std::fabs(record.Lat2) : 0);
+    if (std::max(std::fabs(latitude), parallel) > 90)
+        return Refusal{"a latitude lies beyond a pole"};
     return *row;
 }
 

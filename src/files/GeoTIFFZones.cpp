@@ -2,6 +2,7 @@
 
 #include "files/GeoTIFFStatePlaneTable.h"
 #include "files/GeoTIFFUtmTable.h"
+#include "proj/record.h"
 
 #include <algorithm>
 #include <array>
@@ -153,8 +154,8 @@ ZoneCode codeOfZone(PROJDATA const& record, std::uint16_t geographic) {
         return {};
     int const zone = static_cast<int>(std::clamp((record.Lon0 + 183) / 6, 0.0, 61.0));
     auto const row = std::ranges::find_if(utmTable, [&](UtmRow const& candidate) {
-        return candidate.geographic == geographic && candidate.south == record.bSouth && zone >= candidate.zone &&
-               zone - candidate.zone <= candidate.last - candidate.first;
+        return candidate.geographic == geographic && candidate.south == (flagByte<&PROJDATA::bSouth>(record) != 0) &&
+               zone >= candidate.zone && zone - candidate.zone <= candidate.last - candidate.first;
     });
     if (row == utmTable.end() || zone < 1 || zone > 60 || ProjUTMZoneNumberToLon(zone) != record.Lon0)
         return {};

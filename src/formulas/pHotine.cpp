@@ -98,7 +98,8 @@ double seamOf(LineSphere const& sphere) {
 }
 
 template <class R> Condition<R> isWest(R L, R cosine, double seam) {
-    return (L < -halfPi) & ((L + pi) * cosine < seam);
+    constexpr double widest = 1e-11; // where meridians run together
+    return ((L + pi) * cosine < seam) & (L + pi < widest);
 }
 
 /// The line on its sphere. Its pole lies 90 degrees west of where it crosses the equator.

@@ -23,7 +23,7 @@ std::shared_ptr<void const> copyOf(void const* data, std::size_t size) {
         return nullptr;
     auto const copy = std::make_shared<std::max_align_t[]>((size - 1) / sizeof(std::max_align_t) + 1);
     std::memcpy(copy.get(), data, size);
-    return std::shared_ptr<void const>(copy, copy.get());
+    return {copy, copy.get()};
 }
 
 } // namespace

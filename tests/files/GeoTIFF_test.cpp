@@ -324,6 +324,10 @@ TEST(GeoTIFF, RefusesRecordsThatTagsCannotSay) {
     EXPECT_NE(Made(wgs, DatumTypeNorthAmericanDatum1927).refusal, ""); // another ellipsoid
     EXPECT_NE(Made(wgs, static_cast<DatumType>(222)).refusal, "");     // from Paris
     EXPECT_NE(Made(wgs, DatumTypeUserDefined).refusal, "");            // without its parameters
+    EXPECT_NE(Made(wgs, static_cast<DatumType>(-7)).refusal, "");
+    PROJDATA beyond = recordOf(ProjTypeTransverseMercator, EllipsoidTypeWgs84);
+    beyond.Lat0 = 100;
+    EXPECT_NE(Made(beyond, DatumTypeNone).refusal, "");
     EXPECT_NE(Made(recordOf(ProjTypeUnprojectedLatLong, EllipsoidTypeNone), DatumTypeNone).refusal, "");
     EXPECT_NE(Made(recordOf(ProjTypeUndefined, EllipsoidTypeWgs84), DatumTypeWorldGeodeticSystem1984).refusal, "");
     PROJDATA twoPoints = recordOf(ProjTypeHotineObliqueMercator, EllipsoidTypeWgs84);

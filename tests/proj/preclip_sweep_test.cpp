@@ -12,7 +12,9 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
+#include <iomanip>
 #include <random>
+#include <sstream>
 
 using namespace ZrProj;
 using namespace ZrProj::test;
@@ -275,7 +277,10 @@ private:
 /// The records whose areas make up the globe together with the given one's.
 std::vector<std::string> complements(std::string const& words) {
     PROJDATA const r = recordOf(words);
-    auto const type = "type=" + std::to_string(r.Type) + " ellipsoid=" + std::to_string(r.Ellipsoid);
+    std::ostringstream figure;
+    figure << std::setprecision(17) << "type=" << r.Type << " ellipsoid=" << r.Ellipsoid << " radius=" << r.MajorRadius
+           << " flattening=" << r.Flattening;
+    auto const type = figure.str();
     auto const about = [&](double east) {
         return type + " lon0=" + std::to_string(std::remainder(r.Lon0 + east, 360));
     };
