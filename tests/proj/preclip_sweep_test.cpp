@@ -357,9 +357,15 @@ private:
                 steps_.add(chain[i - 1], chain[i % chain.size()], " of ", textOf(shape.points));
     }
 
-    /// Along the equator where that is a horizon, or to the place where an azimuthal equidistant map is torn.
+    /// Along a meridian that two maps end at, and both count; along the equator where that is a horizon; or to the
+    /// place where an azimuthal equidistant map is torn.
     bool runsAlongTheEdge(Points const& points) {
         auto const type = subject_.record().Type;
+        auto const onMeridian = [&](PROJPOINT const& a, PROJPOINT const& b) {
+            return a.x == b.x && std::remainder(a.x - subject_.record().Lon0, 90) == 0;
+        };
+        if (!others_.empty() && std::ranges::adjacent_find(points, onMeridian) != points.end())
+            return true;
         if (type != ProjTypeGnomonic && type != ProjTypeOrthographic && type != ProjTypeAzimuthalEquidistant)
             return false;
         return std::ranges::any_of(

@@ -231,6 +231,11 @@ PUBLISHED = {
     "hotine": [
         ("type=12 ellipsoid=15 lat0=40 lat1=47.5 lon1=-122.3 lat2=25.7 lon2=-80.2 k0=0.9996 x0=4000000 y0=500000 "
          "rotate=1", "-74 40.8", "963436.1 4369142.8", 0.06, SNYDER),
+        ("type=12 ellipsoid=15 lat0=36 lon1=-77.7610558 alpha=14.3394883 usealpha=1",
+         "-76.87079527777777 38.80921277777777", "4414439.0 -2356.3", 0.06, SNYDER),
+        ("type=12 ellipsoid=24 lat0=4 lon1=115 alpha=53.31582047222222 k0=0.99984 usealpha=1",
+         "115.80550544444444 5.387253583333334", "901334.257 -69702.787", 0.0006,
+         "EPSG guidance note 7-2, method 9812"),
         ("type=10 ellipsoid=3 zone=2", "-134.5 58.5", "770081.060225 742439.408613", 2e-6, EPSG_ALASKA),
         ("type=10 ellipsoid=3 zone=2", "-130 54.75", "1054692.521314 330875.570869", 2e-6, EPSG_ALASKA)],
     "stereographic": [
