@@ -1,5 +1,6 @@
 // Tags that are damaged, placements of all kinds, and records that tags can and cannot say.
 #include "support/geotiff_cases.h"
+#include "support/side_files.h"
 #include "support/temporary_directory.h"
 
 #include <zrproj/zrproj.h>
@@ -13,15 +14,10 @@
 #include <functional>
 #include <limits>
 
-namespace ZrProj::Tests {
+namespace ZrProj::test {
 namespace {
 
 constexpr double inf = std::numeric_limits<double>::infinity(), nan = std::numeric_limits<double>::quiet_NaN();
-
-/// A packed record's field, which no reference may be bound to.
-template <class T> T value(T field) {
-    return field;
-}
 
 struct Read {
     bool good = false;
@@ -399,4 +395,4 @@ TEST(BitmapGeoParams, EachPartComesFromTheFirstThatHasIt) {
 }
 
 } // namespace
-} // namespace ZrProj::Tests
+} // namespace ZrProj::test

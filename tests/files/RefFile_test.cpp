@@ -12,6 +12,7 @@
 
 using namespace ZrProj;
 using ZrProj::test::Georef;
+using ZrProj::test::value;
 using ZrProj::test::writeFile;
 
 namespace {
@@ -111,8 +112,8 @@ using Numbers = std::vector<double>;
 void expectReset(Map const& map) {
     EXPECT_TRUE(map.good);
     EXPECT_EQ(map.flags, 0U);
-    EXPECT_EQ(map.projection.Type, ProjTypeUndefined);
-    EXPECT_EQ(map.projection.Scale, 0);
+    EXPECT_EQ(value(map.projection.Type), ProjTypeUndefined);
+    EXPECT_EQ(value(map.projection.Scale), 0);
     EXPECT_EQ(map.datum, DatumTypeNone);
     EXPECT_EQ(map.georef.Method, TransformMethodNone);
     EXPECT_EQ(map.georef.pSource, nullptr);
@@ -133,7 +134,7 @@ TEST_F(RefFile, EveryTypeAndMethodIsWrittenByteForByteAndReadBack) {
         read(back);
         std::uint32_t const georef = type % 13 == 12 ? 0 : type % 13 == 5 ? 4 : 8;
         EXPECT_EQ(back.flags, 19 + georef) << type;
-        EXPECT_EQ(back.projection.Type, type);
+        EXPECT_EQ(value(back.projection.Type), type);
         ASSERT_TRUE(write(back));
         EXPECT_EQ(fileBytes(name), expected) << "read back";
     }
@@ -150,9 +151,9 @@ TEST_F(RefFile, FieldsAreReadIntoTheirPlaces) {
     read(back);
     back.projection.Flattening = map.projection.Flattening; // more digits than the file has
     EXPECT_EQ(std::memcmp(&map.projection, &back.projection, sizeof map.projection), 0);
-    EXPECT_EQ(back.parameters.dX, -87.5);
-    EXPECT_EQ(back.parameters.rY, -1.5);
-    EXPECT_EQ(back.parameters.Scale, -4.6121);
+    EXPECT_EQ(value(back.parameters.dX), -87.5);
+    EXPECT_EQ(value(back.parameters.rY), -1.5);
+    EXPECT_EQ(value(back.parameters.Scale), -4.6121);
     ASSERT_EQ(back.georef.Method, TransformMethodNone);
 }
 
@@ -207,9 +208,9 @@ TEST_F(RefFile, ValuesOutOfTheirCatalogues) {
     Map back;
     read(back);
     EXPECT_EQ(back.flags, 16U);
-    EXPECT_EQ(back.projection.Type, ProjTypeUndefined);
+    EXPECT_EQ(value(back.projection.Type), ProjTypeUndefined);
     EXPECT_EQ(back.datum, DatumTypeNone);
-    EXPECT_EQ(back.parameters.Method, 6);
+    EXPECT_EQ(value(back.parameters.Method), 6);
     EXPECT_EQ(back.georef.Method, TransformMethodNone);
 
     std::memset(&map.projection.bSouth, 0xCD, 1); // no bool, and neither 0 nor 1
@@ -235,7 +236,7 @@ TEST_F(RefFile, FileThatIsNotThereSaysNothing) {
     std::filesystem::remove(name);
     writeFile(directory.file("map.ZRR"), std::string(header) + "Projection Scale : 2\n");
     read(map);
-    EXPECT_EQ(map.projection.Scale, 2);
+    EXPECT_EQ(value(map.projection.Scale), 2);
 }
 
 TEST_F(RefFile, Header) {
@@ -312,25 +313,25 @@ TEST_F(RefFile, Texts) {
                    "Datum Ellipsoid Type : WGS  84\nGeoref Method : thin platespline\n"
                    "Projection In Southern Hemisphere (UTM only) : TRUEST\nProjection Alpha : -1e-3\n"
                    "Projection Uses Alpha Parameter (Hotine only) : yes\n");
-    EXPECT_EQ(map.projection.Type, ProjTypeUniversalTransverseMercator);
-    EXPECT_EQ(map.projection.Zone, StateZoneTypeCaliforniaI); // whatever the type uses
-    EXPECT_EQ(map.projection.Alpha, -1e-3);
-    EXPECT_EQ(map.projection.Ellipsoid, EllipsoidTypeWgs84);
+    EXPECT_EQ(value(map.projection.Type), ProjTypeUniversalTransverseMercator);
+    EXPECT_EQ(value(map.projection.Zone), StateZoneTypeCaliforniaI); // whatever the type uses
+    EXPECT_EQ(value(map.projection.Alpha), -1e-3);
+    EXPECT_EQ(value(map.projection.Ellipsoid), EllipsoidTypeWgs84);
     EXPECT_TRUE(map.projection.bSouth);
     EXPECT_FALSE(map.projection.bUseAlpha);
     EXPECT_EQ(map.datum, 124);
-    EXPECT_EQ(map.parameters.Method, DatumMethodBursaWolf);
-    EXPECT_EQ(map.parameters.Ellipsoid, EllipsoidTypeUserDefined); // of catalogue names the inner blanks count
+    EXPECT_EQ(value(map.parameters.Method), DatumMethodBursaWolf);
+    EXPECT_EQ(value(map.parameters.Ellipsoid), EllipsoidTypeUserDefined); // of catalogue names the inner blanks count
     EXPECT_EQ(map.georef.Method, TransformMethodThinPlateSpline);
     EXPECT_EQ(map.flags, 19U); // no controls
 
     Map other;
     readLines(other, "Projection Name : Mercators\nProjection State Zone : nowhere\nDatum Name : User Defined\n"
                      "Datum Method : MREs\nProjection Ellipsoid Type : USER-DEFINED\nGeoref Method : Known\n");
-    EXPECT_EQ(other.projection.Type, ProjTypeUndefined);
-    EXPECT_EQ(other.projection.Zone, StateZoneTypeNone);
+    EXPECT_EQ(value(other.projection.Type), ProjTypeUndefined);
+    EXPECT_EQ(value(other.projection.Zone), StateZoneTypeNone);
     EXPECT_EQ(other.datum, DatumTypeUserDefined);
-    EXPECT_EQ(other.parameters.Method, 6);
+    EXPECT_EQ(value(other.parameters.Method), 6);
     EXPECT_EQ(other.georef.Method, TransformMethodNone);
     EXPECT_EQ(other.flags, 18U);
 }
@@ -408,14 +409,14 @@ TEST_F(RefFile, CountThatTheFileCannotHold) {
         Map map;
         readLines(map, lines + count + "\nGeoref Point : 1 2 3 4\n");
         EXPECT_FALSE(map.good);
-        EXPECT_EQ(map.projection.Scale, 2);
+        EXPECT_EQ(value(map.projection.Scale), 2);
         EXPECT_EQ(map.georef.pSource, nullptr);
         EXPECT_EQ(map.georef.nControls, 0);
         ASSERT_EQ(host.calls.size(), 2U);
         EXPECT_EQ(host.calls[1].text, "Out of global memory");
         PROJDATA projection;
         EXPECT_TRUE(ZrProjRefFileReadEx(name.c_str(), &projection, nullptr, nullptr, nullptr, nullptr));
-        EXPECT_EQ(projection.Scale, 2);
+        EXPECT_EQ(value(projection.Scale), 2);
         EXPECT_FALSE(ZrProjRefFileRead(name.c_str(), &projection, nullptr, nullptr));
     }
     Map map;
@@ -434,11 +435,11 @@ TEST_F(RefFile, DatumNeedsBothOfItsOutputs) {
     EXPECT_EQ(flags, 16U);
     parameters.dX = 5;
     EXPECT_TRUE(ZrProjRefFileReadEx(name.c_str(), nullptr, nullptr, &parameters, nullptr, nullptr));
-    EXPECT_EQ(parameters.Method, DatumMethodNone);
-    EXPECT_EQ(parameters.dX, 0);
+    EXPECT_EQ(value(parameters.Method), DatumMethodNone);
+    EXPECT_EQ(value(parameters.dX), 0);
     EXPECT_TRUE(ZrProjRefFileRead(name.c_str(), nullptr, &datum, &parameters));
     EXPECT_EQ(datum, 7);
-    EXPECT_EQ(parameters.Method, DatumMethodMRE);
+    EXPECT_EQ(value(parameters.Method), DatumMethodMRE);
 }
 
 TEST_F(RefFile, OneFileIsDeleted) {

@@ -8,7 +8,7 @@
 #include <fstream>
 #include <sstream>
 
-namespace ZrProj::Tests {
+namespace ZrProj::test {
 namespace {
 
 ZrBitmapTagList tagsOf(std::uint16_t system) {
@@ -44,4 +44,4 @@ TEST(GeoTIFFNumbers, MeanWhatTheRegistryDefines) {
 }
 
 } // namespace
-} // namespace ZrProj::Tests
+} // namespace ZrProj::test

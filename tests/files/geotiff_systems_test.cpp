@@ -10,7 +10,7 @@
 #include <cmath>
 #include <cstring>
 
-namespace ZrProj::Tests {
+namespace ZrProj::test {
 namespace {
 
 /// A packed record's field, which no reference may be bound to.
@@ -98,4 +98,4 @@ TEST(GeoTIFFSystems, SurviveBeingWrittenAndReadAgain) {
 }
 
 } // namespace
-} // namespace ZrProj::Tests
+} // namespace ZrProj::test

@@ -4,7 +4,7 @@
 #include <sstream>
 #include <stdexcept>
 
-namespace ZrProj::Tests {
+namespace ZrProj::test {
 namespace {
 
 template <class T> std::vector<T> numbers(std::istringstream& line) {
@@ -68,4 +68,4 @@ std::vector<GeoTIFFCase> readGeoTIFFCases(std::string const& fileName) {
     return result;
 }
 
-} // namespace ZrProj::Tests
+} // namespace ZrProj::test

@@ -6,7 +6,7 @@
 #include <string>
 #include <vector>
 
-namespace ZrProj::Tests {
+namespace ZrProj::test {
 
 struct GeoTIFFPoint {
     PROJPOINT degrees, map;
@@ -27,4 +27,4 @@ void addDoubles(ZrBitmapTagList& tags, std::uint16_t id, std::vector<double> con
 void addShorts(ZrBitmapTagList& tags, std::uint16_t id, std::vector<std::uint16_t> const& values);
 void addText(ZrBitmapTagList& tags, std::uint16_t id, std::string const& text);
 
-} // namespace ZrProj::Tests
+} // namespace ZrProj::test

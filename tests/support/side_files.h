@@ -20,6 +20,11 @@
 
 namespace ZrProj::test {
 
+/// A packed record's field, which no reference may be bound to.
+template <class T> T value(T field) {
+    return field;
+}
+
 inline void writeFile(std::string const& name, std::string_view bytes) {
     std::ofstream(name, std::ios::binary) << bytes;
 }
