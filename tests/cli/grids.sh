@@ -62,5 +62,5 @@ cp "$work/whole" "$work/bin/conus.LAS"
 grid 0.25 -81 >"$work/bin/conus.LOS"
 "$zrproj" grid check conus >/dev/null 2>"$work/err"
 [[ $? == 1 && $(<"$work/err") == *'different headers'* ]] || fail 'two grids' "$(<"$work/err")"
-check 'not written' 1 '' 'zrproj: cannot write /proc/conus.LAS: *' grid import "$work/download/conus" --to /proc </dev/null
+check 'not written' 1 '' 'zrproj: cannot write "/proc/conus.LAS": *' grid import "$work/download/conus" --to /proc </dev/null
 exit $failed
