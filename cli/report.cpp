@@ -1,5 +1,8 @@
 #include "cli/report.h"
 
+#include "cli/text.h"
+
+#include <cerrno>
 #include <cstdio>
 
 namespace ZrProj::Command {
@@ -7,12 +10,18 @@ namespace {
 
 constexpr std::uint64_t mostBadLines = 100; // shown one by one
 constexpr std::uint64_t mostPlaces = 5;
+constexpr int pipeClosedStatus = 141; // as a shell reports a program that the closed pipe's signal ended
 
 std::string pointsText(std::uint64_t count) {
     return std::to_string(count) + (count == 1 ? " point" : " points");
 }
 
 } // namespace
+
+/// "file:3", "file: feature 3".
+std::string Report::place(std::uint64_t number) const {
+    return m_file + (m_counted == "line" ? ":" : ": " + m_counted + ' ') + std::to_string(number);
+}
 
 void Report::say(std::string const& message) {
     m_progress.hide();
@@ -54,8 +63,19 @@ void Report::close() {
                "converted, but off by metres to kilometres: more than 10 degrees from the central meridian");
     closeCount(PointState::OffGrid, "not shifted to another datum: outside its grid");
     if (m_badLines > 0)
-        say("zrproj: " + std::to_string(m_badLines) + (m_badLines == 1 ? " line" : " lines") + " could not be read" +
+        say("zrproj: " + std::to_string(m_badLines) + ' ' + m_counted + (m_badLines == 1 ? "" : "s") +
+            " could not be read" +
             (m_badLines > mostBadLines ? "; the first " + std::to_string(mostBadLines) + " are shown above" : ""));
+}
+
+int Report::conclude(Output const& output, bool strict) {
+    if (output.error() == EPIPE) // whoever read the results has enough of them
+        return pipeClosedStatus;
+    if (output.error())
+        failure("cannot write standard output: " + systemMessage(output.error()));
+    else
+        close();
+    return status(strict);
 }
 
 int Report::status(bool strict) const {
