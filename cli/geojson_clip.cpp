@@ -86,39 +86,49 @@ struct ByPlace {
     bool operator()(PROJPOINT const& a, PROJPOINT const& b) const { return a.x != b.x ? a.x < b.x : a.y < b.y; }
 };
 
-/// The edges of rings, from point to point; an edge and its opposite cancel each other.
+/// The edges of rings; one that is walked twice is none. The cut may have turned a part of a ring around, so directions
+/// do not count.
 class Edges {
 public:
-    void add(PROJPOINT const& from, PROJPOINT const& to) {
-        if (from.x == to.x && from.y == to.y)
+    void add(PROJPOINT const& a, PROJPOINT const& b) {
+        if (a.x == b.x && a.y == b.y)
             return;
-        auto const back = m_ends.equal_range(to);
-        auto const opposite = std::find_if(back.first, back.second, [&](auto const& edge) {
-            return edge.second.x == from.x && edge.second.y == from.y;
-        });
-        if (opposite != back.second)
-            m_ends.erase(opposite);
-        else
-            m_ends.emplace(from, to);
+        if (auto const there = find(a, b); there != m_ends.end()) {
+            m_ends.erase(there);
+            m_ends.erase(find(b, a));
+        } else {
+            m_ends.emplace(a, b);
+            m_ends.emplace(b, a);
+        }
     }
 
-    /// Takes the edges out, ring by ring. As many lead to every point as from it, so each walk comes back.
+    /// Takes the edges out, ring by ring. An even number of them meets in every point, so each walk comes back.
     Paths rings() {
         Paths result;
         while (!m_ends.empty()) {
             Path& ring = result.emplace_back();
             for (auto edge = m_ends.begin(); edge != m_ends.end();) {
-                PROJPOINT const next = edge->second;
-                ring.points.push_back(edge->first);
+                auto const [from, to] = *edge;
+                ring.points.push_back(from);
                 m_ends.erase(edge);
-                edge = m_ends.find(next);
+                m_ends.erase(find(to, from));
+                edge = m_ends.find(to);
             }
         }
         return result;
     }
 
 private:
-    std::multimap<PROJPOINT, PROJPOINT, ByPlace> m_ends;
+    using Ends = std::multimap<PROJPOINT, PROJPOINT, ByPlace>; // both ways
+
+    Ends::iterator find(PROJPOINT const& from, PROJPOINT const& to) {
+        auto const [begin, end] = m_ends.equal_range(from);
+        auto const found =
+            std::find_if(begin, end, [&](auto const& edge) { return edge.second.x == to.x && edge.second.y == to.y; });
+        return found == end ? m_ends.end() : found;
+    }
+
+    Ends m_ends;
 };
 
 Paths withoutBridges(Paths const& rings) {

@@ -38,21 +38,28 @@ void Report::badLine(std::uint64_t line, std::string const& reason) {
         say(place(line) + ": " + reason);
 }
 
+/// Lists a place once, however many points are there.
 void Report::point(PointState state, std::uint64_t line) {
     Count& count = m_counts[static_cast<std::size_t>(state)];
-    if (count.points++ >= mostPlaces)
+    ++count.points;
+    bool const sameFile = count.file == m_file;
+    if (count.places > mostPlaces || (count.places > 0 && sameFile && count.last == line))
         return;
-    count.places += count.places.empty() ? "" : ", ";
-    count.places += count.file == m_file ? std::to_string(line) : place(line);
+    if (count.places++ == mostPlaces) {
+        count.listed += ", ...";
+        return;
+    }
+    count.listed += count.listed.empty() ? "" : ", ";
+    count.listed += sameFile ? std::to_string(line) : place(line);
     count.file = m_file;
+    count.last = line;
 }
 
 void Report::closeCount(PointState state, std::string const& reason) {
     Count const& counted = count(state);
     if (counted.points == 0)
         return;
-    say("zrproj: " + pointsText(counted.points) + ' ' + reason + " (" + counted.places +
-        (counted.points > mostPlaces ? ", ...)" : ")"));
+    say("zrproj: " + pointsText(counted.points) + ' ' + reason + " (" + counted.listed + ')');
 }
 
 void Report::close() {

@@ -34,8 +34,9 @@ public:
 
 private:
     struct Count {
-        std::uint64_t points = 0;
-        std::string places, file; // the places listed, and the file of the last one
+        std::uint64_t points = 0, places = 0;
+        std::string listed, file; // the first places, and the file of the last one
+        std::uint64_t last = 0;   // the number of that
     };
 
     void close();
