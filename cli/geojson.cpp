@@ -51,7 +51,7 @@ template <class Bad> void erasePoints(Path& path, Bad bad) {
         if (bad(i))
             continue;
         path.points[kept] = path.points[i];
-        if (!path.extras.empty())
+        if (!path.extras.empty() && kept != i)
             path.extras[kept] = std::move(path.extras[i]);
         ++kept;
     }

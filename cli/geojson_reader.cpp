@@ -205,7 +205,8 @@ bool Builder::number(double value, std::string const& text) {
 
 bool Builder::scalar(std::string_view text, Scalar kind) {
     if (m_mode == Mode::Coordinates) {
-        fault(inQuotes(text) + " stands in coordinates");
+        fault((text.starts_with('"') ? inQuotes(text.substr(1, text.size() - 2)) : std::string(text)) +
+              " stands in coordinates");
         return true;
     }
     if (m_mode == Mode::Members) {
