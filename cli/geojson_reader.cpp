@@ -1,5 +1,7 @@
 #include "cli/geojson_reader.h"
 
+#include "cli/coordinates_builder.h"
+#include "cli/json_copy.h"
 #include "cli/text.h"
 
 #include <nlohmann/json.hpp>
@@ -49,7 +51,6 @@ private:
     enum class Scalar { Null, Other };
 
     OpenObject& top() { return m_open.back(); }
-    Coordinates& coordinates() { return *top().object.coordinates; }
 
     bool fail(std::string const& reason);
     void fault(std::string const& reason);
@@ -58,20 +59,15 @@ private:
     bool number(double value, std::string const& text);
     bool scalar(std::string_view text, Scalar kind);
     bool deeper();
-    void beginCopy();
-    void separate();
-    void copy(std::string_view text);
-    void copyOpening(char bracket);
-    void copyClosing(char bracket);
-    void endCopy();
+    void beginCopy(bool isWanted);
+    void endCopy(bool isWhole);
     void refuse(char const* expected);
     bool isMember(std::string_view name) const;
     bool startMember();
     void openObject();
     bool openFeatures();
-    void openPosition();
-    void takeNumber(double value, std::string const& text);
-    void closePosition();
+    void tell(char const* reason);
+    void closeCoordinates();
     bool finish(OpenObject done);
     bool finishRoot(OpenObject done);
 
@@ -83,14 +79,9 @@ private:
     int m_nesting = 0;
     bool m_collection = false; // features are handed out one by one
 
-    int m_level = 0;           // of lists or objects within the mode
-    bool m_kept = true;        // what is copied
-    std::size_t m_copied = 0;  // where that begins
-    bool m_listOpened = false; // it may become a position
-    bool m_inPosition = false;
-    int m_numbers = 0; // of the position
-    PROJPOINT m_point{};
-    std::string m_extra;
+    JsonCopy m_copy;
+    CoordinatesBuilder m_coordinates;
+    int m_level = 0; // of lists and objects in coordinates
 };
 
 std::string Builder::place() const {
@@ -114,48 +105,17 @@ bool Builder::deeper() {
 
 // Members that are no geometry go along as they are.
 
-void Builder::beginCopy() {
-    OpenObject& open = top();
+void Builder::beginCopy(bool isWanted) {
+    std::string const& name = top().key;
     m_mode = Mode::Copy;
-    m_level = 0;
-    m_copied = open.object.members.size();
-    m_kept = open.list == OpenObject::List::None && open.key != "bbox" && open.key != "crs" && open.key != "type";
-    open.object.members += ',';
-    appendJsonString(open.object.members, open.key);
-    open.object.members += ':';
+    m_copy.begin(top().object.members, name, isWanted && name != "bbox" && name != "crs");
 }
 
-void Builder::separate() {
-    std::string& members = top().object.members;
-    if (members.back() != '[' && members.back() != '{' && members.back() != ':')
-        members += ',';
-}
-
-void Builder::copy(std::string_view text) {
-    separate();
-    top().object.members += text;
-    endCopy();
-}
-
-void Builder::copyOpening(char bracket) {
-    separate();
-    top().object.members += bracket;
-    ++m_level;
-}
-
-void Builder::copyClosing(char bracket) {
-    top().object.members += bracket;
-    --m_level;
-    endCopy();
-}
-
-/// Ends the copying of a value where it is whole.
-void Builder::endCopy() {
-    if (m_level > 0)
+/// Goes back to the members where the value copied is whole. In a list of features it was none.
+void Builder::endCopy(bool isWhole) {
+    if (!isWhole)
         return;
     m_mode = Mode::Members;
-    if (!m_kept)
-        top().object.members.resize(m_copied);
     if (top().list == OpenObject::List::Features)
         m_sink.feature({}, std::exchange(m_fault, ""));
 }
@@ -164,8 +124,7 @@ void Builder::endCopy() {
 void Builder::refuse(char const* expected) {
     OpenObject const& open = top();
     fault(inQuotes(open.key) + (open.list == OpenObject::List::None ? " is no " : " holds what is no ") + expected);
-    beginCopy();
-    m_kept = false;
+    beginCopy(false);
 }
 
 /// What the value under the present name has to be where it is wrong; else null, the value being copied from here on.
@@ -188,7 +147,7 @@ bool Builder::startMember() {
     if (expected)
         refuse(expected);
     else
-        beginCopy();
+        beginCopy(true);
     return true;
 }
 
@@ -199,7 +158,7 @@ template <class Integer> bool Builder::integer(Integer value) {
 bool Builder::number(double value, std::string const& text) {
     if (m_mode != Mode::Coordinates)
         return scalar(text, Scalar::Other);
-    takeNumber(value, text);
+    tell(m_coordinates.number(value, text));
     return true;
 }
 
@@ -217,7 +176,7 @@ bool Builder::scalar(std::string_view text, Scalar kind) {
         if (!startMember())
             return false;
     }
-    copy(text);
+    endCopy(m_copy.scalar(text));
     return true;
 }
 
@@ -235,9 +194,7 @@ bool Builder::key(std::string& name) {
     if (m_mode == Mode::Members) {
         top().key = name;
     } else if (m_mode == Mode::Copy) {
-        separate();
-        appendJsonString(top().object.members, name);
-        top().object.members += ':';
+        m_copy.key(name);
     }
     return true;
 }
@@ -270,14 +227,14 @@ bool Builder::start_object(std::size_t) {
         if (!startMember())
             return false;
     }
-    copyOpening('{');
+    m_copy.open('{');
     return true;
 }
 
 bool Builder::end_object() {
     --m_nesting;
     if (m_mode == Mode::Copy) {
-        copyClosing('}');
+        endCopy(m_copy.close('}'));
         return true;
     }
     if (m_mode == Mode::Coordinates) {
@@ -313,25 +270,26 @@ bool Builder::start_array(std::size_t) {
         if (isMember("coordinates")) {
             m_mode = Mode::Coordinates;
             m_level = 0;
-            m_listOpened = m_inPosition = false;
-            top().object.coordinates.emplace();
+            m_coordinates = CoordinatesBuilder();
         } else if (!startMember()) {
             return false;
         }
     }
-    if (m_mode == Mode::Coordinates)
-        openPosition();
-    else
-        copyOpening('[');
+    if (m_mode == Mode::Coordinates) {
+        ++m_level;
+        tell(m_coordinates.open());
+    } else {
+        m_copy.open('[');
+    }
     return true;
 }
 
 bool Builder::end_array() {
     --m_nesting;
     if (m_mode == Mode::Copy)
-        copyClosing(']');
+        endCopy(m_copy.close(']'));
     else if (m_mode == Mode::Coordinates)
-        closePosition();
+        closeCoordinates();
     else
         top().list = OpenObject::List::None;
     return true;
@@ -370,45 +328,17 @@ bool Builder::finishRoot(OpenObject done) {
     return true;
 }
 
-// Coordinates: a list is a position where its first element is a number.
-
-void Builder::openPosition() {
-    if (m_inPosition)
-        fault("a list stands in a position");
-    else if (m_listOpened)
-        coordinates().open();
-    m_listOpened = true;
-    ++m_level;
+void Builder::tell(char const* reason) {
+    if (reason)
+        fault(reason);
 }
 
-void Builder::takeNumber(double value, std::string const& text) {
-    if (m_listOpened) {
-        m_listOpened = false;
-        m_inPosition = true;
-        m_numbers = 0;
-        m_extra.clear();
-    }
-    if (!m_inPosition)
-        return fault("a number stands beside a list");
-    if (++m_numbers <= 2)
-        (m_numbers == 1 ? m_point.x : m_point.y) = value;
-    else
-        (m_extra += ',') += text;
-}
-
-void Builder::closePosition() {
-    if (m_inPosition) {
-        if (m_numbers < 2)
-            fault("a position has one number");
-        coordinates().add(m_point, m_extra);
-    } else {
-        if (m_listOpened)
-            coordinates().open();
-        coordinates().close();
-    }
-    m_inPosition = m_listOpened = false;
-    if (--m_level == 0)
-        m_mode = Mode::Members;
+void Builder::closeCoordinates() {
+    tell(m_coordinates.close());
+    if (--m_level > 0)
+        return;
+    top().object.coordinates = m_coordinates.take();
+    m_mode = Mode::Members;
 }
 
 // Texts that are no JSON.
