@@ -114,6 +114,9 @@ many() {
     yes "$(feature "$(point "$toronto")")," | head -n 300000
     printf '%s]}' "$(feature null)"
 }
-lines=$( (ulimit -v 200000; many | "$zrproj" "${forward[@]}") | grep -cF "$projected")
-[[ $lines == 300000 || -n ${ASAN_OPTIONS-} ]] || fail 'many features in little memory' "$lines"
+little() { (ulimit -v 200000; "$zrproj" "$@"); }
+if little --version &>/dev/null; then # not so under a sanitizer, which maps the whole address space
+    lines=$(many | little "${forward[@]}" | grep -cF "$projected")
+    [[ $lines == 300000 ]] || fail 'many features in little memory' "$lines"
+fi
 exit $failed
