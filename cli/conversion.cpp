@@ -4,7 +4,6 @@
 #include "cli/usage_error.h"
 
 #include <algorithm>
-#include <cerrno>
 #include <cfloat>
 #include <numeric>
 
@@ -12,20 +11,7 @@ namespace ZrProj::Command {
 namespace {
 
 constexpr std::size_t rowsPerBlock = 4096;
-constexpr int pipeClosedStatus = 141; // as a shell reports a program that the closed pipe's signal ended
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
-
-/// The bytes to read, 0 when a file does not tell.
-unsigned long long totalSize(std::vector<std::string> const& files) {
-    unsigned long long total = 0;
-    for (std::string const& file : files) {
-        unsigned long long const size = fileSize(file);
-        if (size == 0)
-            return 0;
-        total += size;
-    }
-    return total;
-}
 
 /// Whether a line holds no point by design.
 bool isVerbatim(InputLine const& line) {
@@ -34,6 +20,14 @@ bool isVerbatim(InputLine const& line) {
 }
 
 } // namespace
+
+LengthUnit const& ConversionJob::unit(LengthUnit const* ofFile) const {
+    if (columns.unit)
+        return *columns.unit;
+    if (ofFile)
+        return *ofFile;
+    return projection.unit ? *projection.unit : lengthUnits.front();
+}
 
 Conversion::Conversion(ConversionJob job, Output& output)
     : m_job(std::move(job)), m_output(output), m_transform(m_job.projection, m_job.columns.direction, m_job.shift),
@@ -45,13 +39,7 @@ int Conversion::run() {
     for (std::string const& file : m_job.files)
         if (!convertFile(file))
             break;
-    if (m_output.error() == EPIPE) // whoever read the results has enough of them
-        return pipeClosedStatus;
-    if (m_output.error())
-        m_report.failure("cannot write standard output: " + systemMessage(m_output.error()));
-    else
-        m_report.close();
-    return m_report.status(m_job.strict);
+    return m_report.conclude(m_output, m_job.strict);
 }
 
 /// False when there is no sense in going on.
@@ -130,27 +118,17 @@ bool Conversion::settleLayout(InputLine const& line) {
 
 /// A header like the one of the file before is not written again.
 void Conversion::writeHeader(InputLine const& line) {
-    std::string header = m_writer.header(line.text, m_layout, unit());
+    std::string header = m_writer.header(line.text, m_layout, m_job.unit(m_layout.columns.unit));
     if (header != m_header)
         m_output << header << line.end;
     m_header = std::move(header);
-}
-
-/// The unit of projected coordinates: what --units says, else the header, else the file of --like, else
-/// metres.
-LengthUnit const& Conversion::unit() const {
-    if (m_job.columns.unit)
-        return *m_job.columns.unit;
-    if (m_layout.columns.unit)
-        return *m_layout.columns.unit;
-    return m_job.projection.unit ? *m_job.projection.unit : lengthUnits.front();
 }
 
 /// Converts the rows gathered, and passes them to the output.
 void Conversion::flushRows() {
     if (m_rows.empty())
         return;
-    m_transform.run(m_block, unit());
+    m_transform.run(m_block, m_job.unit(m_layout.columns.unit));
     for (std::size_t i = 0; i < m_rows.size(); ++i) {
         BlockPoint const result = m_block[i];
         if (result.state != PointState::Good && result.state != PointState::Unread)

@@ -22,6 +22,10 @@ struct ConversionJob {
     int decimals = 0;
     bool strict = false;
     std::vector<std::string> files; // "-" is standard input
+
+    /// The unit of projected coordinates: what --units says, else the file's own, which may be null, else that of
+    /// the file of --like, else metres.
+    LengthUnit const& unit(LengthUnit const* ofFile) const;
 };
 
 /// Runs one command line's files through, in blocks of lines, in memory that does not grow with the input.
@@ -42,7 +46,6 @@ private:
     void writeHeader(InputLine const& line);
     void flushRows();
     bool flushOutput();
-    LengthUnit const& unit() const;
 
     ConversionJob m_job;
     Output& m_output;

@@ -2,6 +2,7 @@
 #include "cli/commands.h"
 #include "cli/conversion.h"
 #include "cli/datum_options.h"
+#include "cli/geojson.h"
 #include "cli/number_field.h"
 #include "cli/projection_options.h"
 #include "cli/text.h"
@@ -10,6 +11,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cmath>
 
 namespace ZrProj::Command {
@@ -28,13 +30,15 @@ private:
     LengthUnit const* unit() const;
     int decimals() const;
     ColumnRequest columns(ProjectionChoice const& projection) const;
+    bool isGeoJson() const;
+    void refuseBesideGeoJson(ProjectionChoice const& projection) const;
 
     Direction m_direction;
     ProjectionOptions m_projection; // none for Direction::Datum
     DatumOptions m_datums;
     std::vector<std::string> m_files;
     std::string m_columns, m_units, m_precision;
-    bool m_strict = false;
+    bool m_strict = false, m_geoJson = false, m_clip = false;
 };
 
 Convert::Convert(CLI::App& app, Direction direction) : m_direction(direction), m_datums(direction) {
@@ -50,9 +54,13 @@ Convert::Convert(CLI::App& app, Direction direction) : m_direction(direction), m
     if (projects)
         add("--units", m_units, "UNIT", "Unit of projected coordinates: m (the default), ft or us-ft");
     add("--precision", m_precision, "N", "Decimals of the result, 0 to 15 (3 for lengths, 9 for degrees)");
-    app.add_flag("--strict", m_strict, "Status 1 also when a point cannot be converted, or not well")
-        ->disable_flag_override()
-        ->group("Input and output");
+    auto const addFlag = [&](char const* name, bool& flag, char const* description) {
+        app.add_flag(name, flag, description)->disable_flag_override()->group("Input and output");
+    };
+    addFlag("--strict", m_strict, "Status 1 also when a point cannot be converted, or not well");
+    addFlag("--geojson", m_geoJson, "Input and output are GeoJSON, as in files that are named so (.geojson, .json)");
+    if (direction == Direction::Forward)
+        addFlag("--clip", m_clip, "Cut the geometries of GeoJSON to what the map shows");
     if (projects)
         m_projection.addParametersTo(app);
 }
@@ -84,6 +92,21 @@ ColumnRequest Convert::columns(ProjectionChoice const& projection) const {
     return request;
 }
 
+/// By the option, or by the names of all files.
+bool Convert::isGeoJson() const {
+    bool const named = !m_files.empty() && std::all_of(m_files.begin(), m_files.end(), isGeoJsonName);
+    if (!m_geoJson && !named && std::any_of(m_files.begin(), m_files.end(), isGeoJsonName))
+        throw UsageError("files of GeoJSON and files of points need a command each, or --geojson for all of them");
+    return m_geoJson || named;
+}
+
+void Convert::refuseBesideGeoJson(ProjectionChoice const& projection) const {
+    if (!m_columns.empty())
+        throw UsageError("--columns: GeoJSON has no columns");
+    if (projection.zonePerPoint)
+        throw UsageError("--utm auto: GeoJSON has no place for the zone of each point; name one zone for all");
+}
+
 int Convert::run(Output& output) {
     ProjectionChoice projection;
     if (m_direction != Direction::Datum)
@@ -91,6 +114,12 @@ int Convert::run(Output& output) {
     ConversionJob job{projection, m_datums.shift(), columns(projection), decimals(), m_strict, m_files};
     if (job.files.empty())
         job.files.emplace_back("-");
+    if (isGeoJson()) {
+        refuseBesideGeoJson(projection);
+        return GeoJsonConversion(std::move(job), m_clip, output).run();
+    }
+    if (m_clip)
+        throw UsageError("--clip: points are not cut; it is for GeoJSON");
     return Conversion(std::move(job), output).run();
 }
 

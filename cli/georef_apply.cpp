@@ -6,14 +6,12 @@
 #include "cli/text.h"
 #include "cli/usage_error.h"
 
-#include <cerrno>
 #include <cfloat>
 #include <optional>
 
 namespace ZrProj::Command {
 namespace {
 
-constexpr int pipeClosedStatus = 141; // as a shell reports a program that the closed pipe's signal ended
 constexpr std::size_t rowsPerBlock = 4096;
 constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
@@ -52,13 +50,7 @@ int Application::run() {
     for (std::string const& file : m_job.files)
         if (!convertFile(file))
             break;
-    if (m_output.error() == EPIPE)
-        return pipeClosedStatus;
-    if (m_output.error())
-        m_report.failure("cannot write standard output: " + systemMessage(m_output.error()));
-    else
-        m_report.close();
-    return m_report.status(false);
+    return m_report.conclude(m_output, false);
 }
 
 bool Application::convertFile(std::string const& name) {

@@ -26,4 +26,15 @@ unsigned long long fileSize(std::string const& name) {
     return failed || !S_ISREG(status.st_mode) ? 0 : static_cast<unsigned long long>(status.st_size);
 }
 
+unsigned long long totalSize(std::vector<std::string> const& names) {
+    unsigned long long total = 0;
+    for (std::string const& name : names) {
+        unsigned long long const size = fileSize(name);
+        if (size == 0)
+            return 0;
+        total += size;
+    }
+    return total;
+}
+
 } // namespace ZrProj::Command

@@ -2,6 +2,7 @@
 #pragma once
 
 #include <string>
+#include <vector>
 
 namespace ZrProj::Command {
 
@@ -27,5 +28,8 @@ private:
 
 /// A file's size in bytes; 0 where it is none that has one.
 unsigned long long fileSize(std::string const& name);
+
+/// The bytes of all files; 0 when one does not tell.
+unsigned long long totalSize(std::vector<std::string> const& names);
 
 } // namespace ZrProj::Command

@@ -38,6 +38,8 @@ public:
     void forward(std::span<PROJPOINT> points, std::span<PointState> states);
     void inverse(std::span<PROJPOINT> points, std::span<PointState> states);
 
+    CProjector& projector() { return m_projector; }
+
 private:
     using Method = bool (CProjector::*)(PROJPOINT*, int);
 

@@ -1,5 +1,8 @@
 #include "cli/report.h"
 
+#include "cli/text.h"
+
+#include <cerrno>
 #include <cstdio>
 
 namespace ZrProj::Command {
@@ -7,12 +10,18 @@ namespace {
 
 constexpr std::uint64_t mostBadLines = 100; // shown one by one
 constexpr std::uint64_t mostPlaces = 5;
+constexpr int pipeClosedStatus = 141; // as a shell reports a program that the closed pipe's signal ended
 
 std::string pointsText(std::uint64_t count) {
     return std::to_string(count) + (count == 1 ? " point" : " points");
 }
 
 } // namespace
+
+/// "file:3", "file: feature 3".
+std::string Report::place(std::uint64_t number) const {
+    return m_file + (m_counted == "line" ? ":" : ": " + m_counted + ' ') + std::to_string(number);
+}
 
 void Report::say(std::string const& message) {
     m_progress.hide();
@@ -29,21 +38,28 @@ void Report::badLine(std::uint64_t line, std::string const& reason) {
         say(place(line) + ": " + reason);
 }
 
+/// Lists a place once, however many points are there.
 void Report::point(PointState state, std::uint64_t line) {
     Count& count = m_counts[static_cast<std::size_t>(state)];
-    if (count.points++ >= mostPlaces)
+    ++count.points;
+    bool const sameFile = count.file == m_file;
+    if (count.places > mostPlaces || (count.places > 0 && sameFile && count.last == line))
         return;
-    count.places += count.places.empty() ? "" : ", ";
-    count.places += count.file == m_file ? std::to_string(line) : place(line);
+    if (count.places++ == mostPlaces) {
+        count.listed += ", ...";
+        return;
+    }
+    count.listed += count.listed.empty() ? "" : ", ";
+    count.listed += sameFile ? std::to_string(line) : place(line);
     count.file = m_file;
+    count.last = line;
 }
 
 void Report::closeCount(PointState state, std::string const& reason) {
     Count const& counted = count(state);
     if (counted.points == 0)
         return;
-    say("zrproj: " + pointsText(counted.points) + ' ' + reason + " (" + counted.places +
-        (counted.points > mostPlaces ? ", ...)" : ")"));
+    say("zrproj: " + pointsText(counted.points) + ' ' + reason + " (" + counted.listed + ')');
 }
 
 void Report::close() {
@@ -54,8 +70,19 @@ void Report::close() {
                "converted, but off by metres to kilometres: more than 10 degrees from the central meridian");
     closeCount(PointState::OffGrid, "not shifted to another datum: outside its grid");
     if (m_badLines > 0)
-        say("zrproj: " + std::to_string(m_badLines) + (m_badLines == 1 ? " line" : " lines") + " could not be read" +
+        say("zrproj: " + std::to_string(m_badLines) + ' ' + m_counted + (m_badLines == 1 ? "" : "s") +
+            " could not be read" +
             (m_badLines > mostBadLines ? "; the first " + std::to_string(mostBadLines) + " are shown above" : ""));
+}
+
+int Report::conclude(Output const& output, bool strict) {
+    if (output.error() == EPIPE) // whoever read the results has enough of them
+        return pipeClosedStatus;
+    if (output.error())
+        failure("cannot write standard output: " + systemMessage(output.error()));
+    else
+        close();
+    return status(strict);
 }
 
 int Report::status(bool strict) const {

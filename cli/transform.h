@@ -40,6 +40,9 @@ public:
     /// Converts a block in place; `unit` is that of projected coordinates.
     void run(PointBlock& block, LengthUnit const& unit);
 
+    /// The projection, where all points have the same one.
+    CProjector& projector() { return converter(0).projector(); }
+
 private:
     bool isDirect() const;
     void fromImage(PointBlock& block) const;
