@@ -9,12 +9,20 @@ namespace {
 constexpr double step = 1e-3; // degrees
 constexpr double radian = 180 / std::numbers::pi;
 
-/// The difference between two places on the map, for each metre that lies between them.
-std::optional<MapPoint> difference(MapProjection& map, PROJPOINT const& from, PROJPOINT const& to, double metres) {
-    auto const a = map.at(from), b = map.at(to);
-    if (!a || !b)
+constexpr double likeness = 0.2; // between the two halves of a step
+
+/// What becomes of a metre, by the steps from a place before to the place, and from there to one after; nothing where
+/// the two differ, since the map's edge or a kink lies between.
+std::optional<MapPoint> slope(MapProjection& map, PROJPOINT const& before, PROJPOINT const& place,
+                              PROJPOINT const& after, double metres) {
+    auto const a = map.at(before), b = map.at(place), c = map.at(after);
+    if (!a || !b || !c)
         return std::nullopt;
-    return MapPoint{(b->x - a->x) / metres, (b->y - a->y) / metres};
+    MapPoint const change{c->x - a->x, c->y - a->y};
+    double const bend = std::hypot(c->x - 2 * b->x + a->x, c->y - 2 * b->y + a->y);
+    if (bend > likeness * std::hypot(change.x, change.y))
+        return std::nullopt;
+    return MapPoint{change.x / metres, change.y / metres};
 }
 
 } // namespace
@@ -27,10 +35,9 @@ std::optional<LocalScale> localScale(MapProjection& map, PROJPOINT place) {
     double const w = 1 - squared * std::sin(latitude) * std::sin(latitude);
     double const eastRadius = record.MajorRadius / std::sqrt(w) * std::cos(latitude);
     double const northRadius = record.MajorRadius * (1 - squared) / (w * std::sqrt(w));
-    auto const east =
-        difference(map, {place.x - step, place.y}, {place.x + step, place.y}, 2 * step / radian * eastRadius);
-    auto const north =
-        difference(map, {place.x, place.y - step}, {place.x, place.y + step}, 2 * step / radian * northRadius);
+    auto const [x, y] = place;
+    auto const east = slope(map, {x - step, y}, place, {x + step, y}, 2 * step / radian * eastRadius);
+    auto const north = slope(map, {x, y - step}, place, {x, y + step}, 2 * step / radian * northRadius);
     if (!east || !north)
         return std::nullopt;
     return LocalScale{*east, *north};

@@ -46,7 +46,7 @@ bool overlap(MapBox const& a, MapBox const& b) {
 
 std::string seaLayer(MapPaper& paper) {
     SvgPath path;
-    paper.addOutline(path, true);
+    paper.addOutline(path);
     return element(path, "fill=\"#dcecf6\"");
 }
 
@@ -83,7 +83,7 @@ std::string ellipseLayer(MapPaper& paper, double step) {
 
 std::string outlineLayer(MapPaper& paper) {
     SvgPath path;
-    paper.addOutline(path, false);
+    paper.addEdge(path);
     return element(path, "fill=\"none\" stroke=\"#34495e\" stroke-width=\"10\"");
 }
 

@@ -11,6 +11,18 @@ constexpr double unitsPerPixel = 10;
 constexpr double tolerance = 2; // of chords: a fifth of a pixel
 constexpr double beyond = 50;   // how far curves go on beyond the paper
 
+/// The lines that a ring is made of when its seam is taken out.
+std::vector<Places> withoutSeam(Places const& ring) {
+    std::vector<Places> lines{{ring.front()}};
+    for (std::size_t i = 1; i <= ring.size(); ++i) {
+        PROJPOINT const& place = ring[i % ring.size()];
+        if (isSeam(lines.back().back(), place))
+            lines.emplace_back();
+        lines.back().push_back(place);
+    }
+    return lines;
+}
+
 } // namespace
 
 MapPaper::MapPaper(MapProjection& map, MapFrame const& frame, double size)
@@ -60,17 +72,15 @@ void MapPaper::addArea(SvgPath& path, std::span<PROJPOINT const> ring) {
         addRing(path, piece);
 }
 
-void MapPaper::addOutline(SvgPath& path, bool filled) {
-    for (Places const& ring : m_map.outline()) {
-        if (filled) {
-            addRing(path, ring);
-            continue;
-        }
-        std::vector<MapPoint> line = chords(ring, true);
-        if (!line.empty())
-            line.push_back(line.front());
-        addPieces(path, line);
-    }
+void MapPaper::addOutline(SvgPath& path) {
+    for (Places const& ring : m_map.outline())
+        addRing(path, ring);
+}
+
+void MapPaper::addEdge(SvgPath& path) {
+    for (Places const& ring : m_map.outline())
+        for (Places const& line : withoutSeam(ring))
+            addPieces(path, chords(line, false));
 }
 
 } // namespace ZrProj::Command

@@ -26,8 +26,9 @@ public:
     /// the frame.
     void addLine(SvgPath& path, std::span<PROJPOINT const> line);
     void addArea(SvgPath& path, std::span<PROJPOINT const> ring);
-    /// The edge of what the map shows: as areas to fill, or as lines, which leave out the frame.
-    void addOutline(SvgPath& path, bool filled);
+    /// All that the map shows, for filling, and the edge of that.
+    void addOutline(SvgPath& path);
+    void addEdge(SvgPath& path);
 
 private:
     MapPoint onPaper(MapPoint const& point) const;

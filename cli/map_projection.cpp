@@ -36,6 +36,20 @@ std::vector<Places> cut(CProjector& projector, Cut method, std::span<PROJPOINT c
     return result;
 }
 
+/// The ring around the plane of longitude and latitude, with a point at each degree.
+Places wholeGlobe() {
+    Places ring;
+    for (int x = -180; x < 180; ++x)
+        ring.push_back({static_cast<double>(x), -90});
+    for (int y = -90; y < 90; ++y)
+        ring.push_back({180, static_cast<double>(y)});
+    for (int x = 180; x > -180; --x)
+        ring.push_back({static_cast<double>(x), 90});
+    for (int y = 90; y > -90; --y)
+        ring.push_back({-180, static_cast<double>(y)});
+    return ring;
+}
+
 } // namespace
 
 MapProjection::MapProjection(PROJDATA record) : m_record(record) {
@@ -80,9 +94,12 @@ std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
 }
 
 std::vector<Places> MapProjection::outline() {
-    static constexpr std::array<PROJPOINT, 6> world{
-        {{-180, -90}, {0, -90}, {180, -90}, {180, 90}, {0, 90}, {-180, 90}}};
-    return cutArea(world);
+    static Places const globe = wholeGlobe();
+    return cutArea(globe);
+}
+
+bool isSeam(PROJPOINT const& from, PROJPOINT const& to) {
+    return std::fabs(from.x) == 180 && std::fabs(to.x) == 180;
 }
 
 } // namespace ZrProj::Command

@@ -36,12 +36,17 @@ public:
     std::vector<Places> cutLine(std::span<PROJPOINT const> line);
     std::vector<Places> cutArea(std::span<PROJPOINT const> ring);
 
-    /// The rings around all that the map shows.
+    /// The rings around all that the map shows, with points a degree apart at most. They are cut from the plane of
+    /// longitude and latitude, and so have a seam at the antimeridian where the map goes on there.
     std::vector<Places> outline();
 
 private:
     CProjector m_projector;
     PROJDATA m_record;
 };
+
+/// Whether an edge of an outline is a part of its seam. Where the map ends at the antimeridian, its edge is a little
+/// inside.
+bool isSeam(PROJPOINT const& from, PROJPOINT const& to);
 
 } // namespace ZrProj::Command
