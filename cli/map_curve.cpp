@@ -19,12 +19,6 @@ bool isNowhere(MapPoint const& p) {
     return std::isnan(p.x);
 }
 
-double distance(MapPoint const& p, MapPoint const& a, MapPoint const& b) {
-    double const dx = b.x - a.x, dy = b.y - a.y, squared = dx * dx + dy * dy;
-    double const t = squared > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / squared, 0.0, 1.0) : 0;
-    return std::hypot(p.x - a.x - t * dx, p.y - a.y - t * dy);
-}
-
 class Chords {
 public:
     Chords(Placing const& placing, CurveRules const& rules) : m_placing(placing), m_rules(rules) {}
@@ -66,7 +60,7 @@ void Chords::divide(Knot const& from, Knot const& to, int depth) {
     auto const a = between(from, to, 0.25), b = between(from, to, 0.5), c = between(from, to, 0.75);
     if (!a || !b || !c) // beside a horizon, by the width of the straight edge
         return;
-    auto const off = [&](Knot const& knot) { return distance(knot.point, from.point, to.point); };
+    auto const off = [&](Knot const& knot) { return distanceFrom(from.point, to.point, knot.point); };
     if (std::max({off(*a), off(*b), off(*c)}) < m_rules.tolerance ||
         isAside({from.point, a->point, b->point, c->point, to.point}))
         return;
@@ -94,6 +88,12 @@ PROJPOINT beside(PROJPOINT const& from, PROJPOINT const& to) {
 }
 
 } // namespace
+
+double distanceFrom(MapPoint const& a, MapPoint const& b, MapPoint const& p) {
+    double const dx = b.x - a.x, dy = b.y - a.y, squared = dx * dx + dy * dy;
+    double const t = squared > 0 ? std::clamp(((p.x - a.x) * dx + (p.y - a.y) * dy) / squared, 0.0, 1.0) : 0;
+    return std::hypot(p.x - a.x - t * dx, p.y - a.y - t * dy);
+}
 
 std::vector<MapPoint> chordsOf(std::span<PROJPOINT const> places, std::span<MapPoint const> ends, bool closed,
                                Placing const& placing, CurveRules const& rules) {

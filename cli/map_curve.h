@@ -24,6 +24,9 @@ struct CurveRules {
 /// Where on the paper a place is; nothing where it is not.
 using Placing = std::function<std::optional<MapPoint>(PROJPOINT)>;
 
+/// How far a point is from the straight line between a and b.
+double distanceFrom(MapPoint const& a, MapPoint const& b, MapPoint const& p);
+
 /// A line, or, if closed, a ring, of edges that are straight in longitude and latitude, as chords on the paper. `ends`
 /// are the places put on the paper, NaN for those that are not there, which are left out. The closing chord's end is
 /// not repeated.

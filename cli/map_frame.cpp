@@ -40,9 +40,9 @@ struct Sample {
 std::vector<Sample> samples(MapProjection& map) {
     std::vector<Sample> result;
     for (int i = 0; i < places; ++i) {
-        PROJPOINT const place = placeOnGlobe(i);
-        auto const point = map.find(place);
-        auto const scale = point ? localScale(map, place) : std::nullopt;
+        auto const place = map.shown(placeOnGlobe(i));
+        auto const point = place ? map.at(*place) : std::nullopt;
+        auto const scale = point ? localScale(map, *place) : std::nullopt;
         if (scale)
             result.push_back({*point, std::fabs(scale->areal())});
     }
@@ -96,7 +96,8 @@ MapFrame frameAround(MapProjection& map, std::array<double, 4> const& bounds) {
     for (int i = 0; i <= boundSteps; ++i)
         for (int j = 0; j <= boundSteps; ++j) {
             double const longitude = std::remainder(west + width * i / boundSteps, 360);
-            if (auto const point = map.find({longitude, south + (north - south) * j / boundSteps}))
+            auto const place = map.shown({longitude, south + (north - south) * j / boundSteps});
+            if (auto const point = place ? map.at(*place) : std::nullopt)
                 extent.add(*point);
         }
     if (!(extent.box.width() > 0 && extent.box.height() > 0))

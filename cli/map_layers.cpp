@@ -72,11 +72,11 @@ std::string ellipseLayer(MapPaper& paper, double step) {
     for (double const latitude : multiples(-90 + step / 2, 90 - step / 2, step))
         for (double const longitude : multiples(-180, 180 - step / 2, step)) {
             auto const at = paper.find({longitude, latitude});
-            auto const scale = at ? localScale(paper.map(), {longitude, latitude}) : std::nullopt;
+            auto const scale = at ? localScale(paper.map(), at->place) : std::nullopt;
             if (!scale)
                 continue;
             Ellipse const shape = ellipseOf(*scale);
-            ellipses += ellipse(*at, {shape.first * radius, shape.second * radius, shape.turn});
+            ellipses += ellipse(at->point, {shape.first * radius, shape.second * radius, shape.turn});
         }
     return "<g fill=\"#c0392b\" fill-opacity=\".35\" stroke=\"#c0392b\" stroke-width=\"5\">\n" + ellipses + "</g>\n";
 }
@@ -91,18 +91,19 @@ std::string pointLayer(MapPaper& paper, std::vector<LabelledPlace> const& points
     std::string dots, labels;
     std::vector<MapBox> taken;
     for (LabelledPlace const& point : points) {
-        auto const at = paper.find(point.place);
-        if (!at)
+        auto const found = paper.find(point.place);
+        if (!found)
             continue;
-        dots += "<circle cx=\"" + number(at->x) + "\" cy=\"" + number(at->y) + "\" r=\"" + number(dotRadius) + "\"/>\n";
-        double const left = at->x + 2 * dotRadius, low = at->y - labelHeight / 2;
+        MapPoint const& at = found->point;
+        dots += "<circle cx=\"" + number(at.x) + "\" cy=\"" + number(at.y) + "\" r=\"" + number(dotRadius) + "\"/>\n";
+        double const left = at.x + 2 * dotRadius, low = at.y - labelHeight / 2;
         MapBox const box{left, low, left + letterWidth * static_cast<double>(letters(point.name)), low + labelHeight};
         bool const fits = box.right < paper.width() &&
                           std::none_of(taken.begin(), taken.end(), [&](MapBox const& b) { return overlap(box, b); });
         if (point.name.empty() || !fits)
             continue;
         taken.push_back(box);
-        labels += "<text x=\"" + number(left) + "\" y=\"" + number(at->y + labelHeight / 3) + "\">" +
+        labels += "<text x=\"" + number(left) + "\" y=\"" + number(at.y + labelHeight / 3) + "\">" +
                   escapedForXml(point.name) + "</text>\n";
     }
     return "<g fill=\"#a93226\">\n" + dots + "</g>\n<g font-size=\"100\" fill=\"#222\">\n" + labels + "</g>\n";

@@ -1,27 +1,18 @@
 #include "cli/map_paper.h"
 
 #include "cli/map_clip.h"
+#include "cli/map_seam.h"
 
 #include <algorithm>
+#include <iterator>
 
 namespace ZrProj::Command {
 namespace {
 
 constexpr double unitsPerPixel = 10;
 constexpr double tolerance = 2; // of chords: a fifth of a pixel
-constexpr double beyond = 50;   // how far curves go on beyond the paper
-
-/// The lines that a ring is made of when its seam is taken out.
-std::vector<Places> withoutSeam(Places const& ring) {
-    std::vector<Places> lines{{ring.front()}};
-    for (std::size_t i = 1; i <= ring.size(); ++i) {
-        PROJPOINT const& place = ring[i % ring.size()];
-        if (isSeam(lines.back().back(), place))
-            lines.emplace_back();
-        lines.back().push_back(place);
-    }
-    return lines;
-}
+constexpr double seamWidth = 20;
+constexpr double beyond = 50; // how far curves go on beyond the paper
 
 } // namespace
 
@@ -39,11 +30,12 @@ MapPoint MapPaper::onPaper(MapPoint const& point) const {
     return {(point.x - m_frame.box.left) * m_unit, (m_frame.box.high - point.y) * m_unit};
 }
 
-std::optional<MapPoint> MapPaper::find(PROJPOINT place) {
-    auto const point = m_map.find(place);
+std::optional<MapPaper::Found> MapPaper::find(PROJPOINT place) {
+    auto const shown = m_map.shown(place);
+    auto const point = shown ? m_map.at(*shown) : std::nullopt;
     if (!point || !m_frame.box.holds(*point))
         return std::nullopt;
-    return onPaper(*point);
+    return Found{*shown, onPaper(*point)};
 }
 
 std::vector<MapPoint> MapPaper::chords(Places const& places, bool closed) {
@@ -57,14 +49,10 @@ void MapPaper::addRing(SvgPath& path, Places const& ring) {
     path.addRing(clipRing(chords(ring, true), m_sheet));
 }
 
-void MapPaper::addPieces(SvgPath& path, std::span<MapPoint const> line) const {
-    for (auto const& piece : clipLine(line, m_sheet))
-        path.addLine(piece);
-}
-
 void MapPaper::addLine(SvgPath& path, std::span<PROJPOINT const> line) {
     for (Places const& piece : m_map.cutLine(line))
-        addPieces(path, chords(piece, false));
+        for (auto const& visible : clipLine(chords(piece, false), m_sheet))
+            path.addLine(visible);
 }
 
 void MapPaper::addArea(SvgPath& path, std::span<PROJPOINT const> ring) {
@@ -78,9 +66,15 @@ void MapPaper::addOutline(SvgPath& path) {
 }
 
 void MapPaper::addEdge(SvgPath& path) {
-    for (Places const& ring : m_map.outline())
-        for (Places const& line : withoutSeam(ring))
-            addPieces(path, chords(line, false));
+    std::vector<std::vector<MapPoint>> lines;
+    for (Places const& ring : m_map.outline()) {
+        std::vector<MapPoint> line = chords(ring, true);
+        if (!line.empty())
+            line.push_back(line.front());
+        std::ranges::move(clipLine(line, m_sheet), std::back_inserter(lines));
+    }
+    for (auto const& line : withoutSeams(lines, seamWidth))
+        path.addLine(line);
 }
 
 } // namespace ZrProj::Command

@@ -20,7 +20,11 @@ public:
     bool isWhole() const { return m_frame.whole; }
 
     /// Where a place of the globe is; nothing where it is not on the paper.
-    std::optional<MapPoint> find(PROJPOINT place);
+    struct Found {
+        PROJPOINT place; // as MapProjection::shown() has it
+        MapPoint point;
+    };
+    std::optional<Found> find(PROJPOINT place);
 
     /// What is to be seen of a line, or of the area in a ring; for filling, since its ends at the frame are drawn along
     /// the frame.
@@ -34,7 +38,6 @@ private:
     MapPoint onPaper(MapPoint const& point) const;
     std::vector<MapPoint> chords(Places const& places, bool closed);
     void addRing(SvgPath& path, Places const& ring);
-    void addPieces(SvgPath& path, std::span<MapPoint const> line) const;
 
     MapProjection& m_map;
     MapFrame m_frame;

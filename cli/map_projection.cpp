@@ -61,13 +61,9 @@ MapProjection::MapProjection(PROJDATA record) : m_record(record) {
         throw UsageError("with these parameters " + projectionName(record.Type) + " has no map");
 }
 
-std::optional<MapPoint> MapProjection::find(PROJPOINT place) {
-    for (double const turn : {0.0, 360.0, -360.0}) {
-        PROJPOINT const turned{place.x + turn, place.y};
-        if (m_projector.LLInProjection(&turned))
-            return at(turned);
-    }
-    return std::nullopt;
+std::optional<PROJPOINT> MapProjection::shown(PROJPOINT place) {
+    auto const pieces = cutLine(Places{place, place});
+    return pieces.empty() ? std::nullopt : std::optional(pieces.front().front());
 }
 
 std::optional<MapPoint> MapProjection::at(PROJPOINT place) {
@@ -96,10 +92,6 @@ std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
 std::vector<Places> MapProjection::outline() {
     static Places const globe = wholeGlobe();
     return cutArea(globe);
-}
-
-bool isSeam(PROJPOINT const& from, PROJPOINT const& to) {
-    return std::fabs(from.x) == 180 && std::fabs(to.x) == 180;
 }
 
 } // namespace ZrProj::Command

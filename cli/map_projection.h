@@ -25,8 +25,8 @@ public:
     /// The record, completed.
     PROJDATA const& record() const { return m_record; }
 
-    /// Where a place of the globe is; nothing for one that the map does not show.
-    std::optional<MapPoint> find(PROJPOINT place);
+    /// A place of the globe with its longitude as the formulas want it; nothing for one that the map does not show.
+    std::optional<PROJPOINT> shown(PROJPOINT place);
 
     /// Where the formulas put a place that was cut, or one between two of these; nothing, or NaN, where they cannot.
     std::optional<MapPoint> at(PROJPOINT place);
@@ -44,9 +44,5 @@ private:
     CProjector m_projector;
     PROJDATA m_record;
 };
-
-/// Whether an edge of an outline is a part of its seam. Where the map ends at the antimeridian, its edge is a little
-/// inside.
-bool isSeam(PROJPOINT const& from, PROJPOINT const& to);
 
 } // namespace ZrProj::Command
