@@ -28,6 +28,7 @@ std::unique_ptr<Subcommand> makeConvertFile(CLI::App& app);
 std::unique_ptr<Subcommand> makeInfo(CLI::App& app);
 std::unique_ptr<Subcommand> makeLocate(CLI::App& app);
 std::unique_ptr<Subcommand> makeList(CLI::App& app);
+std::unique_ptr<Subcommand> makeMap(CLI::App& app);
 std::unique_ptr<Subcommand> makeShow(CLI::App& app);
 
 } // namespace ZrProj::Command

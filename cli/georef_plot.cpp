@@ -1,6 +1,7 @@
 #include "cli/georef_plot.h"
 
 #include "cli/output.h"
+#include "cli/svg.h"
 #include "cli/text.h"
 
 #include <algorithm>
@@ -54,17 +55,6 @@ std::string timesText(double times) {
     std::string text;
     appendFixed(text, times, times < 1 ? 6 : 0);
     return text;
-}
-
-std::string escaped(std::string_view text) {
-    std::string result;
-    for (char const c : text) {
-        if (c == '<' || c == '>' || c == '&' || c == '"')
-            result += "&#" + std::to_string(static_cast<int>(c)) + ';';
-        else if (static_cast<unsigned char>(c) >= 0x20)
-            result += c;
-    }
-    return result;
 }
 
 class Plot {
@@ -189,7 +179,7 @@ void Plot::arrow(GEOREFPOINT const& from, GEOREFPOINT const& to, char const* col
 }
 
 void Plot::text(double x, double y, std::string const& words) {
-    m_svg += "<text x=\"" + shown(x) + "\" y=\"" + shown(y) + "\">" + escaped(words) + "</text>\n";
+    m_svg += "<text x=\"" + shown(x) + "\" y=\"" + shown(y) + "\">" + escapedForXml(words) + "</text>\n";
 }
 
 void Plot::control(std::size_t i) {

@@ -29,6 +29,7 @@ constexpr char const* overview = R"(Examples:
   zrproj list projections
   zrproj show --utm 17N
   zrproj georef fit controls.csv --method affine
+  zrproj map --projection robinson --output world.svg
 
 Lines are fields between commas, tabs, semicolons or blanks. With a header, the columns are found by their names (lon,
 longitude, x, easting; lat, latitude, y, northing), and results go into new columns; without one, results replace the
@@ -57,6 +58,7 @@ constexpr std::array commandRows{
     CommandRow{"info", "Show what side files and tags say of a map or an image", makeInfo},
     CommandRow{"convert", "Convert side files and TIFF tags into each other", makeConvertFile},
     CommandRow{"list", "List projections, parameters, ellipsoids, State Plane zones or datums", makeList},
+    CommandRow{"map", "Draw a map, or one of every projection", makeMap},
     CommandRow{"show", "Show the completed parameters of a projection", makeShow},
     CommandRow{"grid", "Look at the grids of NADCON datums, and prepare them", makeGrid},
 };

@@ -1,0 +1,149 @@
+// zrproj map: draws maps.
+#include "cli/commands.h"
+#include "cli/fields.h"
+#include "cli/land.h"
+#include "cli/map_points.h"
+#include "cli/map_sheet.h"
+#include "cli/number_field.h"
+#include "cli/parameters.h"
+#include "cli/projection_options.h"
+#include "cli/text.h"
+#include "cli/usage_error.h"
+#include "cli/whole_file.h"
+
+#include <CLI/CLI.hpp>
+
+#include <cstdio>
+#include <stdexcept>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr double usualGraticule = 15, usualEllipses = 30;
+constexpr double usualSize = 900, usualSheetSize = 1600;
+
+/// A number of an option, within bounds.
+double readWithin(char const* option, std::string const& text, double low, double high) {
+    Reading const number = readNumber(text);
+    if (number.error || !(number.value >= low && number.value <= high))
+        throw UsageError(std::string(option) + ": " + inQuotes(text) + " is not a number from " + numberText(low) +
+                         " to " + numberText(high));
+    return number.value;
+}
+
+class Map : public Subcommand {
+public:
+    explicit Map(CLI::App& app);
+    int run(Output& output) override;
+
+private:
+    MapContent content();
+    MapPicture picture();
+    double graticule() const;
+    std::array<double, 4> bounds() const;
+
+    ProjectionOptions m_projection;
+    bool m_all = false;
+    std::string m_graticule, m_ellipses, m_points, m_columns, m_title, m_bounds, m_landFile, m_size, m_output;
+    CLI::Option* m_titleOption;
+    CLI::Option* m_ellipsesOption;
+    std::vector<Places> m_land;
+};
+
+Map::Map(CLI::App& app) {
+    auto const add = [&](char const* name, std::string& text, char const* type, char const* description) {
+        return app.add_option(name, text, description)->type_name(type)->group("Drawing");
+    };
+    app.add_flag("--all", m_all, "A sheet of all projections, instead of one")
+        ->disable_flag_override()
+        ->group("Projection");
+    m_projection.addTo(app);
+    add("--graticule", m_graticule, "DEGREES", "Meridians and parallels, so far apart (15); 0 for none");
+    m_ellipsesOption = add("--tissot", m_ellipses, "DEGREES", "Distortion ellipses, so far apart (30)")->expected(0, 1);
+    add("--points", m_points, "FILE",
+        "Points to mark: longitude, latitude, and a name if you like; - is standard input");
+    add("--columns", m_columns, "X,Y",
+        "Columns of the points, longitude first: numbers from 1, or names of the header");
+    m_titleOption = add("--title", m_title, "TEXT", "Title (the projection's name); \"\" for none");
+    add("--bounds", m_bounds, "W,S,E,N", "What to draw, in degrees, instead of all that can be drawn well");
+    add("--land", m_landFile, "FILE", "Rings of land: longitude, latitude; an empty line between rings; none: no land");
+    add("--size", m_size, "PIXELS", "Length of the map's longer side (900), or width of the sheet (1600)");
+    add("-o,--output", m_output, "FILE", "The SVG file to write; standard output where none is given");
+    m_projection.addParametersTo(app);
+}
+
+double Map::graticule() const {
+    if (m_graticule.empty())
+        return usualGraticule;
+    if (m_graticule == "0")
+        return 0;
+    return readWithin("--graticule", m_graticule, 0.1, 90);
+}
+
+std::array<double, 4> Map::bounds() const {
+    auto const texts = fieldTexts(m_bounds, ',');
+    if (texts.size() != 4)
+        throw UsageError("--bounds: " + inQuotes(m_bounds) + " is not west,south,east,north");
+    std::array<double, 4> result{};
+    for (std::size_t i = 0; i < result.size(); ++i)
+        result[i] = i % 2 ? readWithin("--bounds", texts[i], -90, 90) : readWithin("--bounds", texts[i], -360, 360);
+    if (!(result[1] < result[3]))
+        throw UsageError("--bounds: the south is not below the north");
+    return result;
+}
+
+MapContent Map::content() {
+    MapContent result;
+    if (m_landFile != "none") {
+        m_land = m_landFile.empty() ? worldLand() : readLand(m_landFile);
+        result.land = &m_land;
+    }
+    result.graticule = graticule();
+    if (m_ellipsesOption->count() > 0)
+        result.ellipses = m_ellipses.empty() ? usualEllipses : readWithin("--tissot", m_ellipses, 1, 90);
+    if (!m_points.empty())
+        result.points = readMapPoints(m_points, m_columns);
+    if (!m_bounds.empty())
+        result.bounds = bounds();
+    return result;
+}
+
+MapPicture Map::picture() {
+    double const size =
+        m_size.empty() ? (m_all ? usualSheetSize : usualSize) : readWithin("--size", m_size, 100, 10000);
+    if (m_all && m_projection.any())
+        throw UsageError("--all has no place beside an option that names one projection");
+    if (m_all && (m_titleOption->count() > 0 || !m_bounds.empty()))
+        throw UsageError("--title and --bounds are for one map, not for --all");
+    if (m_all)
+        return drawSheet(content(), size);
+    ProjectionChoice const choice = m_projection.choice();
+    if (choice.zonePerPoint)
+        throw UsageError("--utm auto is one projection for each zone; name a zone to draw it");
+    MapContent drawn = content();
+    drawn.title = m_titleOption->count() > 0 ? m_title : projectionName(choice.record.Type);
+    return drawMap(choice.record, drawn, size, "");
+}
+
+int Map::run(Output& output) {
+    std::string const text = svgFile(picture());
+    if (m_output.empty() || m_output == "-") {
+        output << text;
+        return 0;
+    }
+    if (int const error = writeWholeFile(m_output, text))
+        throw std::runtime_error("cannot write " + m_output + ": " + systemMessage(error));
+    return 0;
+}
+
+} // namespace
+
+std::unique_ptr<Subcommand> makeMap(CLI::App& app) {
+    app.footer(R"(Examples:
+  zrproj map --projection robinson --output world.svg
+  zrproj map --projection stereographic --lat0 90 --tissot --output arctic.svg
+  zrproj map --utm 17N --bounds -85,40,-74,47 --graticule 1 --points cities.csv --output ontario.svg)");
+    return std::make_unique<Map>(app);
+}
+
+} // namespace ZrProj::Command

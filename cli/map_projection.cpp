@@ -1,0 +1,97 @@
+#include "cli/map_projection.h"
+
+#include "cli/parameters.h"
+#include "cli/usage_error.h"
+
+#include <array>
+#include <cfloat>
+#include <cmath>
+#include <limits>
+#include <memory>
+#include <new>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr double nowhere = std::numeric_limits<double>::quiet_NaN();
+
+bool isShown(PROJPOINT const& point) {
+    return point.x != DBL_MAX && point.y != DBL_MAX && std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+struct FreeChains {
+    void operator()(CPROJCHAIN* chains) const { ProjFreeChains(chains); }
+};
+
+using Cut = bool (CProjector::*)(PROJPOINT const*, unsigned, CPROJCHAIN**);
+
+std::vector<Places> cut(CProjector& projector, Cut method, std::span<PROJPOINT const> places) {
+    CPROJCHAIN* list = nullptr;
+    if (!(projector.*method)(places.data(), static_cast<unsigned>(places.size()), &list))
+        throw std::bad_alloc();
+    std::unique_ptr<CPROJCHAIN, FreeChains> const chains(list);
+    std::vector<Places> result;
+    for (CPROJCHAIN const* chain = list; chain; chain = chain->pNext)
+        result.emplace_back(chain->pPoints, chain->pPoints + chain->nPoints);
+    return result;
+}
+
+/// The ring around the plane of longitude and latitude, with a point at each degree.
+Places wholeGlobe() {
+    Places ring;
+    for (int x = -180; x < 180; ++x)
+        ring.push_back({static_cast<double>(x), -90});
+    for (int y = -90; y < 90; ++y)
+        ring.push_back({180, static_cast<double>(y)});
+    for (int x = 180; x > -180; --x)
+        ring.push_back({static_cast<double>(x), 90});
+    for (int y = 90; y > -90; --y)
+        ring.push_back({-180, static_cast<double>(y)});
+    return ring;
+}
+
+} // namespace
+
+MapProjection::MapProjection(PROJDATA record) : m_record(record) {
+    if (record.Type == ProjTypeUnprojectedLatLong)
+        throw UsageError(projectionName(record.Type) + " leaves points as they are; there is no map to draw");
+    m_projector.Create(&record);
+    m_projector.GetInfo(&m_record);
+    if (outline().empty())
+        throw UsageError("with these parameters " + projectionName(record.Type) + " has no map");
+}
+
+std::optional<PROJPOINT> MapProjection::shown(PROJPOINT place) {
+    auto const pieces = cutLine(Places{place, place});
+    return pieces.empty() ? std::nullopt : std::optional(pieces.front().front());
+}
+
+std::optional<MapPoint> MapProjection::at(PROJPOINT place) {
+    m_projector.Forward(&place, 1);
+    return isShown(place) ? std::optional(MapPoint{place.x, place.y}) : std::nullopt;
+}
+
+std::vector<MapPoint> MapProjection::at(std::span<PROJPOINT const> places) {
+    Places points(places.begin(), places.end());
+    m_projector.Forward(points.data(), static_cast<int>(points.size()));
+    std::vector<MapPoint> result;
+    result.reserve(points.size());
+    for (PROJPOINT const& point : points)
+        result.push_back(isShown(point) ? MapPoint{point.x, point.y} : MapPoint{nowhere, nowhere});
+    return result;
+}
+
+std::vector<Places> MapProjection::cutLine(std::span<PROJPOINT const> line) {
+    return line.size() < 2 ? std::vector<Places>{} : cut(m_projector, &CProjector::LLPreclipPolyline, line);
+}
+
+std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
+    return ring.size() < 3 ? std::vector<Places>{} : cut(m_projector, &CProjector::LLPreclipPolygon, ring);
+}
+
+std::vector<Places> MapProjection::outline() {
+    static Places const globe = wholeGlobe();
+    return cutArea(globe);
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,48 @@
+// A projection as a drawing uses it: what of lines and areas it shows, and where on the map that is.
+#pragma once
+
+#include <zrproj/zrproj.h>
+
+#include <optional>
+#include <span>
+#include <vector>
+
+namespace ZrProj::Command {
+
+/// A place on the map, in its own units, or on the paper.
+struct MapPoint {
+    double x, y;
+};
+
+/// Longitudes and latitudes, one after another.
+using Places = std::vector<PROJPOINT>;
+
+class MapProjection {
+public:
+    /// record: one that ProjCheckParams accepts. Throws UsageError when it makes no map.
+    explicit MapProjection(PROJDATA record);
+
+    /// The record, completed.
+    PROJDATA const& record() const { return m_record; }
+
+    /// A place of the globe with its longitude as the formulas want it; nothing for one that the map does not show.
+    std::optional<PROJPOINT> shown(PROJPOINT place);
+
+    /// Where the formulas put a place that was cut, or one between two of these; nothing, or NaN, where they cannot.
+    std::optional<MapPoint> at(PROJPOINT place);
+    std::vector<MapPoint> at(std::span<PROJPOINT const> places);
+
+    /// What the map shows of a line, or of the area in a ring. Throws std::bad_alloc.
+    std::vector<Places> cutLine(std::span<PROJPOINT const> line);
+    std::vector<Places> cutArea(std::span<PROJPOINT const> ring);
+
+    /// The rings around all that the map shows, with points a degree apart at most. They are cut from the plane of
+    /// longitude and latitude, and so have a seam at the antimeridian where the map goes on there.
+    std::vector<Places> outline();
+
+private:
+    CProjector m_projector;
+    PROJDATA m_record;
+};
+
+} // namespace ZrProj::Command

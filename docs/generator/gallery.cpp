@@ -1,0 +1,112 @@
+// Writes docs/gallery.md and its pictures, docs/gallery/*.svg: each projection, drawn by the command's own parts.
+//
+//     zrproj-gallery DOCS
+#include "cli/land.h"
+#include "cli/map_drawing.h"
+#include "cli/map_views.h"
+#include "cli/parameters.h"
+
+#include <exception>
+#include <filesystem>
+#include <fstream>
+#include <iostream>
+#include <stdexcept>
+
+namespace {
+
+using namespace ZrProj;
+using namespace ZrProj::Command;
+
+constexpr double size = 480; // pixels
+constexpr char const* introduction = R"(# Gallery
+
+A map of every projection, with parameters that show it well, on WGS 84. The ellipses are circles of one size on the globe:
+how large and of what shape they come out is how the map distorts. A thin frame stands where a map goes on, ever larger. What
+the parameters mean: [projection types](projection-types.md). The land is [Natural Earth](https://www.naturalearthdata.com),
+1:110 million.
+
+The pictures are those of `zrproj map` with the options given. Made by `./dev docs`; do not edit.
+)";
+
+void write(std::filesystem::path const& file, std::string const& text) {
+    std::ofstream out(file, std::ios::binary);
+    out << text;
+    if (!out.flush())
+        throw std::runtime_error("cannot write " + file.string());
+}
+
+/// Whether a parameter tells something of the picture.
+bool isTelling(PROJDATA const& record, Parameter const& parameter) {
+    switch (parameter.quantity) {
+    case Quantity::Longitude:
+    case Quantity::Latitude:
+    case Quantity::Azimuth:
+        return parameterText(record, parameter) != "0 degrees";
+    case Quantity::Flag:
+        return parameterText(record, parameter) == "yes";
+    default:
+        return parameter.quantity == Quantity::Zone;
+    }
+}
+
+std::string inMarks(std::string const& value) {
+    return value.find(' ') == std::string::npos ? value : '"' + value + '"';
+}
+
+/// A parameter as an option of the command.
+std::string option(PROJDATA const& record, Parameter const& parameter) {
+    std::string value = parameterText(record, parameter);
+    if (parameter.quantity == Quantity::Flag)
+        return parameter.option;
+    if (auto const unit = value.find(" degrees"); unit != std::string::npos)
+        value.resize(unit);
+    return parameter.option + ' ' + inMarks(value);
+}
+
+std::string section(MapView const& view) {
+    PROJDATA const& record = view.record;
+    std::string const name = projectionName(record.Type);
+    std::string options = "--projection " + inMarks(name), rows;
+    for (int const id : usedParameters(record.Type)) {
+        Parameter const& shown = parameter(id);
+        if (!isTelling(record, shown))
+            continue;
+        options += ' ' + option(record, shown);
+        rows += "| " + shown.name + " | " + parameterText(record, shown) + " |\n";
+    }
+    std::string text = "\n## " + name + "\n\n![" + name + "](gallery/" + view.key + ".svg)\n\n";
+    if (!rows.empty())
+        text += "| | |\n|---|---|\n" + rows + '\n';
+    return text + "    zrproj map " + options + " --tissot --size 480\n";
+}
+
+void makeGallery(std::filesystem::path const& docs) {
+    auto const land = worldLand();
+    std::string page = introduction;
+    std::filesystem::create_directories(docs / "gallery");
+    for (MapView const& view : mapViews()) {
+        MapContent const content{.land = &land,
+                                 .graticule = 15,
+                                 .ellipses = 30,
+                                 .points = {},
+                                 .title = projectionName(view.record.Type),
+                                 .bounds = {}};
+        write(docs / "gallery" / (std::string(view.key) + ".svg"), svgFile(drawMap(view.record, content, size, "")));
+        page += section(view);
+    }
+    write(docs / "gallery.md", page);
+}
+
+} // namespace
+
+int main(int argc, char** argv) try {
+    if (argc != 2) {
+        std::cerr << "usage: zrproj-gallery DOCS\n";
+        return 2;
+    }
+    makeGallery(argv[1]);
+    return 0;
+} catch (std::exception const& fault) {
+    std::cerr << "zrproj-gallery: " << fault.what() << "\n";
+    return 1;
+}
