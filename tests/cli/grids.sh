@@ -38,6 +38,23 @@ check 'imported' 0 "$report" '' grid import "$work/download/conus" </dev/null
 refused 'there already' "$work/bin/conus.LAS is there already; --replace replaces it" grid import "$work/download/conus"
 check 'replaced' 0 "$report" '' grid import --replace "$work/download/conus.los" </dev/null
 
+# What is this library's already is not turned round, neither in its place nor elsewhere.
+mkdir "$work/other"
+refused 'itself' "$work/bin/conus.LAS is itself what would be written;*" grid import --replace "$work/bin/conus"
+refused 'converted' "*conus.LOS look like one of this library's, *; copy them as they are" \
+    grid import --to "$work/other" "$work/bin/conus"
+refused 'a name of a path' '--name: "../x" is no name of files;*' grid import --name ../x "$work/download/conus"
+[[ $(ls "$work/bin" "$work/other" | wc -l) == 6 ]] || fail 'nothing is written' "$(ls "$work/bin" "$work/other")"
+grid 1.75 >"$work/other/east.LOS"
+grid 0.125 >"$work/other/east.LAS"
+grid -1.75 >"$work/other/west.LAS"
+grid 0.125 >"$work/other/west.LOS"
+for half in 'east latitude shifts in .LAS and east positive' 'west longitude shifts in .LAS and west positive'; do
+    "$zrproj" grid check "$work/other/${half%% *}" >/dev/null 2>"$work/err"
+    [[ $? == 1 && $(<"$work/err") == "zrproj: the pair looks like one with ${half#* }" ]] || fail "$half" "$(<"$work/err")"
+    refused "$half" "* look like one with ${half#* }, which cannot be imported" grid import "$work/other/${half%% *}"
+done
+
 # The last point is west of the grid, in the column of the leading word.
 check 'shifted' 0 $'-74.999513889 40.000034722\n285.000486111 40.000034722\n-80.249513889 40.000034722' '' \
     datum --from 232 --to wgs84 <<<$'-75 40\n285 40\n-80.25 40'
