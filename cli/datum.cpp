@@ -37,8 +37,6 @@ Example:
 
     int run(Output&) override {
         Datum const datum = readDatumDefinition(m_definition);
-        if (isCatalogueName(datum.name))
-            throw UsageError("the name " + inQuotes(datum.name) + " is one of the catalogue's");
         if (!m_replace && isStored(datum.name))
             throw UsageError("there is a datum " + inQuotes(datum.name) + " already; --replace replaces it");
         if (!NDatSetDatum(datum.name.c_str(), &datum.record))

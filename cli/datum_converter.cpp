@@ -3,6 +3,8 @@
 #include "cli/text.h"
 #include "cli/usage_error.h"
 
+#include <algorithm>
+#include <array>
 #include <cfloat>
 #include <cmath>
 #include <filesystem>
@@ -20,6 +22,31 @@ DATUMXFORM request(DatumShift const& shift) {
     result.SourceParams.bFromWGS84 = false;
     result.DestinationParams.bFromWGS84 = true;
     return result;
+}
+
+/// A datum with regression equations, and the same one with three shifts.
+struct ThreeShifts {
+    DatumType equations, shifts;
+};
+
+constexpr std::array threeShifts{
+    ThreeShifts{DatumTypeAustralianGeodetic1966Mre, DatumTypeAustralianGeodetic1966},
+    ThreeShifts{DatumTypeAustralianGeodetic1984Mre, DatumTypeAustralianGeodetic1984},
+    ThreeShifts{DatumTypeCampoInchausepeArgentinaMre, DatumTypeCampoInchausepeArgentina},
+    ThreeShifts{DatumTypeCorregoAlegreBrazilMre, DatumTypeCorregoAlegreBrazil},
+    ThreeShifts{DatumTypeEuropean1950Mre, DatumTypeEuropean1950Mean},
+    ThreeShifts{DatumTypeNad1927ConusMre, DatumTypeNad1927Conus},
+    ThreeShifts{DatumTypeNad1927CanadaMre, DatumTypeNad1927CanadaMean},
+    ThreeShifts{DatumTypeSouthAmerican1969Mre, DatumTypeSouthAmerican1969},
+};
+
+/// Equations are right to metres, and three shifts to 40 metres where equations are; what is further apart has run
+/// away.
+bool hasRunAway(DATUMPOINT const& point, DATUMPOINT const& byShifts) {
+    constexpr double degree = 3.14159265358979 / 180, metresADegree = 111200, most = 50;
+    double const north = point.y - byShifts.y;
+    double const east = std::remainder(point.x - byShifts.x, 360) * std::cos(byShifts.y * degree);
+    return !(metresADegree * std::hypot(east, north) <= most);
 }
 
 /// The longitude as grids have it.
@@ -51,10 +78,26 @@ DatumConverter::DatumConverter(DatumShift const& shift) {
                          "\", not to it: " + std::string(methodName(shift.to.method())) + " works one way only");
     if (shift.from.method() == DatumMethodNadcon)
         m_grid = openGrid(shift.from);
-    DATUMXFORM const xform = request(shift);
+    DATUMXFORM xform = request(shift);
     DATUMPOINT point{0, 0};
     if (!m_transform.Create(&xform) || !m_transform.Convert(&point, 1))
         throw UsageError("there is no conversion from \"" + shift.from.name + "\" to \"" + shift.to.name + '"');
+    auto const row = std::find_if(threeShifts.begin(), threeShifts.end(),
+                                  [&](ThreeShifts const& pair) { return pair.equations == shift.from.type; });
+    if (row == threeShifts.end())
+        return;
+    xform.Source = row->shifts;
+    m_threeShifts.Create(&xform);
+}
+
+void DatumConverter::compareWithThreeShifts(std::span<PROJPOINT const> points, std::span<PointState> states) {
+    m_compared.clear();
+    for (PROJPOINT const& point : points)
+        m_compared.push_back({point.x, point.y});
+    m_threeShifts.Convert(m_compared.data(), static_cast<int>(m_compared.size()));
+    for (std::size_t i = 0; i < points.size(); ++i)
+        if (hasResult(states[i]) && hasRunAway(m_points[i], m_compared[i]))
+            states[i] = PointState::OffArea;
 }
 
 void DatumConverter::convert(std::span<PROJPOINT> points, std::span<PointState> states) {
@@ -69,6 +112,8 @@ void DatumConverter::convert(std::span<PROJPOINT> points, std::span<PointState> 
     }
     if (!m_transform.Convert(m_points.data(), static_cast<int>(m_points.size())))
         throw std::runtime_error("the datum conversion fails: a file of its grid ends too early");
+    if (m_threeShifts.IsCreated())
+        compareWithThreeShifts(points, states);
     for (std::size_t i = 0; i < points.size(); ++i) {
         points[i] = {m_points[i].x, m_points[i].y};
         if (hasResult(states[i]) && points[i].x == DBL_MAX)

@@ -94,6 +94,8 @@ Datum readDatumDefinition(std::string_view text) {
     if (colon == std::string_view::npos || trimmed(text.substr(0, colon)).empty())
         throw UsageError(inQuotes(text) + " is no datum; write NAME: method=..., with the fields " + std::string(keys));
     Datum datum{std::string(trimmed(text.substr(0, colon))), DatumTypeUserDefined, {}};
+    if (isCatalogueName(datum.name))
+        throw UsageError("the name " + inQuotes(datum.name) + " is one of the catalogue's");
     std::vector<std::string> seen;
     for (std::size_t begin = colon + 1; begin <= text.size();) {
         std::size_t const end = std::min(text.find(',', begin), text.size());

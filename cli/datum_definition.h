@@ -8,7 +8,8 @@
 namespace ZrProj::Command {
 
 /// Reads a definition: a name, a colon, and fields between commas, in any order. Those left out are zero; the method
-/// must be there. Throws UsageError for anything that no conversion could use.
+/// must be there. Throws UsageError for anything that no conversion could use, and for a name of the
+/// catalogue.
 Datum readDatumDefinition(std::string_view text);
 
 struct DatumField {

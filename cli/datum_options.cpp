@@ -16,12 +16,12 @@ constexpr Names namesOf(Direction direction) {
     switch (direction) {
     case Direction::Forward:
         return {"--from-datum", "Datum of the points, if it is another than the map's", "--datum",
-                "Datum of the map, by name or POSC code; its ellipsoid is the projection's"};
+                "Datum of the map, by name, number or POSC code; its ellipsoid is the projection's"};
     case Direction::Inverse:
-        return {"--datum", "Datum of the map, by name or POSC code; its ellipsoid is the projection's", "--to-datum",
-                "Datum of the results, if it is another than the map's"};
+        return {"--datum", "Datum of the map, by name, number or POSC code; its ellipsoid is the projection's",
+                "--to-datum", "Datum of the results, if it is another than the map's"};
     default:
-        return {"--from", "Datum of the points, by name (a unique part will do) or POSC code", "--to",
+        return {"--from", "Datum of the points, by name (a unique part will do), number or POSC code", "--to",
                 "Datum of the results"};
     }
 }

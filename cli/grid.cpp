@@ -60,6 +60,8 @@ std::filesystem::path withoutEnding(std::filesystem::path path) {
 int GridCommand::import(Output& output) const {
     std::filesystem::path const source = withoutEnding(m_imported);
     std::string const name = m_name.empty() ? source.filename().string() : m_name;
+    if (name.find('/') != std::string::npos)
+        throw UsageError("--name: " + inQuotes(name) + " is no name of files; --to tells their directory");
     std::filesystem::path const directory = m_directory.empty() ? gridDirectory() : m_directory;
     std::string const destination = (directory / name).string();
     importGrids({source.string(), destination, m_replace});

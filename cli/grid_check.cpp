@@ -1,9 +1,8 @@
 #include "cli/grid_check.h"
 
+#include "cli/grid_fit.h"
 #include "cli/number_field.h"
 #include "cli/table.h"
-
-#include <zrproj/datum.h>
 
 #include <algorithm>
 #include <cmath>
@@ -46,48 +45,16 @@ std::string extent(double first, double last, float step) {
     return numberText(first) + " to " + numberText(last) + " degrees, every " + numberText(step);
 }
 
-/// How far the grids are, in arcseconds, from what three shifts of NAD 1927 say: taken as this system's, and as a pair
-/// of the usual convention.
-struct Fit {
-    double own = 0, usual = 0;
-};
-
-Fit fitOf(GridFile& las, GridFile& los) {
-    static DATUMXFORM const request{DatumTypeNad1927Conus, DatumTypeWorldGeodeticSystem1984, false, {}, {}};
-    CDatumTransform transform(&request);
-    GridHeader const& grid = las.header();
-    int const rowStep = std::max(1, grid.rows / 16), columnStep = std::max(1, grid.columns / 16);
-    Fit fit;
-    for (int row = 1; row <= grid.rows; row += rowStep) {
-        std::vector<float> const &x = las.record(row), &y = los.record(row);
-        for (int column = 1; column <= grid.columns; column += columnStep) {
-            DATUMPOINT const from{grid.xmin + (column - 1.0) * grid.dx, grid.ymin + (row - 1.0) * grid.dy};
-            DATUMPOINT to = from;
-            transform.Convert(&to, 1);
-            double const east = 3600 * (to.x - from.x), north = 3600 * (to.y - from.y);
-            auto const place = static_cast<std::size_t>(column);
-            fit.own += std::hypot(x[place] - east, y[place] - north);
-            fit.usual += std::hypot(x[place] - north, y[place] + east);
-        }
-    }
-    return fit;
-}
-
-/// Whether a grid lies in the area of NAD 1927, where its shifts are known well enough.
-bool isNorthAmerican(GridHeader const& grid) {
-    return grid.xmin >= -140 && grid.east() <= -50 && grid.ymin >= 10 && grid.north() <= 60;
-}
-
 std::string faultOf(GridFile& las, GridFile& los, Range const& x, Range const& y) {
     if (!(las.header() == los.header()))
         return "the two files have different headers; the library takes that of " + las.path();
     if (x.bad + y.bad > 0)
         return std::to_string(x.bad + y.bad) + " values are no numbers; points in their cells come out marked";
-    if (isNorthAmerican(las.header()))
-        if (Fit const fit = fitOf(las, los); 2 * fit.usual < fit.own)
-            return "the pair looks like one of the usual convention, with latitude shifts in .LAS and west positive; "
-                   "\"zrproj grid import\" makes it into one for this library";
-    return "";
+    Arrangement const found = arrangementOf(las, los, own);
+    if (found == own)
+        return "";
+    return "the pair looks like " + std::string(found.words) +
+           (found == usual ? "; \"zrproj grid import\" makes it into one for this library" : "");
 }
 
 } // namespace

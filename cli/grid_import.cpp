@@ -1,14 +1,16 @@
 #include "cli/grid_import.h"
 
-#include "cli/grid_file.h"
+#include "cli/grid_fit.h"
 #include "cli/replacement_file.h"
 #include "cli/text.h"
 #include "cli/usage_error.h"
 
+#include <array>
 #include <cerrno>
 #include <filesystem>
 #include <fstream>
 #include <stdexcept>
+#include <system_error>
 
 namespace ZrProj::Command {
 namespace {
@@ -38,14 +40,28 @@ void copyGrid(GridFile& from, std::string const& to, float sign) {
         throw std::runtime_error("cannot write " + inQuotes(to) + ": " + systemMessage(errno));
 }
 
+/// Refuses files that would be overwritten by what is made of them, and those that are no pair to be imported.
+void checkPair(GridFile& latitudes, GridFile& longitudes, std::array<std::string, 2> const& destinations) {
+    std::error_code error; // what is not there is no file's equal
+    for (GridFile const* source : {&latitudes, &longitudes})
+        for (std::string const& name : destinations)
+            if (std::filesystem::equivalent(source->path(), name, error))
+                throw UsageError(source->path() + " is itself what would be written; give another --to or --name");
+    if (!(latitudes.header() == longitudes.header()))
+        throw UsageError("the headers of " + latitudes.path() + " and " + longitudes.path() +
+                         " differ; they are no pair");
+    Arrangement const found = arrangementOf(latitudes, longitudes, usual);
+    if (!(found == usual))
+        throw UsageError(latitudes.path() + " and " + longitudes.path() + " look like " + std::string(found.words) +
+                         (found == own ? "; copy them as they are" : ", which cannot be imported"));
+}
+
 } // namespace
 
 void importGrids(GridImport const& job) {
     GridFile latitudes(findFile(job.source, ".las", ".LAS")), longitudes(findFile(job.source, ".los", ".LOS"));
-    if (!(latitudes.header() == longitudes.header()))
-        throw UsageError("the headers of " + latitudes.path() + " and " + longitudes.path() +
-                         " differ; they are no pair");
     std::string const las = job.destination + ".LAS", los = job.destination + ".LOS";
+    checkPair(latitudes, longitudes, {las, los});
     for (std::string const& name : {las, los})
         if (!job.replace && std::filesystem::exists(name))
             throw UsageError(name + " is there already; --replace replaces it");

@@ -13,6 +13,7 @@ enum class PointState : std::uint8_t {
     Good,
     Far,      // has a result, but lies too far from the central meridian for a good one
     OffGrid,  // has a result, but lies outside the grid of the datum, which leaves it as it is
+    OffArea,  // has a result, but a wrong one: outside the area of the datum's regression equations
     Marked,   // came marked as unplottable
     Outside,  // lies outside the projection's usable area
     NoResult, // the formulas give none
@@ -20,7 +21,8 @@ enum class PointState : std::uint8_t {
 };
 
 constexpr bool hasResult(PointState state) {
-    return state == PointState::Good || state == PointState::Far || state == PointState::OffGrid;
+    return state == PointState::Good || state == PointState::Far || state == PointState::OffGrid ||
+           state == PointState::OffArea;
 }
 
 /// Converts points in place. Longitudes are taken on the side of the globe that the projection is centred on, and given

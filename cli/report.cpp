@@ -69,6 +69,8 @@ void Report::close() {
     closeCount(PointState::Far,
                "converted, but off by metres to kilometres: more than 10 degrees from the central meridian");
     closeCount(PointState::OffGrid, "not shifted to another datum: outside its grid");
+    closeCount(PointState::OffArea,
+               "shifted to another datum, but off by 50 metres or far more: outside the area of its equations");
     if (m_badLines > 0)
         say("zrproj: " + std::to_string(m_badLines) + ' ' + m_counted + (m_badLines == 1 ? "" : "s") +
             " could not be read" +
@@ -87,8 +89,8 @@ int Report::conclude(Output const& output, bool strict) {
 
 int Report::status(bool strict) const {
     bool lost = false;
-    for (PointState state :
-         {PointState::Far, PointState::OffGrid, PointState::Marked, PointState::Outside, PointState::NoResult})
+    for (PointState state : {PointState::Far, PointState::OffGrid, PointState::OffArea, PointState::Marked,
+                             PointState::Outside, PointState::NoResult})
         lost = lost || count(state).points > 0;
     return m_failed || m_badLines > 0 || (strict && lost) ? 1 : 0;
 }

@@ -118,15 +118,16 @@ void Transform::shiftDatum(PointBlock& block) {
         m_datum->convert(block.points, block.states);
 }
 
-/// Points outside the grid are projected like others, and are told of afterwards.
+/// Points outside what their datum's grid or equations cover are projected like others, and are told of afterwards.
 void Transform::shiftAndProject(PointBlock& block) {
     shiftDatum(block);
     std::vector<PointState> const shifted = m_datum ? block.states : std::vector<PointState>();
-    std::replace(block.states.begin(), block.states.end(), PointState::OffGrid, PointState::Good);
+    auto const isOff = [](PointState state) { return state == PointState::OffGrid || state == PointState::OffArea; };
+    std::replace_if(block.states.begin(), block.states.end(), isOff, PointState::Good);
     project(block);
     for (std::size_t i = 0; i < shifted.size(); ++i)
-        if (shifted[i] == PointState::OffGrid && block.states[i] == PointState::Good)
-            block.states[i] = PointState::OffGrid;
+        if (isOff(shifted[i]) && block.states[i] == PointState::Good)
+            block.states[i] = shifted[i];
 }
 
 void Transform::projectAndShift(PointBlock& block) {

@@ -365,7 +365,7 @@ ZRPROJ_API void DatDeleteDatum(void* handle);
 ///
 /// Returns false for a null pointer and a count below 1; for a NADCON or regression datum as the destination; for a
 /// user-defined end whose method is not 0, 2 or 3; and for a NADCON source whose grid cannot be read. Points are then
-/// as they were, but for the grid's case, where they may have been normalised.
+/// as they were, but for the grid's case: those before the failure may be converted, or normalised, later ones are not.
 ZRPROJ_API bool DatConvertDatum(void* handle, DATUMPOINT* points, int count);
 
 /// Whether the last conversion met or made a marked point; false for null.

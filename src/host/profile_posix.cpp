@@ -38,6 +38,14 @@ private:
     int value_;
 };
 
+/// A file of locks is made for those who may write to the profile, but under the mask of who comes first. For a lock it
+/// need only be read; network file systems want to write, so that is tried first.
+int openLocks(std::string const& name) {
+    constexpr int flags = O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC;
+    int const file = open(name.c_str(), O_RDWR | O_CREAT | flags, 0666);
+    return file < 0 && errno == EACCES ? open(name.c_str(), O_RDONLY | flags) : file;
+}
+
 /// Waits for the lock; false when it does not come free in time.
 bool lock(Descriptor const& file) {
     using namespace std::chrono;
@@ -149,10 +157,7 @@ bool writeProfile(std::string const& file, std::string_view section, std::string
     if (value && file == defaultProfileName())
         makeDirectoryOf(file);
     std::string const name = behindLinks(file);
-    Descriptor const locks(
-        name.empty()
-            ? -1
-            : open((name + ".lock").c_str(), O_RDWR | O_CREAT | O_NOFOLLOW | O_NONBLOCK | O_NOCTTY | O_CLOEXEC, 0666));
+    Descriptor const locks(name.empty() ? -1 : openLocks(name + ".lock"));
     if (!locks || !lock(locks))
         return false;
     auto const text = readText(name);

@@ -32,6 +32,15 @@ refused 'twice' 'the datum "x" has "DX" twice' datum --define 'x: method=none, d
 refused 'the library refuses' 'the datum "x" cannot be used: Ellipsoid radius *' \
     datum --define 'x: method=molodensky, dx=1' --from x --to wgs84
 
+refused 'a short name' 'the name "NAD27" is one of the catalogue*' datum --define 'NAD27: method=none' --from nad27 --to wgs84
+
+# The Amazon is beyond the equations of Brazil's east, and Tokyo beyond everything.
+check 'equations beyond their area' 1 "$("$zrproj" datum --from 227 --to wgs84 2>/dev/null <<<$'-40 -20\n-67 -1\n140 36')" \
+    'zrproj: 2 points shifted to another datum, but off by 50 metres or far more: * (<stdin>:2, 3)' \
+    datum --strict --from 227 --to wgs84 <<<$'-40 -20\n-67 -1\n140 36'
+check 'equations beyond their area, onto a map' 1 "$("$zrproj" datum --from 227 --to wgs84 2>/dev/null <<<'-67 -1' |
+    "$zrproj" forward --utm 19S)" 'zrproj: 1 point shifted*' forward --strict --utm 19S --from-datum 227 --datum wgs84 <<<'-67 -1'
+
 # The datum gives the projection its ellipsoid; there and back is where it was.
 utm=$("$zrproj" forward --from-datum wgs84 --datum nad27 --utm 14N <<<'-100 40')
 moved=$("$zrproj" datum --from wgs84 --to nad27 --precision 12 <<<'-100 40')
@@ -42,6 +51,11 @@ check 'ellipsoid of a one-off' 0 "$("$zrproj" forward --utm 14N --ellipsoid 5 <<
     forward --datum d --define 'd: method=none, ellipsoid=airy 1830' --utm 14N <<<'-100 40'
 check 'units and zones' 0 "$("$zrproj" forward --state-plane 407 --year 1927 --units us-ft <<<"$moved")" '' \
     forward --from-datum wgs84 --datum nad27 --state-plane 407 --year 1927 --units us-ft <<<'-100 40'
+# A survey in feet: by the foot of 1200/3937 metres onto the 1927 zone, and by three shifts, each step alone.
+feet=$("$zrproj" inverse --state-plane 'wyoming east' --year 1927 --precision 12 \
+    <<<"$(perl -e 'printf "%.9f %.9f", 620000 * 1200 / 3937, 680000 * 1200 / 3937')")
+check 'a survey to GPS' 0 "$("$zrproj" datum --from nad27 --to wgs84 <<<"$feet")" '' inverse --state-plane 'wyoming east' \
+    --year 1927 --units us-ft --datum nad27 --to-datum wgs84 <<<'620000 680000'
 refused 'map without a datum' '--from-datum goes with --datum*' forward --from-datum wgs84 --utm 14N
 refused 'map without a datum' '--to-datum goes with --datum*' inverse --to-datum wgs84 --utm 14N
 

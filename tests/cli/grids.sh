@@ -6,11 +6,11 @@ cp "$zrproj" "$work/bin/"
 zrproj=$work/bin/zrproj
 refused() { check "$1" 2 '' "zrproj: $2" "${@:3}" </dev/null; }
 
-# grid VALUE [XMIN]: 30 columns and 12 rows with one value, every half degree from 80 west, 38 north.
+# grid VALUE [XMIN [YMIN STEP]]: 30 columns and 12 rows with one value, every half degree from 80 west, 38 north.
 grid() {
-    perl -e 'my ($value, $xmin) = @ARGV; my $record = pack("a56 a8 l< l< l< f< f< f< f<", "Test", "zrproj", 30, 12, 1, $xmin,
-             0.5, 38, 0.5); print $record, "\0" x (31 * 4 - length $record), pack("f<*", (0, ($value) x 30) x 12)' \
-        -- "$1" "${2:--80}"
+    perl -e 'my ($value, $xmin, $ymin, $step) = @ARGV; my $record = pack("a56 a8 l< l< l< f< f< f< f<", "Test", "zrproj", 30, 12, 1, $xmin,
+             $step, $ymin, $step); print $record, "\0" x (31 * 4 - length $record), pack("f<*", (0, ($value) x 30) x 12)' \
+        -- "$1" "${2:--80}" "${3:-38}" "${4:-0.5}"
 }
 # What three shifts say near the middle, in arcseconds: a pair of the usual convention has the longitude's west positive.
 grid 0.125 >"$work/download/conus.las"
@@ -37,6 +37,30 @@ check 'imported' 0 "$report" '' grid import "$work/download/conus" </dev/null
 [[ $(ls "$work/bin" | wc -l) == 3 ]] || fail 'nothing else is left' "$(ls "$work/bin")"
 refused 'there already' "$work/bin/conus.LAS is there already; --replace replaces it" grid import "$work/download/conus"
 check 'replaced' 0 "$report" '' grid import --replace "$work/download/conus.los" </dev/null
+
+# What is this library's already is not turned round, neither in its place nor elsewhere.
+mkdir "$work/other"
+refused 'itself' "$work/bin/conus.LAS is itself what would be written;*" grid import --replace "$work/bin/conus"
+refused 'converted' "*conus.LOS look like one of this library's, *; copy them as they are" \
+    grid import --to "$work/other" "$work/bin/conus"
+refused 'a name of a path' '--name: "../x" is no name of files;*' grid import --name ../x "$work/download/conus"
+[[ $(ls "$work/bin" "$work/other" | wc -l) == 6 ]] || fail 'nothing is written' "$(ls "$work/bin" "$work/other")"
+grid 1.75 >"$work/other/east.LOS"
+grid 0.125 >"$work/other/east.LAS"
+grid -1.75 >"$work/other/west.LAS"
+grid 0.125 >"$work/other/west.LOS"
+for half in 'east latitude shifts in .LAS and east positive' 'west longitude shifts in .LAS and west positive'; do
+    "$zrproj" grid check "$work/other/${half%% *}" >/dev/null 2>"$work/err"
+    [[ $? == 1 && $(<"$work/err") == "zrproj: the pair looks like one with ${half#* }" ]] || fail "$half" "$(<"$work/err")"
+    refused "$half" "* look like one with ${half#* }, which cannot be imported" grid import "$work/other/${half%% *}"
+done
+
+# Puerto Rico's shifts are others: to the south, where three shifts of the mainland would take it to the north.
+grid -7.08 -68 17 0.25 >"$work/download/prvi.las"
+grid -1.34 -68 17 0.25 >"$work/download/prvi.los"
+"$zrproj" grid import --to "$work/other" "$work/download/prvi" >/dev/null || fail 'Puerto Rico' "status $?"
+refused 'Puerto Rico, converted' "*prvi.LOS look like one of this library's, *" \
+    grid import "$work/other/prvi"
 
 # The last point is west of the grid, in the column of the leading word.
 check 'shifted' 0 $'-74.999513889 40.000034722\n285.000486111 40.000034722\n-80.249513889 40.000034722' '' \

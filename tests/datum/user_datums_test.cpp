@@ -11,8 +11,10 @@
 #include <string_view>
 #include <vector>
 
+#include <linux/capability.h>
 #include <sys/resource.h>
 #include <sys/stat.h>
+#include <sys/syscall.h>
 #include <sys/wait.h>
 #include <unistd.h>
 
@@ -234,6 +236,21 @@ TEST_F(UserDatums, FailWhereNothingCanBeWritten) {
     write(std::string((1 << 20) + 1, ';'));
     EXPECT_FALSE(set("X"));
     EXPECT_EQ(fs::file_size(profile), (1U << 20) + 1);
+}
+
+/// The locks that another user's mask let others only read. Root's right to write in spite of it is given up.
+TEST_F(UserDatums, NeedOnlyReadTheLocksOfAnotherUser) {
+    ASSERT_TRUE(set("Before"));
+    std::string const locks = profile + ".lock";
+    ASSERT_EQ(chmod(locks.c_str(), 0444), 0);
+    EXPECT_EQ(inChild([&] {
+                  __user_cap_header_struct header{_LINUX_CAPABILITY_VERSION_3, 0};
+                  __user_cap_data_struct const none[_LINUX_CAPABILITY_U32S_3] = {};
+                  bool const bound = syscall(SYS_capset, &header, none) == 0 && access(locks.c_str(), W_OK) != 0;
+                  return bound && set("After", 7) ? 0 : 1;
+              }),
+              0);
+    EXPECT_EQ(stored("After"), 7);
 }
 
 /// A limit of file size stands for a full disk: it stops the write after so many bytes.

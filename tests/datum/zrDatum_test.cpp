@@ -205,6 +205,43 @@ TEST(DatumConversion, PolesAreConvertedInLatitude) {
     });
 }
 
+// The first step leaves a longitude without meaning, up to 1e17 degrees: the second may turn by it, but not run away.
+TEST(DatumConversion, PolesAreConvertedThroughTwoSteps) {
+    int const datums[] = {2, 3, 5, 8, 147, 106, 217, 220, 222};
+    test::forEachLevel([&](formulas::Level) {
+        for (int const from : datums)
+            for (int const to : datums)
+                for (double const pole : {90.0, -90.0})
+                    for (double const longitude : {-180.0, -77.0, 0.0, 120.0, 180.0}) {
+                        if (from == to)
+                            continue;
+                        DatumHandle const handle(datumRequest(from, to));
+                        auto const p = handle(longitude, pole);
+                        EXPECT_NEAR(p.y, pole, 3e-2) << from << " to " << to;
+                        EXPECT_LE(std::abs(p.x), 360) << from << " to " << to;
+                        EXPECT_FALSE(DatHadUnplottables(handle.handle));
+                    }
+    });
+}
+
+// A shift that moves a point on the equator by millions of turns, east alone: the next step takes what is left of them.
+TEST(DatumConversion, StepsTakeALongitudeWithoutItsTurns) {
+    test::forEachLevel([&](formulas::Level) {
+        for (double const shift : {1e12, 1e18, -1e18}) {
+            auto far = paramsOf(2, false);
+            far.dX = shift;
+            far.dZ = 0;
+            DATUM2WGS84 const next = paramsOf(5, true);
+            auto const left = DatumHandle(ownEnds(far, {}))(20, 0);
+            auto const both = DatumHandle(ownEnds(far, next))(20, 0);
+            auto const alone = DatumHandle(ownEnds({}, next))(left.x, left.y);
+            EXPECT_LT(std::abs(std::remainder(both.x - alone.x, 360)), 1e-9);
+            EXPECT_NEAR(both.y, alone.y, 1e-12);
+            EXPECT_NE(both.y, left.y);
+        }
+    });
+}
+
 TEST(DatumConversion, GivesTheRequestBackUnchanged) {
     DATUMXFORM request;
     std::memset(static_cast<void*>(&request), 0x2A, sizeof request);

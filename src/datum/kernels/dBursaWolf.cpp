@@ -24,6 +24,8 @@ struct Figures {
     Figures(double radius, double flattening) : a(radius), f(flattening), e2((2 - f) * f) {}
 };
 
+constexpr double cosAtPole = 1e-30; // leaves a point on the axis its longitude, and none a trace in its coordinates
+
 /// A rotation in arcseconds to radians.
 double radiansOf(double seconds) {
     return seconds / 60 / 60 * degree;
@@ -40,7 +42,8 @@ struct BursaWolf {
           a1(from.a), e1(from.e2), oneLessE1(1 - from.e2), oneLessF(1 - to.f), e2a(to.e2 * to.a) {}
 
     template <class R> Pair<R> shifted(Pair<R> degrees) const {
-        auto const lambda = sinCos((degrees.x + primeMeridian) * degree), phi = sinCosOfLatitude(degrees.y);
+        auto const lambda = sinCos((degrees.x + primeMeridian) * degree);
+        auto const phi = sinCosOfLatitude(degrees.y, cosAtPole);
         R const N = a1 / sqrt(1.0 - e1 * phi.sin * phi.sin);
         R const X = N * phi.cos * lambda.cos, Y = N * phi.cos * lambda.sin, Z = N * oneLessE1 * phi.sin;
         return geodetic(dX + k * (X - rZ * Y + rY * Z), dY + k * (rZ * X + Y - rX * Z), dZ + k * (rX * Y + Z - rY * X));

@@ -7,7 +7,9 @@
 // Accuracy  of the evaluation 1e-12 degrees where a point moves by less than a thousand degrees, which is all but the
 //           last metres before a pole (measured by the tests). Of the method: metres, since it takes shifts between
 //           datums that are turned and stretched as well.
-// Domain    at a pole the latitude is right and the longitude without meaning.
+// Domain    at a pole the longitude is without meaning, up to 1e15 degrees for the catalogue's shifts before turns are
+//           taken off, and the latitude, which is moved along that of the point, is off by up to the length of the
+//           shifts. A second step starts from both.
 //
 // phi, lambda    latitude, longitude        a, f, e2   semi-major axis, flattening, eccentricity squared of the source
 // da, df         semi-major axis and flattening of the target less the source's
@@ -18,6 +20,8 @@
 
 namespace ZrProj::datum::ZRPROJ_LEVEL {
 namespace {
+
+constexpr double cosAtPole = 6.123233995736766e-17; // of the double nearest to a quarter turn
 
 struct Molodensky {
     double primeMeridian, dX, dY, dZ; // degrees, metres
@@ -39,7 +43,7 @@ struct Molodensky {
 
     template <class R> Pair<R> shifted(Pair<R> degrees) const {
         R const lon = degrees.x + primeMeridian;
-        auto const lambda = sinCos(lon * degree), phi = sinCosOfLatitude(degrees.y);
+        auto const lambda = sinCos(lon * degree), phi = sinCosOfLatitude(degrees.y, cosAtPole);
         R const W2 = 1.0 - e2 * phi.sin * phi.sin, W = sqrt(W2);
         R const shift = dZ * phi.cos - phi.sin * (dX * lambda.cos + dY * lambda.sin);
         R const north = perM * (W2 * W * shift + phi.sin * phi.cos * (square * W2 + rest)); // over M
