@@ -10,6 +10,7 @@
 
 #include <CLI/CLI.hpp>
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 
@@ -98,6 +99,8 @@ public:
             job.columns.columns = parseColumns(m_columns, false);
         if (job.files.empty())
             job.files.emplace_back("-");
+        if (std::count(job.files.begin(), job.files.end(), "-") + (m_controls.file == "-") > 1)
+            throw UsageError("standard input can be read only once, for the control points or for the points");
         auto const map = fitGeoref(findGeorefMethod(m_controls.method), m_controls.read());
         return applyGeoref(*map, job, output);
     }

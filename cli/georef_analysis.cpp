@@ -1,5 +1,7 @@
 #include "cli/georef_analysis.h"
 
+#include "cli/georef_leverage.h"
+
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
@@ -13,6 +15,8 @@ constexpr double chance = 0.01;    // of calling good controls bad
 constexpr double timesMedian = 12; // for methods that meet every control
 constexpr std::size_t candidates = 3;
 constexpr std::size_t mostExact = 10000; // controls: 800 MB of equations
+constexpr double highLeverage = 0.9;     // few points have more: all leverages are as many as a coordinate's terms
+constexpr GeorefMethod const& affine = georefMethods[1];
 
 /// Controls as the library takes them.
 class Pairs {
@@ -23,6 +27,7 @@ public:
     }
 
     std::size_t size() const { return m_source.size(); }
+    std::vector<GEOREFPOINT> const& sources() const { return m_source; }
     Pairs without(std::size_t left) const {
         Pairs result = *this;
         auto const place = static_cast<std::ptrdiff_t>(left);
@@ -37,6 +42,7 @@ public:
         map.Forward(&mapped, 1);
         return {mapped.x - m_target[i].x, mapped.y - m_target[i].y};
     }
+    std::vector<GEOREFPOINT> offsets(CGeorefTransform& map) const;
     /// The longer side of the targets' bounding box.
     double extent() const;
 
@@ -65,6 +71,14 @@ std::unique_ptr<CGeorefTransform> Pairs::fit(GeorefMethod const& method) const {
     return map;
 }
 
+std::vector<GEOREFPOINT> Pairs::offsets(CGeorefTransform& map) const {
+    auto result = m_source;
+    map.Forward(result.data(), static_cast<int>(result.size()));
+    for (std::size_t i = 0; i < result.size(); ++i)
+        result[i] = {result[i].x - m_target[i].x, result[i].y - m_target[i].y};
+    return result;
+}
+
 double Pairs::extent() const {
     auto const [left, right] =
         std::minmax_element(m_target.begin(), m_target.end(), [](auto& a, auto& b) { return a.x < b.x; });
@@ -77,13 +91,11 @@ double length(GEOREFPOINT const& offset) {
     return std::hypot(offset.x, offset.y);
 }
 
-/// The sum of the squared residuals of a map.
-double squares(Pairs const& pairs, CGeorefTransform& map) {
+/// The sum of the squared lengths.
+double squares(std::vector<GEOREFPOINT> const& offsets) {
     double sum = 0;
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
-        double const off = length(pairs.offset(map, i));
-        sum += off * off;
-    }
+    for (auto const& offset : offsets)
+        sum += offset.x * offset.x + offset.y * offset.y;
     return sum;
 }
 
@@ -98,10 +110,10 @@ Left leaveOut(GeorefMethod const& method, Pairs const& pairs, std::size_t i) {
     auto map = others.fit(method);
     if (!map)
         return {};
-    return {length(pairs.offset(*map, i)), isExact(method) ? 0 : squares(others, *map)};
+    return {length(pairs.offset(*map, i)), isExact(method) ? 0 : squares(others.offsets(*map))};
 }
 
-std::vector<Left> leaveEachOut(GeorefMethod const& method, Pairs const& pairs) {
+std::vector<Left> leaveEachOutOfExact(GeorefMethod const& method, Pairs const& pairs) {
     std::vector<Left> result(pairs.size());
     if (canLeaveOneOut(method, pairs.size()))
         for (std::size_t i = 0; i < result.size(); ++i)
@@ -109,14 +121,33 @@ std::vector<Left> leaveEachOut(GeorefMethod const& method, Pairs const& pairs) {
     return result;
 }
 
-/// The chance that a good point is as far off as this one: P(F(2, freedom) > f) = (1 + 2 f / freedom)^(-freedom / 2),
-/// with f = (length^2 (1 - leverage) / 2) / (squares / freedom). What a residual shrinks by when its point joins the
-/// fit is 1 - leverage.
-double likelihood(Left const& left, double residual, double freedom) {
+/// By the leverages, from the offsets of the fit to all of them. Where a point has nearly all of the leverage, so that
+/// its residual is mostly rounding, the others are fitted anew.
+std::vector<Left> leaveEachOut(GeorefMethod const& method, Pairs const& pairs,
+                               std::vector<GEOREFPOINT> const& offsets) {
+    if (isExact(method))
+        return leaveEachOutOfExact(method, pairs);
+    auto const leverage = leverages(method, pairs.sources());
+    double const all = squares(offsets);
+    std::vector<Left> result(pairs.size());
+    for (std::size_t i = 0; i < result.size(); ++i) {
+        double const off = length(offsets[i]), rest = 1 - leverage[i];
+        if (leverage[i] < highLeverage)
+            result[i] = {off / rest, std::max(all - off * off / rest, 0.0)};
+        else
+            result[i] = leaveOut(method, pairs, i);
+    }
+    return result;
+}
+
+/// The logarithm of the chance that a good point is as far off as this one:
+/// P(F(2, freedom) > f) = (1 + 2 f / freedom)^(-freedom / 2), with f = (length^2 (1 - leverage) / 2) / (squares /
+/// freedom). What a residual shrinks by when its point joins the fit is 1 - leverage.
+double logChance(Left const& left, double residual, double freedom) {
     if (!left.length)
-        return 1;
+        return 0;
     double const ratio = *left.length * residual / left.squares; // 2 f / freedom
-    return std::isnan(ratio) ? 1 : std::pow(1 + ratio, -freedom / 2);
+    return std::isnan(ratio) ? 0 : -freedom / 2 * std::log1p(ratio);
 }
 
 /// The point that least-squares residuals speak against.
@@ -124,19 +155,20 @@ std::optional<std::size_t> snoop(GeorefMethod const& method, Pairs const& pairs)
     auto map = pairs.fit(method);
     if (!map || pairs.size() < fewestToTell(method))
         return std::nullopt;
-    auto const left = leaveEachOut(method, pairs);
+    auto const offsets = pairs.offsets(*map);
+    auto const left = leaveEachOut(method, pairs, offsets);
     double const freedom = 2 * static_cast<double>(pairs.size() - 1) - static_cast<double>(method.unknown);
-    double least = 1;
+    double least = 0;
     std::size_t candidate = 0;
     for (std::size_t i = 0; i < pairs.size(); ++i) {
-        double const here = likelihood(left[i], length(pairs.offset(*map, i)), freedom);
+        double const here = logChance(left[i], length(offsets[i]), freedom);
         if (here < least) {
             least = here;
             candidate = i;
         }
     }
     bool const rounding = left[candidate].length.value_or(0) <= 1e-9 * pairs.extent();
-    if (rounding || !(least * static_cast<double>(pairs.size()) < chance))
+    if (rounding || !(least + std::log(static_cast<double>(pairs.size())) < std::log(chance)))
         return std::nullopt;
     return candidate;
 }
@@ -157,7 +189,7 @@ std::optional<double> medianLength(std::vector<Left> const& left) {
 std::optional<std::size_t> compareLengths(GeorefMethod const& method, Pairs const& pairs) {
     if (pairs.size() < fewestToTell(method))
         return std::nullopt;
-    auto const left = leaveEachOut(method, pairs);
+    auto const left = leaveEachOutOfExact(method, pairs);
     std::vector<std::size_t> order(pairs.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
@@ -166,7 +198,7 @@ std::optional<std::size_t> compareLengths(GeorefMethod const& method, Pairs cons
     std::optional<std::size_t> best;
     double least = HUGE_VAL;
     for (std::size_t k = 0; k < candidates; ++k) {
-        auto const median = medianLength(leaveEachOut(method, pairs.without(order[k])));
+        auto const median = medianLength(leaveEachOutOfExact(method, pairs.without(order[k])));
         if (median && *median < least) {
             least = *median;
             best = order[k];
@@ -178,28 +210,35 @@ std::optional<std::size_t> compareLengths(GeorefMethod const& method, Pairs cons
     return best;
 }
 
+/// How well the method fits what is left without the outliers; nothing where it cannot.
+std::optional<double> rmsOf(GeorefMethod const& method, Pairs const& pairs) {
+    auto const map = pairs.fit(method);
+    if (!map)
+        return std::nullopt;
+    double sum = 0;
+    if (isExact(method))
+        for (auto const& left : leaveEachOutOfExact(method, pairs))
+            sum += left.length.value_or(0) * left.length.value_or(0);
+    else
+        sum = squares(pairs.offsets(*map));
+    return std::sqrt(sum / static_cast<double>(pairs.size()));
+}
+
 /// Looks for outliers among the controls, at most a third of them, and says how the rest fits.
 void findOutliers(GeorefMethod const& method, Pairs pairs, Analysis& analysis) {
+    GeorefMethod const& judge = *analysis.judge;
     std::vector<std::size_t> places(pairs.size()); // of the pairs that are left
     std::iota(places.begin(), places.end(), std::size_t{0});
     while (analysis.outliers.size() < places.size() / 2) {
-        auto const found = isExact(method) ? compareLengths(method, pairs) : snoop(method, pairs);
+        auto const found = isExact(judge) ? compareLengths(judge, pairs) : snoop(judge, pairs);
         if (!found)
             break;
         analysis.outliers.push_back(places[*found]);
         places.erase(places.begin() + static_cast<std::ptrdiff_t>(*found));
         pairs = pairs.without(*found);
     }
-    if (analysis.outliers.empty())
-        return;
-    auto map = pairs.fit(method);
-    double sum = map ? squares(pairs, *map) : 0;
-    if (isExact(method)) {
-        sum = 0;
-        for (auto const& left : leaveEachOut(method, pairs))
-            sum += left.length.value_or(0) * left.length.value_or(0);
-    }
-    analysis.rmsWithout = std::sqrt(sum / static_cast<double>(pairs.size()));
+    if (!analysis.outliers.empty())
+        analysis.rmsWithout = rmsOf(method, pairs);
 }
 
 void summarise(Analysis& analysis) {
@@ -222,17 +261,36 @@ void summarise(Analysis& analysis) {
     }
 }
 
-std::size_t farthest(Analysis const& analysis) {
+std::size_t farthest(std::vector<Residual> const& residuals) {
     auto const size = [](Residual const& r) { return r.left.value_or(r.length); };
-    auto const most = std::max_element(analysis.residuals.begin(), analysis.residuals.end(),
+    auto const most = std::max_element(residuals.begin(), residuals.end(),
                                        [&](Residual const& a, Residual const& b) { return size(a) < size(b); });
-    return static_cast<std::size_t>(most - analysis.residuals.begin());
+    return static_cast<std::size_t>(most - residuals.begin());
+}
+
+std::vector<Residual> residualsOf(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
+    Pairs const pairs(controls);
+    auto const offsets = pairs.offsets(*fitGeoref(method, controls));
+    auto const left = leaveEachOut(method, pairs, offsets);
+    std::vector<Residual> result;
+    for (std::size_t i = 0; i < offsets.size(); ++i)
+        result.push_back({offsets[i], length(offsets[i]), left[i].length});
+    return result;
+}
+
+/// The method itself, or the affine one where only that has points enough.
+GeorefMethod const& judgeOf(GeorefMethod const& method, std::size_t controls) {
+    return controls < fewestToTell(method) && controls >= fewestToTell(affine) ? affine : method;
 }
 
 } // namespace
 
 bool canLeaveOneOut(GeorefMethod const& method, std::size_t controls) {
-    return controls <= (isExact(method) ? 150U : 2000U);
+    return !isExact(method) || controls <= 150;
+}
+
+bool canFindOutliers(GeorefMethod const& method, std::size_t controls) {
+    return controls <= (isExact(method) ? 150U : 5000U);
 }
 
 std::size_t fewestToTell(GeorefMethod const& method) {
@@ -250,18 +308,15 @@ std::unique_ptr<CGeorefTransform> fitGeoref(GeorefMethod const& method, std::vec
 }
 
 Analysis analyse(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
-    Pairs const pairs(controls);
-    auto const map = fitGeoref(method, controls);
-    auto const left = leaveEachOut(method, pairs);
     Analysis analysis;
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
-        GEOREFPOINT const offset = pairs.offset(*map, i);
-        analysis.residuals.push_back({offset, length(offset), left[i].length});
-    }
+    analysis.residuals = residualsOf(method, controls);
+    analysis.judge = &judgeOf(method, controls.size());
     summarise(analysis);
-    if (canLeaveOneOut(method, pairs.size()))
-        findOutliers(method, pairs, analysis);
-    analysis.worst = analysis.outliers.empty() ? farthest(analysis) : analysis.outliers.front();
+    if (canFindOutliers(method, controls.size()))
+        findOutliers(method, Pairs(controls), analysis);
+    auto const judged = analysis.judge == &method ? analysis.residuals : residualsOf(*analysis.judge, controls);
+    analysis.worst = analysis.outliers.empty() ? farthest(judged) : analysis.outliers.front();
+    analysis.worstResidual = judged[analysis.worst];
     return analysis;
 }
 

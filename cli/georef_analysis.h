@@ -20,21 +20,27 @@ struct Analysis {
     double mean = 0, rms = 0;
     std::optional<double> leftMean, leftRms; // over all controls; nothing where one of them has none
     std::vector<std::size_t> outliers;       // in the order in which they were found
-    std::optional<double> rmsWithout; // the fit's without the outliers: leave-one-out lengths for an exact method
-    std::size_t worst = 0;            // the first outlier, else the point with the greatest length
+    std::optional<double> rmsWithout;    // the fit's without the outliers: leave-one-out lengths for an exact method
+    GeorefMethod const* judge = nullptr; // whose residuals tell the outliers and the worst point
+    std::size_t worst = 0;               // the first outlier, else the point with the greatest length
+    Residual worstResidual;              // the judge's
 };
 
 /// Makes the map of the method through the controls. Throws ControlsError, with the reason, where there is none.
 std::unique_ptr<CGeorefTransform> fitGeoref(GeorefMethod const& method, std::vector<ControlPoint> const& controls);
 
-/// Whether leave-one-out fits of so many controls are a matter of seconds.
+/// Whether leave-one-out residuals of so many controls are a matter of seconds.
 bool canLeaveOneOut(GeorefMethod const& method, std::size_t controls);
+
+/// The same of looking for outliers.
+bool canFindOutliers(GeorefMethod const& method, std::size_t controls);
 
 /// The least number of controls among which one that stands out can be told. A least-squares fit to the others must
 /// have four observations more than unknowns: with fewer, nearly any point can be the odd one.
 std::size_t fewestToTell(GeorefMethod const& method);
 
-/// Fits, and looks for outliers, one by one, with each fit leaving the earlier ones out.
+/// Fits, and looks for outliers, one by one, with each fit leaving the earlier ones out. Where the controls are too few
+/// for the method to tell, but enough for an affine one, that one judges.
 ///
 /// A least-squares method: by Baarda's data snooping. A point's leave-one-out residual, over the spread that the fit to
 /// the others shows, squared, has an F distribution where all is well; the least likely point is out when the chance of

@@ -4,6 +4,7 @@
 #include "cli/georef_coefficients.h"
 
 #include "cli/georef_analysis.h"
+#include "cli/georef_terms.h"
 
 #include <algorithm>
 #include <array>
@@ -65,28 +66,6 @@ template <class WorkU, class WorkV> void alongBoth(Grid& grid, WorkU const& work
     }
 }
 
-struct Term {
-    std::string_view name;
-    std::size_t i, j;
-};
-constexpr std::array terms{Term{"1", 0, 0},     Term{"x", 1, 0},   Term{"y", 0, 1},   Term{"x^2", 2, 0},
-                           Term{"xy", 1, 1},    Term{"y^2", 0, 2}, Term{"x^3", 3, 0}, Term{"x^2 y", 2, 1},
-                           Term{"x y^2", 1, 2}, Term{"y^3", 0, 3}};
-
-bool hasTerm(TransformMethod method, Term const& term) {
-    std::size_t const degree = term.i + term.j;
-    switch (method) {
-    case TransformMethod1stOrderPolynomial:
-        return term.i < 2 && term.j < 2;
-    case TransformMethod2ndOrderPolynomial:
-        return degree <= 2;
-    case TransformMethod3rdOrderPolynomial:
-        return true;
-    default:
-        return degree <= 1;
-    }
-}
-
 /// The controls' boxes, by their sides.
 struct Frame {
     Side u, v, x, y;
@@ -141,7 +120,7 @@ std::vector<GeorefCoefficient> georefCoefficients(GeorefMethod const& method,
     gridX[0][0] += frame.x.middle;
     gridY[0][0] += frame.y.middle;
     std::vector<GeorefCoefficient> result;
-    for (Term const& term : terms)
+    for (GeorefTerm const& term : georefTerms)
         if (hasTerm(method.method, term))
             result.push_back({term.name, gridX[term.i][term.j], gridY[term.i][term.j]});
     return result;

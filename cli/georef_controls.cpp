@@ -11,6 +11,7 @@
 #include <array>
 #include <charconv>
 #include <optional>
+#include <set>
 
 namespace ZrProj::Command {
 namespace {
@@ -206,16 +207,37 @@ std::string duplicates(std::vector<ControlPoint> const& controls) {
     return result;
 }
 
-/// Whether all of them are on one line, as the affine fit sees it.
-bool onOneLine(std::vector<ControlPoint> const& controls) {
+/// Whether a method's map is determined by where the sources lie, whatever the targets.
+bool doSourcesDetermine(TransformMethod method, std::vector<ControlPoint> const& controls) {
     std::vector<GEOREFPOINT> source;
     for (auto const& control : controls)
         source.push_back(control.source);
     GEOREF record{};
-    record.Method = TransformMethodAffinePolynomial;
+    record.Method = method;
     record.pSource = record.pTarget = source.data();
     record.nControls = static_cast<std::int32_t>(source.size());
-    return !CGeorefTransform(&record).IsCreated();
+    return CGeorefTransform(&record).IsCreated();
+}
+
+std::size_t countPlaces(std::vector<ControlPoint> const& controls) {
+    std::set<std::pair<double, double>> places;
+    for (auto const& control : controls)
+        places.emplace(control.source.x, control.source.y);
+    return places.size();
+}
+
+/// What else keeps controls that are not on one line from determining a map.
+std::string shapeOf(TransformMethod method) {
+    switch (method) {
+    case TransformMethod1stOrderPolynomial:
+        return "they lie on one hyperbola with axes along x and y, or on two lines along these";
+    case TransformMethod2ndOrderPolynomial:
+        return "they lie on one conic, such as a circle or two lines";
+    case TransformMethod3rdOrderPolynomial:
+        return "they lie on one cubic curve, such as a conic and a line";
+    default:
+        return "they lie too close together";
+    }
 }
 
 std::string linesOf(std::vector<ControlPoint> const& controls) {
@@ -254,13 +276,14 @@ std::string whyNoFit(GeorefMethod const& method, std::vector<ControlPoint> const
     if (controls.size() < method.needed)
         return std::string(method.key) + " needs " + std::to_string(method.needed) + " control points, there are " +
                std::to_string(controls.size());
-    std::string const twice = duplicates(controls);
-    if (!twice.empty())
+    std::string const twice = duplicates(controls); // a least-squares fit that has enough others does not mind them
+    if (!twice.empty() && (isExact(method) || countPlaces(controls) < method.needed))
         return "two control points at one source point, in lines " + twice;
-    if (controls.size() > 2 && onOneLine(controls))
+    if (controls.size() > 2 && !doSourcesDetermine(TransformMethodAffinePolynomial, controls))
         return "the control points are all on one line (lines " + linesOf(controls) + ')';
-    return "the control points do not determine a map by " + std::string(method.key) +
-           ": they lie too regularly (for the higher orders: on one curve), or too close together";
+    return "the control points do not determine a map by " + std::string(method.key) + ": " +
+           (doSourcesDetermine(method.method, controls) ? "their target coordinates are too large"
+                                                        : shapeOf(method.method));
 }
 
 } // namespace ZrProj::Command

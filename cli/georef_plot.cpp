@@ -3,6 +3,7 @@
 #include "cli/output.h"
 #include "cli/svg.h"
 #include "cli/text.h"
+#include "cli/xml_text.h"
 
 #include <algorithm>
 #include <cfloat>
@@ -57,6 +58,19 @@ std::string timesText(double times) {
     return text;
 }
 
+/// What the plot is drawn against: an affine map, or the map itself where the controls determine none.
+std::unique_ptr<Map> plainMap(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
+    try {
+        return fitGeoref(georefMethods[1], controls);
+    } catch (ControlsError const&) {
+        return fitGeoref(method, controls);
+    }
+}
+
+bool isFinite(GEOREFPOINT const& p) {
+    return std::isfinite(p.x) && std::isfinite(p.y);
+}
+
 class Plot {
 public:
     Plot(GeorefMethod const& method, std::vector<ControlPoint> const& controls, Analysis const& analysis);
@@ -78,8 +92,7 @@ private:
     GeorefMethod const& m_method;
     std::vector<ControlPoint> const& m_controls;
     Analysis const& m_analysis;
-    std::unique_ptr<Map> m_map,
-        m_affine; // what bends are counted from; the map itself where no affine one can be fitted
+    std::unique_ptr<Map> m_map, m_affine; // the second: what bends are counted from
     Box m_source, m_target;
     double m_unit = 1;                        // a target unit on paper
     double m_arrowTimes = 1, m_bendTimes = 1; // larger than it is
@@ -88,16 +101,19 @@ private:
 };
 
 Plot::Plot(GeorefMethod const& method, std::vector<ControlPoint> const& controls, Analysis const& analysis)
-    : m_method(method), m_controls(controls), m_analysis(analysis), m_map(fitGeoref(method, controls)) {
-    auto const& affine = controls.size() < 3 ? method : georefMethods[1];
-    m_affine = fitGeoref(affine, controls);
+    : m_method(method), m_controls(controls), m_analysis(analysis), m_map(fitGeoref(method, controls)),
+      m_affine(plainMap(method, controls)) {
     for (auto const& c : controls) {
         m_source.add(c.source);
         m_target.add(c.target);
     }
+    if (!(m_target.longest() > 0))
+        throw ControlsError("the target points are all in one place: there is nothing to draw");
     for (int i = 0; i <= cells; ++i)
         for (int j = 0; j <= cells; ++j)
             m_target.add(mapped(*m_affine, knot(i, j)));
+    if (!std::isfinite(m_target.longest()))
+        throw ControlsError("the target coordinates are too large to draw");
     m_unit = (width - 2 * margin) / m_target.longest();
     chooseScales();
 }
@@ -151,7 +167,8 @@ void Plot::line(bool across, int at) {
     for (int step = 0; step <= cells * steps; ++step) {
         double const along = static_cast<double>(step) / steps;
         GEOREFPOINT const p = onPaper(bent(across ? knot(along, at) : knot(at, along)));
-        m_svg += shown(p.x) + ',' + shown(p.y) + ' ';
+        if (isFinite(p))
+            m_svg += shown(p.x) + ',' + shown(p.y) + ' ';
     }
     m_svg += "\"/>\n";
 }
@@ -167,7 +184,7 @@ void Plot::grid() {
 
 void Plot::arrow(GEOREFPOINT const& from, GEOREFPOINT const& to, char const* colour) {
     double const dx = to.x - from.x, dy = to.y - from.y, length = std::hypot(dx, dy);
-    if (!(length > 1))
+    if (!(length > 1 && std::isfinite(length)))
         return;
     double const head = std::min(barb, length / 2) / length;
     auto const end = [&](double side) {
@@ -179,7 +196,7 @@ void Plot::arrow(GEOREFPOINT const& from, GEOREFPOINT const& to, char const* col
 }
 
 void Plot::text(double x, double y, std::string const& words) {
-    m_svg += "<text x=\"" + shown(x) + "\" y=\"" + shown(y) + "\">" + escapedForXml(words) + "</text>\n";
+    m_svg += "<text x=\"" + shown(x) + "\" y=\"" + shown(y) + "\">" + xmlText(words) + "</text>\n";
 }
 
 void Plot::control(std::size_t i) {

@@ -12,7 +12,6 @@ namespace ZrProj::Command {
 namespace {
 
 constexpr int decimals = 3;
-constexpr GeorefMethod const& affine = georefMethods[1];
 
 std::string fixed(double value) {
     std::string text;
@@ -68,9 +67,22 @@ std::string titleWithLine(ControlPoint const& control) {
 }
 
 /// The length that tells: left out where that could be made.
-std::string awayText(Residual const& residual) {
-    return residual.left ? fixed(*residual.left) + " from where the other points put it"
-                         : fixed(residual.length) + " from where the fit puts it";
+std::string awayText(GeorefMethod const& method, Analysis const& analysis) {
+    Residual const& residual = analysis.worstResidual;
+    std::string const by = analysis.judge == &method ? "" : " by " + std::string(analysis.judge->key);
+    return residual.left ? fixed(*residual.left) + " from where the other points put it" + by
+                         : fixed(residual.length) + " from where the fit puts it" + by;
+}
+
+/// Who tells that a point stands out, where it is not the method itself.
+void writeJudge(Output& output, GeorefMethod const& method, std::vector<ControlPoint> const& controls,
+                Analysis const& analysis) {
+    if (!canFindOutliers(method, controls.size()))
+        output << "too many points to look for one that stands out\n";
+    else if (controls.size() < fewestToTell(method))
+        output << "too few points for " << method.key << " to tell whether one stands out: it needs "
+               << std::to_string(fewestToTell(method)) << (analysis.judge == &method ? "" : "; judged by affine")
+               << '\n';
 }
 
 /// A similarity cannot turn rows that count downwards into northings.
@@ -87,19 +99,15 @@ void writeMirrorHint(Output& output, std::vector<ControlPoint> const& controls, 
 void writeVerdict(Output& output, GeorefMethod const& method, std::vector<ControlPoint> const& controls,
                   Analysis const& analysis) {
     ControlPoint const& worst = controls[analysis.worst];
-    output << "\nworst: " << titleWithLine(worst) << ", " << awayText(analysis.residuals[analysis.worst]) << '\n';
+    output << '\n';
+    writeJudge(output, method, controls, analysis);
+    output << "worst: " << titleWithLine(worst) << ", " << awayText(method, analysis) << '\n';
     for (std::size_t const i : analysis.outliers)
         output << "stands out: " << titleWithLine(controls[i]) << "; look for a mistake in its coordinates\n";
     if (analysis.rmsWithout)
         output << "without " << (analysis.outliers.size() == 1 ? "it" : "them") << " the "
                << (isExact(method) ? "left out" : "fit's") << " root mean square is " << fixed(*analysis.rmsWithout)
                << ", instead of " << fixed(isExact(method) ? analysis.leftRms.value_or(0) : analysis.rms) << '\n';
-    if (!canLeaveOneOut(method, controls.size()))
-        output << "too many points to leave each out in turn: none is told to stand out\n";
-    else if (controls.size() < fewestToTell(method))
-        output << "too few points to tell whether one stands out: " << method.key << " needs "
-               << std::to_string(fewestToTell(method)) << " for that"
-               << (controls.size() < fewestToTell(affine) ? "" : "; --method affine does with fewer") << '\n';
     if (method.method == TransformMethodHelmert)
         writeMirrorHint(output, controls, analysis);
 }
@@ -122,11 +130,11 @@ void writeGeorefComparison(Output& output, std::vector<ControlPoint> const& cont
             continue;
         try {
             Analysis const analysis = analyse(method, controls);
-            Residual const& worst = analysis.residuals[analysis.worst];
             table.rows.push_back({std::string(method.key), fixed(analysis.mean), fixed(analysis.rms),
                                   fixedOrDash(analysis.leftMean), fixedOrDash(analysis.leftRms),
-                                  controls[analysis.worst].title(), fixedOrDash(worst.left),
-                                  analysis.outliers.empty() ? "" : "<-- stands out"});
+                                  controls[analysis.worst].title(), fixedOrDash(analysis.worstResidual.left),
+                                  std::string(analysis.outliers.empty() ? "" : "<-- stands out") +
+                                      (analysis.judge == &method ? "" : " by affine")});
         } catch (ControlsError const&) { // the controls determine no such map
         }
     }

@@ -1,6 +1,7 @@
 #include "cli/map_drawing.h"
 
 #include "cli/map_layers.h"
+#include "cli/xml_text.h"
 
 namespace ZrProj::Command {
 namespace {
@@ -54,7 +55,7 @@ MapPicture drawMap(PROJDATA const& record, MapContent const& content, double siz
     if (!content.title.empty())
         picture.elements = "<text x=\"" + number(picture.width / 2) +
                            "\" y=\"170\" text-anchor=\"middle\" font-size=\"150\" fill=\"#222\">" +
-                           escapedForXml(content.title) + "</text>\n";
+                           xmlText(content.title) + "</text>\n";
     picture.elements += "<g transform=\"translate(" + number(margin) + ' ' + number(top) + ")\">\n" +
                         framed(paper, content, id) + "</g>\n";
     return picture;

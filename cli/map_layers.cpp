@@ -1,6 +1,7 @@
 #include "cli/map_layers.h"
 
 #include "cli/map_distortion.h"
+#include "cli/xml_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -104,7 +105,7 @@ std::string pointLayer(MapPaper& paper, std::vector<LabelledPlace> const& points
             continue;
         taken.push_back(box);
         labels += "<text x=\"" + number(left) + "\" y=\"" + number(at.y + labelHeight / 3) + "\">" +
-                  escapedForXml(point.name) + "</text>\n";
+                  xmlText(point.name) + "</text>\n";
     }
     return "<g fill=\"#a93226\">\n" + dots + "</g>\n<g font-size=\"100\" fill=\"#222\">\n" + labels + "</g>\n";
 }

@@ -37,37 +37,7 @@ void appendNumber(std::string& text, long long number, bool separate) {
     text += std::to_string(number);
 }
 
-/// How many bytes a UTF-8 character has by its first one; 0 where none begins there.
-std::size_t characterLength(std::string_view text) {
-    auto const first = static_cast<unsigned char>(text.front());
-    std::size_t const length = first < 0x80                    ? 1
-                               : first >= 0xC2 && first < 0xE0 ? 2
-                               : first >= 0xE0 && first < 0xF0 ? 3
-                               : first >= 0xF0 && first < 0xF5 ? 4
-                                                               : 0;
-    if (length > text.size())
-        return 0;
-    for (std::size_t i = 1; i < length; ++i)
-        if ((static_cast<unsigned char>(text[i]) & 0xC0) != 0x80)
-            return 0;
-    return length;
-}
-
 } // namespace
-
-std::string escapedForXml(std::string_view text) {
-    std::string result;
-    while (!text.empty()) {
-        std::size_t const length = characterLength(text);
-        char const c = text.front();
-        if (c == '<' || c == '>' || c == '&' || c == '"')
-            result += "&#" + std::to_string(static_cast<int>(c)) + ';';
-        else if (length > 1 || (length == 1 && c >= 0x20))
-            result += text.substr(0, length);
-        text.remove_prefix(std::max<std::size_t>(length, 1));
-    }
-    return result;
-}
 
 long long wholeUnits(double value) {
     constexpr double offHalf = 1e-3; // ties are where symmetric maps have points; this puts them elsewhere

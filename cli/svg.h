@@ -8,9 +8,6 @@
 
 namespace ZrProj::Command {
 
-/// A text as it stands between tags or quotation marks; control characters, and bytes that are no UTF-8, are left out.
-std::string escapedForXml(std::string_view text);
-
 /// The data of a path, on whole numbers: points that fall on the one before are left out, and so are lines without
 /// length and rings of fewer than three points.
 class SvgPath {

@@ -60,9 +60,9 @@ struct GEOREF {
 /// are. A Helmert fit through points that are all in one place has no scale: the system is created, and marks whatever
 /// it maps; so has one with fewer than two controls, which raises an assertion besides.
 ///
-/// Null for a null record, a count with a null array, a method that is none, too few controls, controls that are not
-/// finite or do not determine the method's terms (on one line, or two in one place), and when memory runs out. Delete
-/// the system with RefDeleteSystem.
+/// Null for a null record, a count with a null array, a method that is none, too few controls, controls that are
+/// marked, not finite or do not determine the method's terms (on one line, or two in one place), and when memory runs
+/// out. Delete the system with RefDeleteSystem.
 ZRPROJ_API void* RefCreateSystem(GEOREF const* georef);
 
 /// Lets go of a system; its memory is freed with the last CGeorefTransform that shares it. Null is ignored.
@@ -101,8 +101,9 @@ ZRPROJ_API bool RefCoeffToControls(GEOREF* georef, int width, int height);
 ZRPROJ_API bool RefControlsToCoeff(GEOREF* georef);
 
 /// Adapts the record to an image resized from the old to the new size (pixels, each at least 1): scales the source
-/// controls, and the coefficients where these are the method. False, the record unchanged, for a null record, a size
-/// below 1, and a count with a null array.
+/// controls, and the coefficients where these are the method. Precalculated coefficients need no controls: those that
+/// such a record has are kept and scaled with it, and a count without source controls becomes 0. False, the record
+/// unchanged, for a null record, a size below 1, and with another method a count without source controls.
 ZRPROJ_API bool RefResize(GEOREF* georef, int oldWidth, int oldHeight, int newWidth, int newHeight);
 
 /// A method's name, "" for a number that is no method. Static text, not to be changed.

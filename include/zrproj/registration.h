@@ -38,8 +38,9 @@ public:
 
     /// Fits a warp to `count` pairs of points. The time grows with the cube of the count, the memory with its square:
     /// 2,000 pairs take less than a second and 32 MB. What was fitted before is dropped in any case. False for a null
-    /// pointer, a method that is none, fewer than three controls, controls that are not finite, all on one line, or two
-    /// of them in one place, controls so close that the equations cannot be solved, and when memory runs out.
+    /// pointer, a method that is none, fewer than three controls, controls that are marked, not finite, all on one
+    /// line, or two of them in one place, controls so close that the equations cannot be solved, and when memory runs
+    /// out.
     bool Calibrate(WarpingMethod method, GEOREFPOINT const* source, GEOREFPOINT const* target, int count);
 
     /// The method calibrated, WarpingMethodNone where there is none.

@@ -1,13 +1,14 @@
 #include "georef/controls.h"
 
 #include <algorithm>
+#include <cfloat>
 #include <cmath>
 
 namespace ZrProj {
 namespace {
 
 bool areFinite(std::span<GEOREFPOINT const> points) noexcept {
-    return std::ranges::all_of(points, [](auto& p) { return std::isfinite(p.x) && std::isfinite(p.y); });
+    return std::ranges::all_of(points, [](auto& p) { return std::fabs(p.x) < DBL_MAX && std::fabs(p.y) < DBL_MAX; });
 }
 
 } // namespace

@@ -15,6 +15,7 @@ struct Controls {
     std::size_t size() const { return source.size(); }
 };
 
+/// And none of them marked.
 bool areFinite(Controls const& controls) noexcept;
 
 /// The middle of some points' bounding box, and the half of its longer side.

@@ -8,7 +8,7 @@ namespace ZrProj {
 /// X = A x + B y + C and Y = D x + E y + F of the record.
 formulas::Polynomial coefficientMap(GEOREF const& georef) noexcept;
 
-/// Writes an affine map into the record's A to F.
-void setCoefficients(GEOREF& georef, formulas::Polynomial const& map) noexcept;
+/// Writes a finite affine map into the record's A to F. False, nothing written, where C or F would not be finite.
+bool setCoefficients(GEOREF& georef, formulas::Polynomial const& map) noexcept;
 
 } // namespace ZrProj

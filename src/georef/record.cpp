@@ -40,9 +40,7 @@ bool fitCoefficients(GEOREF& georef) {
     if (!areFinite(controls))
         return false;
     auto const map = fitPolynomial(3, controls);
-    if (map)
-        setCoefficients(georef, *map);
-    return map.has_value();
+    return map && setCoefficients(georef, *map);
 }
 
 } // namespace
@@ -103,8 +101,11 @@ bool RefControlsToCoeff(GEOREF* georef) {
 bool RefResize(GEOREF* georef, int oldWidth, int oldHeight, int newWidth, int newHeight) {
     if (!georef || oldWidth < 1 || oldHeight < 1 || newWidth < 1 || newHeight < 1)
         return false;
-    if (georef->nControls > 0 && !georef->pSource)
-        return false;
+    if (georef->nControls > 0 && !georef->pSource) {
+        if (georef->Method != TransformMethodPrecalculatedAffineCoefficients)
+            return false;
+        georef->nControls = 0;
+    }
     return withDefaultFloatingPoint([&] {
         scaleSource(*georef, static_cast<double>(newWidth) / oldWidth, static_cast<double>(newHeight) / oldHeight);
         return true;

@@ -4,6 +4,7 @@
 #include <cmath>
 #include <limits>
 #include <numeric>
+#include <utility>
 
 namespace ZrProj {
 namespace {
@@ -16,8 +17,8 @@ double dot(double const* a, double const* b, std::size_t count) {
 
 } // namespace
 
-SplineEquations::SplineEquations(formulas::Warp const& warp, Factorisation const& affine)
-    : m_affine(&affine), m_count(warp.controls), m_values(m_count * m_count) {
+SplineEquations::SplineEquations(formulas::Warp const& warp, Factorisation const& affine, std::vector<double> matrix)
+    : m_affine(&affine), m_count(warp.controls), m_values(std::move(matrix)) {
     for (std::size_t i = 0; i < m_count; ++i)
         formulas::georefKernels().basisRow(warp, i, m_values.data() + i * m_count);
     for (std::size_t i = 0; i < affine.reflections(); ++i)
@@ -54,8 +55,9 @@ bool SplineEquations::factorise() {
     return formulas::georefKernels().factorise(matrix, leastPivot);
 }
 
-std::optional<SplineEquations> SplineEquations::of(formulas::Warp const& warp, Factorisation const& affine) {
-    SplineEquations result(warp, affine);
+std::optional<SplineEquations> SplineEquations::of(formulas::Warp const& warp, Factorisation const& affine,
+                                                   std::vector<double> matrix) {
+    SplineEquations result(warp, affine, std::move(matrix));
     if (!result.factorise())
         return std::nullopt;
     return result;

@@ -22,8 +22,9 @@ namespace ZrProj {
 class SplineEquations {
 public:
     /// Nothing where the matrix is not positive definite to the precision of its numbers. `affine` is P's
-    /// factorisation; it is referred to.
-    static std::optional<SplineEquations> of(formulas::Warp const& warp, Factorisation const& affine);
+    /// factorisation; it is referred to. `matrix` is room for as many numbers as the controls have pairs.
+    static std::optional<SplineEquations> of(formulas::Warp const& warp, Factorisation const& affine,
+                                             std::vector<double> matrix);
 
     struct Solution {
         std::vector<double> weights;
@@ -32,7 +33,7 @@ public:
     Solution solve(std::vector<double> y) const; // y: what is wanted at the controls
 
 private:
-    SplineEquations(formulas::Warp const& warp, Factorisation const& affine);
+    SplineEquations(formulas::Warp const& warp, Factorisation const& affine, std::vector<double> matrix);
     void project(std::span<double const> reflector, std::size_t at);
     bool factorise();
     formulas::SymmetricMatrix rest();

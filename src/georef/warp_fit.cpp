@@ -4,11 +4,12 @@
 
 #include <algorithm>
 #include <cmath>
+#include <utility>
 
 namespace ZrProj {
 namespace {
 
-/// The distance of each point from its nearest neighbour, on average; 0 where two are in one place.
+/// The distance of each point from its nearest neighbour, on average.
 double meanNeighbourDistance(double const* u, double const* v, std::size_t count) {
     double sum = 0;
     for (std::size_t i = 0; i < count; ++i) {
@@ -17,8 +18,6 @@ double meanNeighbourDistance(double const* u, double const* v, std::size_t count
             double const du = u[i] - u[j], dv = v[i] - v[j], rr = du * du + dv * dv;
             nearest = i != j && rr < nearest ? rr : nearest;
         }
-        if (nearest == 0)
-            return 0;
         sum += std::sqrt(nearest);
     }
     return sum / static_cast<double>(count);
@@ -29,20 +28,24 @@ bool hasUnit(WarpingMethod method) {
            method == WarpingMethodRationalQuadraticSpline;
 }
 
-/// A warp that maps everything to the origin, with the controls in place. False where two of these are in one place.
-bool placeControls(FittedWarp& fitted, WarpingMethod method, std::span<GEOREFPOINT const> source,
-                   Extent const& extent) {
+void placeControls(FittedWarp& fitted, std::span<GEOREFPOINT const> source, double perUnit) {
+    auto const& centre = fitted.warp.centre;
+    double* const u = fitted.arrays.data();
+    double* const v = u + source.size();
+    for (std::size_t i = 0; i < source.size(); ++i) {
+        u[i] = (source[i].x - centre.x) * perUnit;
+        v[i] = (source[i].y - centre.y) * perUnit;
+    }
+    fitted.warp.perUnit = perUnit;
+}
+
+/// A warp that maps everything to the origin, with the controls placed from -1 to 1.
+FittedWarp emptyWarp(WarpingMethod method, std::span<GEOREFPOINT const> source, Extent const& extent) {
     std::size_t const count = source.size();
+    FittedWarp fitted;
     fitted.arrays.assign(4 * count, 0.0);
     double* const u = fitted.arrays.data();
     double* const v = u + count;
-    auto const place = [&](double perUnit) {
-        for (std::size_t i = 0; i < count; ++i) {
-            u[i] = (source[i].x - extent.centre.x) * perUnit;
-            v[i] = (source[i].y - extent.centre.y) * perUnit;
-        }
-        fitted.warp.perUnit = perUnit;
-    };
     fitted.warp = {.method = method,
                    .centre = extent.centre,
                    .controls = count,
@@ -50,11 +53,23 @@ bool placeControls(FittedWarp& fitted, WarpingMethod method, std::span<GEOREFPOI
                    .v = v,
                    .weightX = v + count,
                    .weightY = v + 2 * count};
-    place(1 / extent.halfSize);
-    double const distance = meanNeighbourDistance(u, v, count);
-    if (hasUnit(method))
-        place(1 / (extent.halfSize * distance));
-    return distance > 0;
+    placeControls(fitted, source, 1 / extent.halfSize);
+    return fitted;
+}
+
+bool areTwoInOnePlace(formulas::Warp const& warp) {
+    std::vector<std::pair<double, double>> places(warp.controls);
+    for (std::size_t i = 0; i < places.size(); ++i)
+        places[i] = {warp.u[i], warp.v[i]};
+    std::ranges::sort(places);
+    return std::ranges::adjacent_find(places) != places.end();
+}
+
+/// Places the controls in the unit s, in which some bases count. False where they are too close together for one.
+bool chooseUnit(FittedWarp& fitted, std::span<GEOREFPOINT const> source) {
+    auto const& warp = fitted.warp;
+    placeControls(fitted, source, warp.perUnit / meanNeighbourDistance(warp.u, warp.v, warp.controls));
+    return std::isfinite(warp.perUnit);
 }
 
 Matrix affineTerms(formulas::Warp const& warp) {
@@ -88,18 +103,14 @@ Lack lackOf(formulas::Warp const& warp, Controls const& controls) {
     return lack;
 }
 
-/// The affine least-squares map, and what it lacks.
-void fitDistances(FittedWarp& fitted, Factorisation const& affine, Controls const& controls) {
-    auto& warp = fitted.warp;
-    auto const start = lackOf(warp, controls);
-    auto const x = affine.solve(start.x), y = affine.solve(start.y);
-    for (std::size_t i = 0; i < 3; ++i) {
-        warp.x[i] += x[i];
-        warp.y[i] += y[i];
-    }
-    auto const rest = lackOf(warp, controls);
-    std::ranges::copy(rest.x, fitted.weightsX());
-    std::ranges::copy(rest.y, fitted.weightsY());
+/// The affine least-squares map of one coordinate into `plane`, and what it lacks into `weights`.
+void fitDistances(formulas::Warp const& warp, Factorisation const& affine, std::span<GEOREFPOINT const> target,
+                  double GEOREFPOINT::*coordinate, double (&plane)[3], double* weights) {
+    std::vector<double> wanted(target.size());
+    std::ranges::transform(target, wanted.begin(), coordinate);
+    std::ranges::copy(affine.solve(wanted), plane);
+    for (std::size_t i = 0; i < wanted.size(); ++i)
+        weights[i] = wanted[i] - (plane[0] + plane[1] * warp.u[i] + plane[2] * warp.v[i]);
 }
 
 void add(std::span<double const> what, double* to) {
@@ -108,8 +119,8 @@ void add(std::span<double const> what, double* to) {
 }
 
 /// Solves twice, the second time for what rounding left. False where the controls are not met after that.
-bool fitSpline(FittedWarp& fitted, Factorisation const& affine, Controls const& controls) {
-    auto const equations = SplineEquations::of(fitted.warp, affine);
+bool fitSpline(FittedWarp& fitted, Factorisation const& affine, std::vector<double> matrix, Controls const& controls) {
+    auto const equations = SplineEquations::of(fitted.warp, affine, std::move(matrix));
     if (!equations)
         return false;
     auto lack = lackOf(fitted.warp, controls);
@@ -142,20 +153,28 @@ std::optional<FittedWarp> fitWarp(WarpingMethod method, Controls const& controls
     if (!isMethod(method) || controls.size() < 3 || !areFinite(controls))
         return std::nullopt;
     auto const extent = extentOf(controls.source);
-    FittedWarp fitted;
-    if (!placeControls(fitted, method, controls.source, extent))
+    auto fitted = emptyWarp(method, controls.source, extent);
+    if (areTwoInOnePlace(fitted.warp))
+        return std::nullopt;
+    std::vector<double> matrix; // before the long work: there may be no room for it
+    if (method != WarpingMethodInverseDistanceSquared)
+        matrix.resize(controls.size() * controls.size());
+    if (hasUnit(method) && !chooseUnit(fitted, controls.source))
         return std::nullopt;
     auto const affine = Factorisation::of(affineTerms(fitted.warp), rankTolerance(extent));
     if (!affine)
         return std::nullopt;
     auto const centre = extentOf(controls.target).centre;
     auto const target = countedFrom(centre, controls.target); // small numbers: what is lacking shows in full
-    if (method == WarpingMethodInverseDistanceSquared)
-        fitDistances(fitted, *affine, {controls.source, target});
-    else if (!fitSpline(fitted, *affine, {controls.source, target}))
+    auto& warp = fitted.warp;
+    if (method == WarpingMethodInverseDistanceSquared) {
+        fitDistances(warp, *affine, target, &GEOREFPOINT::x, warp.x, fitted.weightsX());
+        fitDistances(warp, *affine, target, &GEOREFPOINT::y, warp.y, fitted.weightsY());
+    } else if (!fitSpline(fitted, *affine, std::move(matrix), {controls.source, target})) {
         return std::nullopt;
-    fitted.warp.x[0] += centre.x;
-    fitted.warp.y[0] += centre.y;
+    }
+    warp.x[0] += centre.x;
+    warp.y[0] += centre.y;
     return fitted;
 }
 

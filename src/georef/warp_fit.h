@@ -18,8 +18,8 @@ struct FittedWarp {
     double* weightsY() { return arrays.data() + 3 * warp.controls; }
 };
 
-/// Nothing for a method that is none, fewer than three controls, controls that are not finite, on one line, or two in
-/// one place, and where the equations cannot be solved. May run out of memory.
+/// Nothing for a method that is none, fewer than three controls, controls that are marked, not finite, on one line,
+/// or two in one place, and where the equations cannot be solved. May run out of memory.
 std::optional<FittedWarp> fitWarp(WarpingMethod method, Controls const& controls);
 
 } // namespace ZrProj

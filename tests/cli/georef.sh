@@ -19,6 +19,8 @@ done
 prints 'all methods' '*helmert *affine *"B2"*stands out*second *thin-plate *inverse-distance *' \
     georef fit "$samples/scanned_map_wrong.csv" --compare
 [[ $("$zrproj" georef fit "$samples/scanned_map.csv" --compare) != *third* ]] || fail 'third order of 8 points' ''
+prints 'the affine map judging' '*B2 *stands out*too few points for second *: it needs 9; judged by affine*worst: "B2" * by affine*' \
+    georef fit "$samples/scanned_map_wrong.csv" --method second
 prints 'a mirror' '*a similarity cannot mirror*' georef fit "$samples/scanned_map.csv" --method Helmert
 prints 'coefficients' $'Affine Polynomial, 3*\n1 * 10 * 20\nx * 2 * 4\ny * -0.5 * -*needs 6*' georef fit - \
     <<<$'0 0 10 20 a\n1 0 12 24 b\n0 1 9.5 19 c'
@@ -28,6 +30,18 @@ refused 'alike' 'two control points at one source point, in lines 2 and 5' --met
     <<<$'x,y,X,Y\n1,2,3,4\n3,4,5,6\n\n1,2,4,4\n7,1,1,1'
 refused 'on a line' 'the control points are all on one line (lines 1, 3, 4)' <<<$'1,2,3,4\n#\n2,4,5,6\n3,6,4,4'
 refused 'in one place' 'two control points at one source point, in lines 1 and 2' --method helmert <<<$'1,2,3,4\n1,2,4,4'
+circle=$'13 0 1 1\n5 12 2 3\n-5 12 5 1\n-12 5 6 2\n-12 -5 9 3\n0 -13 2 7\n12 -5 4 4'
+for method in 'second: they lie on one conic' 'bilinear: they lie on one hyperbola' 'third: they lie on one cubic'; do
+    points=$circle
+    [[ $method == bilinear* ]] && points=$'1 6 1 1\n2 3 2 3\n3 2 5 1\n6 1 6 2\n-1 -6 1 1'
+    [[ $method == third* ]] && points+=$'\n1 1 3 3\n2 2 4 3\n3 3 3 5\n4 4 5 6'
+    # a repeated point is not what is wrong
+    refused "${method%%:*} on a curve" "the control points do not determine a map by $method*" --method "${method%%:*}" \
+        <<<"$points"$'\n'"${points##*$'\n'}"
+done
+refused 'too few places' 'two control points at one source point, in lines 3 and 4' --method bilinear \
+    <<<$'1 2 3 4\n3 5 5 6\n7 1 1 1\n7 1 1 2'
+refused 'targets too large' '*their target coordinates are too large' <<<$'0 0 1 1\n1 0 1.7976931348623157e308 1\n0 1 2 2'
 refused 'no points' '<stdin>: no control points' </dev/null
 refused 'broken lines' $'<stdin>:2: source y "4x" is not a number\n<stdin>:3: target x is missing\nnothing is fitted*' \
     <<<$'1,2,3,4\n2,4x,5,6\n3,6'
@@ -38,6 +52,7 @@ check 'no subcommand' 2 '' 'zrproj: georef needs fit or apply*' georef
 
 printf 'mapX,mapY,pixelX,pixelY,enable\n10,20,0,0,1\n20,20,10,0,1\n10,30,0,10,1\n' >"$work/map.points"
 check 'columns by their names' 0 '15.000 25.000' '' georef apply "$work/map.points" <<<'5 5'
+check 'standard input twice' 2 '' 'zrproj: standard input can be read only once*' georef apply - <<<'1 2 3 4'
 check 'columns by option' 0 '5.0;5.0;x' '' georef apply "$work/map.points" --control-columns 1,2,3,4 --columns 1,2 \
     --precision 1 <<<'15;25;x'
 check 'points of a table' 1 $'id,x,y,target_x,target_y\na,1,2,11.000,22.000\nb,,4,*,*\nc,2,2,12.000,22.000' \
@@ -47,6 +62,14 @@ plot=$work/plot.svg
 "$zrproj" georef fit "$samples/scanned_map_wrong.csv" --method second --plot "$plot" >/dev/null || fail 'plot' "status $?"
 [[ $(grep -c '<circle' "$plot") == 8 && $(grep -c '<polyline' "$plot") == 22 && $(tail -n 1 "$plot") == '</svg>' ]] ||
     fail 'plot' "$(<"$plot")"
+printf '0 0 5 5\n1 1 7 7 <K\xf6ln>\n2 2 9 9.5 \xc3\xa9\n' >"$work/line.txt" # on a line, names in two encodings
+"$zrproj" georef fit "$work/line.txt" --method helmert --plot "$plot" >/dev/null || fail 'plot of a line' "status $?"
+iconv -f UTF-8 -t UTF-8 "$plot" >/dev/null || fail 'plot of a line' 'not UTF-8'
+grep -q $'&#60;K\xef\xbf\xbdln&#62;' "$plot" && grep -q $'>\xc3\xa9<' "$plot" || fail 'names in a plot' "$(<"$plot")"
+printf '%s 5 5\n' '0 0' '1 0' '0 1' '4 4' >"$work/place.txt"
+said=$("$zrproj" georef fit "$work/place.txt" --plot "$work/place.svg" 2>&1 >/dev/null)
+[[ $? == 1 && $said == 'zrproj: the target points are all in one place: there is nothing to draw' && ! -e $work/place.svg ]] ||
+    fail 'a plot of one place' "$said"
 said=$("$zrproj" georef fit "$samples/scanned_map.csv" --plot "$work/none/plot.svg" 2>&1 >/dev/null)
 [[ $? == 1 && $said == 'zrproj: cannot write '*': No such file or directory' ]] || fail 'a plot that cannot be written' "$said"
 exit $failed

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <random>
 
@@ -67,8 +68,8 @@ TEST(GeorefAnalysis, LeavesOneOutAsRefittingDoes) {
             others.erase(others.begin() + static_cast<std::ptrdiff_t>(i));
             GEOREFPOINT point = controls[i].source;
             fitGeoref(method, others)->Forward(&point, 1);
-            EXPECT_DOUBLE_EQ(*analysis.residuals[i].left,
-                             std::hypot(point.x - controls[i].target.x, point.y - controls[i].target.y));
+            EXPECT_NEAR(*analysis.residuals[i].left,
+                        std::hypot(point.x - controls[i].target.x, point.y - controls[i].target.y), 1e-7);
         }
     }
 }
@@ -94,6 +95,33 @@ TEST(GeorefAnalysis, FindsTwoWrongPoints) {
     controls[3].target.x += 300;
     controls[8].target.y -= 900;
     EXPECT_EQ(analyse(affine, controls).outliers, (std::vector<std::size_t>{8, 3}));
+}
+
+// Refitting for every point of every round takes the better part of a minute here.
+TEST(GeorefAnalysis, FindsAHundredWrongPointsAmongManyAtOnce) {
+    auto controls = scan(2000);
+    for (std::size_t i = 7; i < controls.size(); i += 20)
+        controls[i].target.y += 500 + static_cast<double>(i);
+    auto outliers = analyse(affine, controls).outliers;
+    std::ranges::sort(outliers);
+    ASSERT_EQ(outliers.size(), 100U);
+    for (std::size_t k = 0; k < outliers.size(); ++k)
+        EXPECT_EQ(outliers[k], 7 + 20 * k);
+}
+
+// Eight points are too few for the second order to tell.
+TEST(GeorefAnalysis, LetsTheAffineMapJudgeWhereTheMethodCannot) {
+    auto const& second = findGeorefMethod("second");
+    for (std::size_t wrong = 0; wrong < 8; ++wrong) {
+        auto controls = scan(8);
+        controls[wrong].target.y += 1000;
+        Analysis const analysis = analyse(second, controls);
+        EXPECT_EQ(analysis.judge, &affine);
+        EXPECT_EQ(analysis.outliers, std::vector<std::size_t>{wrong});
+        EXPECT_NEAR(*analysis.worstResidual.left, 1000, 100);
+    }
+    EXPECT_EQ(analyse(second, scan(9)).judge, &second);
+    EXPECT_EQ(analyse(affine, scan(5)).judge, &affine);
 }
 
 // Whatever the noise, good controls are called bad about once in a hundred times.

@@ -4,12 +4,6 @@
 
 using namespace ZrProj::Command;
 
-TEST(Svg, TextsAreEscaped) {
-    EXPECT_EQ(escapedForXml("a<b> & \"c\"\n\x01"), "a&#60;b&#62; &#38; &#34;c&#34;");
-    EXPECT_EQ(escapedForXml("Zürich 東京"), "Zürich 東京");
-    EXPECT_EQ(escapedForXml("\xFFx\xC3"), "x") << "no UTF-8";
-}
-
 TEST(Svg, PathsAreShort) {
     SvgPath path;
     path.addLine(std::vector<MapPoint>{{0.4, 0}, {1, 1}, {100, -20.2}, {101, -21}});

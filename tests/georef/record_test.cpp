@@ -2,6 +2,9 @@
 
 #include <gtest/gtest.h>
 
+#include <cfloat>
+#include <climits>
+
 using namespace ZrProj;
 using namespace ZrProj::test;
 
@@ -29,8 +32,10 @@ TEST(GeorefRecord, AllocatesControls) {
     RefFreeControls(&georef);
     EXPECT_TRUE(georef.nControls == 0 && !georef.pSource && !georef.pTarget);
     georef.nControls = 7;
-    EXPECT_FALSE(RefAllocControls(&georef, 0));
-    EXPECT_EQ(georef.nControls, 0);
+    for (int const count : {0, -1, INT_MIN}) {
+        EXPECT_FALSE(RefAllocControls(&georef, count));
+        EXPECT_EQ(georef.nControls, 0);
+    }
     EXPECT_FALSE(RefAllocControls(nullptr, 3));
     RefFreeControls(nullptr);
 }
@@ -56,6 +61,13 @@ TEST(GeorefRecord, TurnsCoefficientsIntoControlsAndBack) {
         EXPECT_EQ(distance(georef.pTarget[i], images[i]), 0);
     }
     EXPECT_FALSE(RefCoeffToControls(&georef, 100, 100)); // no longer method 5
+    GEOREF flat = worldFile();
+    for (int const height : {0, INT_MIN}) {
+        ASSERT_TRUE(RefCoeffToControls(&flat, 400, height));
+        EXPECT_EQ(distance(flat.pSource[2], {400, 100}), 0);
+        RefFreeControls(&flat);
+        flat.Method = TransformMethodPrecalculatedAffineCoefficients;
+    }
     georef.A = georef.B = georef.C = georef.D = georef.E = georef.F = 0;
     ASSERT_TRUE(RefControlsToCoeff(&georef));
     EXPECT_EQ(georef.Method, TransformMethodPrecalculatedAffineCoefficients);
@@ -82,8 +94,21 @@ TEST(GeorefRecord, FitsNoCoefficientsToBadControls) {
     controls.source[2] = controls.source[1];
     EXPECT_FALSE(RefControlsToCoeff(&georef));
     EXPECT_EQ(georef.Method, TransformMethodHelmert);
-    georef.pTarget = nullptr;
+    controls.source[2] = {DBL_MAX, DBL_MAX};
     EXPECT_FALSE(RefControlsToCoeff(&georef));
+    controls.source = {{1e10, 0}, {1e10 + 1, 0}, {1e10, 1}}; // C would be -1e310
+    controls.target = {{0, 0}, {1e300, 0}, {0, 1e300}};
+    EXPECT_FALSE(RefControlsToCoeff(&georef));
+    EXPECT_EQ(georef.A, 0);
+    controls = scattered(3, 100, [](GEOREFPOINT p) { return p; });
+    for (GEOREFPOINT* GEOREF::*array : {&GEOREF::pSource, &GEOREF::pTarget}) {
+        georef = controls.record(TransformMethodHelmert);
+        georef.*array = nullptr;
+        EXPECT_FALSE(RefControlsToCoeff(&georef));
+        georef = controls.record(TransformMethodHelmert);
+        georef.nControls = INT_MIN;
+        EXPECT_FALSE(RefControlsToCoeff(&georef));
+    }
     EXPECT_FALSE(RefControlsToCoeff(nullptr));
 }
 
@@ -106,6 +131,32 @@ TEST(GeorefRecord, FollowsAResizedImage) {
     ASSERT_TRUE(RefResize(&points, 4, 2, 8, 1));
     EXPECT_EQ(distance(points.pSource[3], {2 * before.x, before.y / 2}), 0);
     EXPECT_EQ(distance(points.pTarget[3], before), 0);
-    EXPECT_FALSE(RefResize(&points, 4, 2, 8, 0));
     EXPECT_FALSE(RefResize(nullptr, 4, 2, 8, 1));
+    for (int const bad : {0, -1, INT_MIN}) {
+        EXPECT_FALSE(RefResize(&points, bad, 2, 8, 1));
+        EXPECT_FALSE(RefResize(&points, 4, bad, 8, 1));
+        EXPECT_FALSE(RefResize(&points, 4, 2, bad, 1));
+        EXPECT_FALSE(RefResize(&points, 4, 2, 8, bad));
+    }
+    EXPECT_EQ(distance(points.pSource[3], {2 * before.x, before.y / 2}), 0); // as it was before these
+    points.pSource = nullptr;
+    EXPECT_FALSE(RefResize(&points, 4, 2, 8, 1));
+}
+
+TEST(GeorefRecord, ResizesCoefficientsWhateverControlsStandBesideThem) {
+    GEOREF georef = worldFile();
+    georef.nControls = 4; // and null arrays
+    ASSERT_TRUE(RefResize(&georef, 1000, 800, 500, 800));
+    EXPECT_DOUBLE_EQ(georef.A, 5);
+    EXPECT_EQ(georef.nControls, 0);
+
+    auto controls = scattered(4, 100, [](GEOREFPOINT p) { return p; });
+    georef.pSource = controls.source.data();
+    georef.pTarget = controls.target.data();
+    georef.nControls = 4;
+    ASSERT_TRUE(RefResize(&georef, 500, 800, 1000, 400));
+    EXPECT_DOUBLE_EQ(georef.A, 2.5);
+    EXPECT_DOUBLE_EQ(georef.E, -5);
+    EXPECT_EQ(georef.nControls, 4);
+    EXPECT_EQ(distance(georef.pSource[3], {2 * controls.target[3].x, controls.target[3].y / 2}), 0);
 }

@@ -120,6 +120,18 @@ TEST(Registration, MeetsNeighboursOrFails) {
     }
 }
 
+// The warp without equations takes many controls at once, and compares them for places without comparing all pairs.
+TEST(Registration, WeighsManyControlsByDistance) {
+    auto controls = rough(100000);
+    CImageRegistration registration;
+    ASSERT_TRUE(calibrate(registration, WarpingMethodInverseDistanceSquared, controls));
+    GEOREFPOINT point = controls.source[77];
+    ASSERT_TRUE(registration.Transform(&point, 1));
+    EXPECT_LE(distance(point, controls.target[77]), 1e-7);
+    controls.source[99999] = controls.source[5];
+    EXPECT_FALSE(calibrate(registration, WarpingMethodInverseDistanceSquared, controls));
+}
+
 TEST(Registration, SharesAFitAmongCopies) {
     std::optional<CImageRegistration> first{std::in_place};
     ASSERT_TRUE(calibrate(*first, 0, rough(10)));

@@ -8,6 +8,7 @@
 #include <gtest/gtest.h>
 
 #include <cfloat>
+#include <climits>
 #include <cstring>
 #include <limits>
 #include <thread>
@@ -111,6 +112,21 @@ TEST(Georef, ComputesErrorsAndTheirMean) {
     EXPECT_TRUE(transform.ComputeError(nullptr, nullptr));
 }
 
+// Distances 1, 1 and 2: their root mean square would be 1.41.
+TEST(Georef, AveragesUnequalErrors) {
+    ControlPoints controls; // on a line the similarity is a straight line's fit: 1, -2, 1 are what it misses
+    controls.add({0, 0}, {1, 0});
+    controls.add({1, 0}, {-1, 0});
+    controls.add({2, 0}, {3, 0});
+    GEOREF const record = controls.record(TransformMethodHelmert);
+    CGeorefTransform transform(&record);
+    double mean = 0, errors[3] = {};
+    ASSERT_TRUE(transform.ComputeError(&mean, errors));
+    EXPECT_NEAR(errors[1], 2, 1e-12);
+    EXPECT_NEAR(errors[2], 1, 1e-12);
+    EXPECT_NEAR(mean, 4 / 3.0, 1e-12);
+}
+
 TEST(Georef, KeepsARecordOfItsOwn) {
     GEOREF info{};
     CGeorefTransform transform;
@@ -140,6 +156,10 @@ TEST(Georef, RefusesWhatDeterminesNoMap) {
         SCOPED_TRACE(RefMethodName(method));
         constexpr int needed[] = {2, 3, 4, 6, 10};
         GEOREF record = few.record(method);
+        for (int const count : {0, -1, INT_MIN}) {
+            record.nControls = count;
+            EXPECT_EQ(RefCreateSystem(&record), nullptr);
+        }
         record.nControls = method < 5 ? needed[method] : 3;
         EXPECT_TRUE(CGeorefTransform(&record).IsCreated());
         --record.nControls;
@@ -153,7 +173,7 @@ TEST(Georef, RefusesWhatDeterminesNoMap) {
         std::ranges::fill(one.source, GEOREFPOINT{1234.5, 987.1});
         record = one.record(method);
         EXPECT_EQ(RefCreateSystem(&record), nullptr);
-        for (double const bad : {notANumber, HUGE_VAL}) {
+        for (double const bad : {notANumber, HUGE_VAL, DBL_MAX}) {
             auto broken = bentMap(20);
             broken.target[7].y = bad;
             record = broken.record(method);
@@ -164,6 +184,9 @@ TEST(Georef, RefusesWhatDeterminesNoMap) {
     EXPECT_EQ(RefCreateSystem(&record), nullptr);
     record = few.record(TransformMethodHelmert);
     record.pTarget = nullptr;
+    EXPECT_EQ(RefCreateSystem(&record), nullptr);
+    record = few.record(TransformMethodHelmert);
+    record.pSource = nullptr;
     EXPECT_EQ(RefCreateSystem(&record), nullptr);
     EXPECT_EQ(RefCreateSystem(nullptr), nullptr);
 }
@@ -206,9 +229,20 @@ TEST(Georef, AssertsInTheNamesOfItsSources) {
 }
 
 TEST(Georef, NamesItsMethods) {
-    EXPECT_STREQ(RefMethodName(TransformMethodHelmert), "Helmert");
-    EXPECT_STREQ(RefMethodName(TransformMethodPrecalculatedAffineCoefficients), "Precalculated Affine Coefficients");
-    EXPECT_STREQ(RefMethodName(TransformMethodInverseDistanceSquared), "Inverse Distance Squared");
+    char const* const names[] = {"Helmert",
+                                 "Affine Polynomial",
+                                 "1st Order Polynomial",
+                                 "2nd Order Polynomial",
+                                 "3rd Order Polynomial",
+                                 "Precalculated Affine Coefficients",
+                                 "Thin Plate Spline",
+                                 "Natural Cubic Spline",
+                                 "Marcov Spline",
+                                 "Exponential Spline",
+                                 "Rational Quadratic Spline",
+                                 "Inverse Distance Squared"};
+    for (int method = 0; method < 12; ++method)
+        EXPECT_STREQ(RefMethodName(static_cast<TransformMethod>(method)), names[method]);
     EXPECT_STREQ(RefMethodName(TransformMethodNone), "");
     EXPECT_STREQ(RefMethodName(static_cast<TransformMethod>(-1)), "");
 }
