@@ -39,6 +39,9 @@ public:
     /// Whether there is an option that names a projection.
     bool any() const;
 
+    /// The file of --like; empty for none.
+    std::string const& likeFile() const { return m_like; }
+
     /// What the options say, checked; `standard` is the ellipsoid where they tell none. Throws UsageError when they are
     /// no usable projection.
     ProjectionChoice choice(Figure const& standard = {}) const;
