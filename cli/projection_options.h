@@ -36,7 +36,7 @@ public:
     void addTo(CLI::App& app);
     void addParametersTo(CLI::App& app);
 
-    /// Whether there is an option that names a projection.
+    /// Whether any of the options was given.
     bool any() const;
 
     /// The file of --like; empty for none.
