@@ -53,11 +53,12 @@ bool isWorld(std::string const& file) {
     return equalIgnoringCase(extension, "wld") || std::ranges::any_of(imageExtensions, isFor);
 }
 
-/// Pipes and devices are neither waited for nor replaced.
-void needPlain(std::string const& file, char const* what) {
+/// The name as it is. Throws std::runtime_error for pipes and devices, which are neither waited for nor replaced.
+std::string const& plain(std::string const& file, char const* what) {
     std::error_code error;
     if (std::filesystem::exists(file, error) && !std::filesystem::is_regular_file(file, error))
         throw std::runtime_error(std::string("cannot ") + what + ' ' + inQuotes(file) + ": it is no plain file");
+    return file;
 }
 
 /// The library finds a side file by its image's name; here the user has named the file itself, which may be called
@@ -73,8 +74,7 @@ struct Stage {
 /// A stage on which the user's file stands. Throws std::runtime_error where it is none that can be read.
 struct ReadingStage : Stage {
     ReadingStage(std::string const& existing, char const* fileName) : Stage(temporaryDirectory(), fileName) {
-        needPlain(existing, "read");
-        if (std::FILE* const readable = std::fopen(existing.c_str(), "r"))
+        if (std::FILE* const readable = std::fopen(plain(existing, "read").c_str(), "r"))
             static_cast<void>(std::fclose(readable));
         else
             throw std::runtime_error("cannot read " + inQuotes(existing) + ": " + systemMessage(errno));
@@ -86,8 +86,7 @@ struct ReadingStage : Stage {
 class WritingStage {
 public:
     WritingStage(std::string const& file, char const* fileName)
-        : m_name(file), m_replacement((needPlain(file, "write"), file)),
-          m_stage(directoryOf(m_replacement.name()), fileName) {
+        : m_name(file), m_replacement(plain(file, "write")), m_stage(directoryOf(m_replacement.name()), fileName) {
         std::filesystem::create_symlink(std::filesystem::absolute(m_replacement.name()), m_stage.file);
         errno = 0;
     }
@@ -126,8 +125,10 @@ MapInfo readReference(std::string const& file) {
     info.datumFile = flags & RefFileFlagDatum ? file : "";
     bool const points = info.georef->pSource != nullptr;
     info.georefFile = (flags & RefFileFlagCoefficients) || points ? file : "";
-    if ((flags & RefFileFlagControls) && !points)
+    if ((flags & RefFileFlagControls) && !points) {
+        info.georef = Georeference();
         info.notes.push_back("the control points that " + inQuotes(file) + " announces are not there");
+    }
     return info;
 }
 

@@ -81,6 +81,14 @@ ln -s whole.wld link.wld && chmod 600 whole.wld
 check 'through a link' 0 '' '' convert both.tfw link.wld
 expect 'link and mode' "$(readlink link.wld) $(stat -c %a whole.wld) $(head -n 1 whole.wld)" 'whole.wld 600 3'
 
+printf 'Zorvane Cartographic Reference Information : Version 1.10\nGeoref Method : Helmert\nGeoref Control Point Count : 4\n' >both.tif.zrr
+expect 'a count alone' "$("$zrproj" info both.tif | grep -E 'used|^X|announces')" 'both.tif.zrr  reference file  not used
+both.WLD      world file      used for georeference
+both.tfw      world file      not used
+X             1 x + 0 y + 6.5
+Not read      the control points that "both.tif.zrr" announces are not there'
+rm both.tif.zrr
+
 # Of an image, what cannot be read is passed over.
 printf '1\n0\n0\n-1\n5.5' >bad.tfw && cp both.tfw bad.wld && echo junk >bad.tif.zrr && printf '2 4\n' >bad.RSF
 expect 'the next one counts' "$("$zrproj" info bad.tif 2>err | tail -n 2)" 'X             3 x + 0 y + 5
