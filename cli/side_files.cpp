@@ -1,15 +1,13 @@
 #include "cli/side_files.h"
 
 #include "cli/control_miss.h"
-#include "cli/replacement_file.h"
 #include "cli/scratch_directory.h"
+#include "cli/side_file_stage.h"
 #include "cli/text.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cmath>
-#include <cstdio>
 #include <functional>
 #include <stdexcept>
 #include <string_view>
@@ -52,61 +50,6 @@ bool isWorld(std::string const& file) {
     };
     return equalIgnoringCase(extension, "wld") || std::ranges::any_of(imageExtensions, isFor);
 }
-
-/// The name as it is. Throws std::runtime_error for pipes and devices, which are neither waited for nor replaced.
-std::string const& plain(std::string const& file, char const* what) {
-    std::error_code error;
-    if (std::filesystem::exists(file, error) && !std::filesystem::is_regular_file(file, error))
-        throw std::runtime_error(std::string("cannot ") + what + ' ' + inQuotes(file) + ": it is no plain file");
-    return file;
-}
-
-/// The library finds a side file by its image's name; here the user has named the file itself, which may be called
-/// anything. So it is read and written on a stage, where it has the name that belongs to the image "map.tif".
-struct Stage {
-    Stage(std::filesystem::path const& parent, char const* fileName)
-        : directory(parent), file(directory.file(fileName)), image(directory.file("map.tif")) {}
-
-    ScratchDirectory directory;
-    std::string file, image;
-};
-
-/// A stage on which the user's file stands. Throws std::runtime_error where it is none that can be read.
-struct ReadingStage : Stage {
-    ReadingStage(std::string const& existing, char const* fileName) : Stage(temporaryDirectory(), fileName) {
-        if (std::FILE* const readable = std::fopen(plain(existing, "read").c_str(), "r"))
-            static_cast<void>(std::fclose(readable));
-        else
-            throw std::runtime_error("cannot read " + inQuotes(existing) + ": " + systemMessage(errno));
-        std::filesystem::create_symlink(std::filesystem::absolute(existing), file);
-    }
-};
-
-/// A stage on which a file stands that is to replace the user's, in one step.
-class WritingStage {
-public:
-    WritingStage(std::string const& file, char const* fileName)
-        : m_name(file), m_replacement(plain(file, "write")), m_stage(directoryOf(m_replacement.name()), fileName) {
-        std::filesystem::create_symlink(std::filesystem::absolute(m_replacement.name()), m_stage.file);
-        errno = 0;
-    }
-
-    char const* file() const { return m_stage.file.c_str(); }
-    char const* image() const { return m_stage.image.c_str(); }
-
-    /// Puts what was written in its place. Throws std::runtime_error.
-    void finish(bool written) {
-        int const reason = errno;
-        if (!written || std::filesystem::file_size(m_replacement.name()) == 0)
-            throw std::runtime_error("cannot write " + inQuotes(m_name) + (reason ? ": " + systemMessage(reason) : ""));
-        m_replacement.commit();
-    }
-
-private:
-    std::string m_name;
-    ReplacementFile m_replacement;
-    Stage m_stage;
-};
 
 [[noreturn]] void refuse(std::string const& file, char const* why) {
     throw std::runtime_error("cannot read " + inQuotes(file) + ": " + why);
