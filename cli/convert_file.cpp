@@ -1,6 +1,8 @@
 // zrproj convert: from one kind of side file to another, and to and from the tags of TIFF files.
 #include "cli/commands.h"
+#include "cli/datums.h"
 #include "cli/map_info.h"
+#include "cli/projection_options.h"
 #include "cli/text.h"
 #include "cli/tiff_format.h"
 #include "cli/usage_error.h"
@@ -25,6 +27,14 @@ public:
                        "there, whose tags are set")
             ->option_text(" ")
             ->required();
+        m_projection.addTo(app);
+        app.add_option("--datum", m_datum, "Datum of the map, by name or POSC code; its ellipsoid is the projection's")
+            ->type_name("NAME")
+            ->group("Datums");
+        app.add_flag("--accept-misfit", m_acceptMisfit,
+                     "Write an RSF file although what it is read back as misses the control points by over a pixel")
+            ->disable_flag_override();
+        m_projection.addParametersTo(app);
     }
 
     int run(Output&) override {
@@ -32,19 +42,63 @@ public:
         if (!format)
             throw UsageError(inQuotes(m_out) + " is no TIFF file that is there, and no name of a side file; end it in "
                                                ".zrr, .rsf, .wld or the like");
-        for (std::string const& note : format->write(m_out, readMap(m_in)))
+        Misfit const misfit = m_acceptMisfit ? Misfit::Accepted : Misfit::Refused;
+        for (std::string const& note : format->write(m_out, map(), misfit))
             std::fprintf(stderr, "zrproj: %s: %s\n", inQuotes(m_out).c_str(), note.c_str());
         return 0;
     }
 
 private:
-    std::string m_in, m_out;
+    bool saysSystem() const { return m_projection.any() || !m_datum.empty(); }
+
+    /// What is known of IN, with what the options say of it.
+    MapInfo map() const {
+        MapInfo info = saysSystem() && isTiffFile(m_in) ? readImage(m_in) : readMap(m_in);
+        if (!m_datum.empty())
+            setDatum(info, findDatum(m_datum, {}));
+        if (m_projection.any())
+            setProjection(info);
+        return info;
+    }
+
+    static void setDatum(MapInfo& info, Datum const& datum) {
+        info.datum = datum.type;
+        info.datumParameters = datum.record;
+        if (!datum.isOwn() && !DatGetDatumParams(datum.type, &info.datumParameters))
+            info.datumParameters.Method = datum.method();
+        info.datumFile = "--datum";
+    }
+
+    /// As another map has it, with its datum where nothing else says one, or by its parameters.
+    void setProjection(MapInfo& info) const {
+        if (!m_projection.likeFile().empty() && info.datumFile.empty()) {
+            MapInfo const like = readMap(m_projection.likeFile());
+            info.datum = like.datum;
+            info.datumParameters = like.datumParameters;
+            info.datumFile = like.datumFile;
+        }
+        Datum const datum{"", info.datum, info.datumParameters};
+        auto const figure = info.datumFile.empty() ? std::nullopt : figureOf(datum);
+        ProjectionChoice const choice = m_projection.choice(figure.value_or(Figure()));
+        if (choice.zonePerPoint)
+            throw UsageError("--utm auto is no projection of a map; name its zone");
+        info.projection = choice.record;
+        if (choice.unit)
+            info.projection.Scale = 1 / choice.unit->metres;
+        info.projectionFile = "--projection";
+    }
+
+    std::string m_in, m_out, m_datum;
+    bool m_acceptMisfit = false;
+    ProjectionOptions m_projection;
 };
 
 } // namespace
 
 std::unique_ptr<Subcommand> makeConvertFile(CLI::App& app) {
     app.footer("Example: a scanned map's world file as a reference file\n  zrproj convert map.tfw map.tif.zrr\n"
+               "Example: a scanned map with a world file and a projection, in its own tags\n"
+               "  zrproj convert map.tif map.tif --utm 17N --datum nad27\n"
                "Example: all that is known of a scanned map, in its own tags\n  zrproj convert map.tif map.tif");
     return std::make_unique<ConvertFile>(app);
 }

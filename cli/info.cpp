@@ -1,5 +1,6 @@
 // zrproj info: what a side file, or the side files and tags of an image, say.
 #include "cli/commands.h"
+#include "cli/control_miss.h"
 #include "cli/map_info.h"
 #include "cli/parameter_rows.h"
 
@@ -71,6 +72,8 @@ void addGeoreference(Table& table, GEOREF const& georef) {
         return;
     }
     table.rows.push_back({"Control points", std::to_string(georef.nControls)});
+    if (auto const miss = controlMiss(georef, georef.Method))
+        table.rows.push_back({"Missed by", missText(*miss)});
     for (std::int32_t i = 0; georef.pSource && i < georef.nControls && i < mostPoints; ++i)
         table.rows.push_back({"", pairText(georef.pSource[i]) + " to " + pairText(georef.pTarget[i])});
     if (georef.nControls > mostPoints)

@@ -1,5 +1,6 @@
 // zrproj locate: from image coordinates to longitudes and latitudes.
 #include "cli/commands.h"
+#include "cli/control_miss.h"
 #include "cli/conversion.h"
 #include "cli/map_info.h"
 #include "cli/projection_options.h"
@@ -7,6 +8,8 @@
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>
+
+#include <cstdio>
 
 namespace ZrProj::Command {
 namespace {
@@ -55,10 +58,21 @@ private:
             throw UsageError("--utm auto is no projection of an image; name its zone");
         if (choice.unit)
             choice.record.Scale = 1 / choice.unit->metres;
+        warnOfMiss(*info.georef);
         choice.image = std::make_shared<CGeorefTransform>(&*info.georef);
         if (!choice.image->IsCreated())
             throw UsageError("the georeference of " + inQuotes(m_image) + " cannot be made");
         return choice;
+    }
+
+    /// Of a similarity, which may have been given no choice: an RSF file says no other method.
+    void warnOfMiss(GEOREF const& georef) const {
+        if (georef.Method != TransformMethodHelmert)
+            return;
+        auto const miss = controlMiss(georef, georef.Method);
+        if (miss && isWide(*miss))
+            std::fprintf(stderr, "zrproj: the similarity (Helmert) that places %s misses its control points by %s\n",
+                         inQuotes(m_image).c_str(), missText(*miss).c_str());
     }
 
     static std::string reasons(MapInfo const& info) {

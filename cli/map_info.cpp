@@ -5,6 +5,7 @@
 #include "cli/tiff_format.h"
 
 #include <algorithm>
+#include <cstdio>
 #include <filesystem>
 #include <stdexcept>
 
@@ -35,27 +36,45 @@ bool isOneNumber(MapSource const& source, MapInfo const& info) {
            info.georef->Method == TransformMethodPrecalculatedAffineCoefficients;
 }
 
+/// One that cannot be read may; reading it tells why not.
+bool mayHaveTags(std::string const& image) {
+    try {
+        return readTiff(image).tags.Size() > 0;
+    } catch (std::runtime_error const&) {
+        return true;
+    }
+}
+
+MapInfo readIfGood(MapSource const& source) {
+    try {
+        return source.format->read(source.name);
+    } catch (std::runtime_error const& error) {
+        std::fprintf(stderr, "zrproj: %s; passed over\n", error.what());
+        return {};
+    }
+}
+
 } // namespace
 
 std::vector<MapSource> sourcesOf(std::string const& image) {
     std::vector<MapSource> result = sideFilesOf(image);
-    if (isTiffFile(image) && readTiff(image).tags.Size() > 0)
+    if (isTiffFile(image) && mayHaveTags(image))
         result.push_back({&tiffFormat(), image});
     return result;
 }
 
 FileFormat const* formatOf(std::string const& file) {
+    if (isTiffFile(file))
+        return nullptr;
     auto const formats = sideFormats();
     auto const found = std::ranges::find_if(formats, [&](FileFormat const& format) { return format.isNamed(file); });
     return found == formats.end() ? nullptr : &*found;
 }
 
-MapInfo readMap(std::string const& file) {
-    if (FileFormat const* const format = formatOf(file))
-        return format->read(file);
+MapInfo readImage(std::string const& image) {
     MapInfo info, oneNumber;
-    for (MapSource const& source : sourcesOf(file)) {
-        MapInfo told = source.format->read(source.name);
+    for (MapSource const& source : sourcesOf(image)) {
+        MapInfo told = readIfGood(source);
         if (isOneNumber(source, told)) {
             std::swap(oneNumber.georef, told.georef);
             std::swap(oneNumber.georefFile, told.georefFile);
@@ -63,6 +82,13 @@ MapInfo readMap(std::string const& file) {
         complete(info, std::move(told));
     }
     complete(info, std::move(oneNumber));
+    return info;
+}
+
+MapInfo readMap(std::string const& file) {
+    if (FileFormat const* const format = formatOf(file))
+        return format->read(file);
+    MapInfo info = readImage(file);
     if (info.isEmpty() && info.notes.empty())
         throw std::runtime_error("nothing is known of " + inQuotes(file) + ": no side file or tag says where it lies");
     return info;

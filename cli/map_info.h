@@ -45,6 +45,9 @@ struct MapInfo {
     std::vector<std::string> notes; // what files say that no record can hold
 };
 
+/// What to do where a file says of control points that they are fitted in a way that misses them widely.
+enum class Misfit { Refused, Accepted };
+
 /// A kind of file that can tell of a map.
 struct FileFormat {
     char const* title;
@@ -54,10 +57,10 @@ struct FileFormat {
     MapInfo (*read)(std::string const& file);
     /// Writes, in place of what is there, what it can carry; what it cannot is told in words. Throws std::runtime_error
     /// when nothing was written.
-    std::vector<std::string> (*write)(std::string const& file, MapInfo const& info);
+    std::vector<std::string> (*write)(std::string const& file, MapInfo const& info, Misfit misfit);
 };
 
-/// The format of a file by its name; null where it is none of ours, as for an image.
+/// The format of a file by its name; null where it is none of ours, as for an image, and for any TIFF file.
 FileFormat const* formatOf(std::string const& file);
 
 struct MapSource {
@@ -69,8 +72,12 @@ struct MapSource {
 /// count.
 std::vector<MapSource> sourcesOf(std::string const& image);
 
-/// What a file, or an image's side files and tags, say: each part from the first that has it, the coefficients of a
-/// reference file, which are but one number, after all others. Throws std::runtime_error.
+/// What an image's side files and tags say, if anything: each part from the first that has it, the coefficients of a
+/// reference file, which are but one number, after all others. A source that cannot be read is passed over, which is
+/// told on standard error.
+MapInfo readImage(std::string const& image);
+
+/// What a file says, or readImage. Throws std::runtime_error, also when nothing is known.
 MapInfo readMap(std::string const& file);
 
 /// Takes from a later file what the earlier ones did not tell.

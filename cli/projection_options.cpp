@@ -204,7 +204,8 @@ void ProjectionOptions::setValues(PROJDATA& record) const {
 }
 
 bool ProjectionOptions::any() const {
-    return m_utmOption->count() + m_statePlaneOption->count() + m_likeOption->count() > 0 || given(projectionId);
+    return m_utmOption->count() + m_statePlaneOption->count() + m_yearOption->count() + m_likeOption->count() > 0 ||
+           std::ranges::any_of(m_values, [](Value const& value) { return value.option->count() > 0; });
 }
 
 /// The projection that a file tells, with all of its parameters.

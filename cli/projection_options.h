@@ -36,8 +36,11 @@ public:
     void addTo(CLI::App& app);
     void addParametersTo(CLI::App& app);
 
-    /// Whether there is an option that names a projection.
+    /// Whether any of the options was given.
     bool any() const;
+
+    /// The file of --like; empty for none.
+    std::string const& likeFile() const { return m_like; }
 
     /// What the options say, checked; `standard` is the ellipsoid where they tell none. Throws UsageError when they are
     /// no usable projection.

@@ -22,6 +22,14 @@ ScratchDirectory::~ScratchDirectory() {
     std::filesystem::remove_all(m_path, error);
 }
 
+std::filesystem::path temporaryDirectory() {
+    std::error_code error;
+    std::filesystem::path const directory = std::filesystem::temp_directory_path(error);
+    if (error)
+        throw std::runtime_error("there is no directory for temporary files; set TMPDIR to one");
+    return directory;
+}
+
 std::filesystem::path directoryOf(std::string const& file) {
     std::filesystem::path const parent = std::filesystem::path(file).parent_path();
     return parent.empty() ? "." : parent;

@@ -19,6 +19,9 @@ private:
     std::filesystem::path m_path;
 };
 
+/// Where the system keeps temporary files. Throws std::runtime_error where there is no such place.
+std::filesystem::path temporaryDirectory();
+
 /// The directory that a file is in.
 std::filesystem::path directoryOf(std::string const& file);
 

@@ -1,13 +1,13 @@
 #include "cli/side_files.h"
 
-#include "cli/output.h"
+#include "cli/control_miss.h"
 #include "cli/scratch_directory.h"
+#include "cli/side_file_stage.h"
 #include "cli/text.h"
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
-#include <cstdio>
+#include <cmath>
 #include <functional>
 #include <stdexcept>
 #include <string_view>
@@ -36,47 +36,23 @@ bool isRsf(std::string const& file) {
     return equalIgnoringCase(extensionOf(file), "rsf");
 }
 
-/// "wld", and extensions of images with a w behind: "tfw", "tifw".
+constexpr auto imageExtensions = std::to_array<std::string_view>(
+    {"asc", "bil",  "bip", "bmp", "bsq", "dem", "ecw", "gif",  "grd", "img",  "j2k", "jp2",
+     "jpc", "jpeg", "jpg", "jpx", "ntf", "pcx", "pdf", "pgm",  "png", "pnm",  "ppm", "psd",
+     "rgb", "rst",  "sid", "sun", "svg", "tga", "tif", "tiff", "vrt", "webp", "xpm"});
+
+/// "wld", and what becomes of the extensions of images: "tfw" or "tifw". Others end in a w as well: "raw", "new".
 bool isWorld(std::string const& file) {
     std::string_view const extension = extensionOf(file);
-    return equalIgnoringCase(extension, "wld") || (extension.size() >= 3 && lowerCase(extension.back()) == 'w');
+    auto const isFor = [extension](std::string_view image) {
+        return equalIgnoringCase(extension, std::string(image) + 'w') ||
+               equalIgnoringCase(extension, std::string{image[0], image[2], 'w'});
+    };
+    return equalIgnoringCase(extension, "wld") || std::ranges::any_of(imageExtensions, isFor);
 }
-
-/// The library finds a side file by its image's name; here the user has named the file itself, which may be called
-/// anything. So it is read and written on a stage, where it has the name that belongs to the image "map.tif".
-struct Stage {
-    Stage(std::filesystem::path const& parent, char const* fileName)
-        : directory(parent), file(directory.file(fileName)), image(directory.file("map.tif")) {}
-
-    ScratchDirectory directory;
-    std::string file, image;
-};
-
-/// A stage on which the user's file stands. Throws std::runtime_error where it is none that can be read.
-struct ReadingStage : Stage {
-    ReadingStage(std::string const& existing, char const* fileName)
-        : Stage(std::filesystem::temp_directory_path(), fileName) {
-        if (std::FILE* const readable = std::fopen(existing.c_str(), "r"))
-            static_cast<void>(std::fclose(readable));
-        else
-            throw std::runtime_error("cannot read " + inQuotes(existing) + ": " + systemMessage(errno));
-        if (!std::filesystem::is_regular_file(existing))
-            throw std::runtime_error("cannot read " + inQuotes(existing) + ": it is no plain file");
-        std::filesystem::create_symlink(std::filesystem::absolute(existing), file);
-    }
-};
 
 [[noreturn]] void refuse(std::string const& file, char const* why) {
     throw std::runtime_error("cannot read " + inQuotes(file) + ": " + why);
-}
-
-/// Puts what was written on a stage in the place of `file`, in one step. Throws std::runtime_error.
-void moveTo(std::string const& file, Stage const& stage, bool written) {
-    std::error_code error;
-    if (written)
-        std::filesystem::rename(stage.file, file, error);
-    if (!written || error)
-        throw std::runtime_error("cannot write " + inQuotes(file) + (error ? ": " + error.message() : ""));
 }
 
 MapInfo readReference(std::string const& file) {
@@ -90,7 +66,12 @@ MapInfo readReference(std::string const& file) {
         refuse(file, "it has a later version than 1.1");
     info.projectionFile = flags & RefFileFlagProjection ? file : "";
     info.datumFile = flags & RefFileFlagDatum ? file : "";
-    info.georefFile = flags & (RefFileFlagCoefficients | RefFileFlagControls) ? file : "";
+    bool const points = info.georef->pSource != nullptr;
+    info.georefFile = (flags & RefFileFlagCoefficients) || points ? file : "";
+    if ((flags & RefFileFlagControls) && !points) {
+        info.georef = Georeference();
+        info.notes.push_back("the control points that " + inQuotes(file) + " announces are not there");
+    }
     return info;
 }
 
@@ -141,8 +122,8 @@ Georeference cornersOf(GEOREF const& coefficients) {
     return corners;
 }
 
-Notes writeReference(std::string const& file, MapInfo const& info) {
-    Stage const stage(directoryOf(file), "map.tif.zrr");
+Notes writeReference(std::string const& file, MapInfo const& info, Misfit) {
+    WritingStage stage(file, "map.tif.zrr");
     Notes notes;
     Georeference corners;
     if (hasCoefficients(info)) {
@@ -151,8 +132,7 @@ Notes writeReference(std::string const& file, MapInfo const& info) {
                            "keeps only one coefficient");
     }
     GEOREF const& georef = hasCoefficients(info) ? *corners : *info.georef;
-    moveTo(file, stage,
-           ZrProjRefFileWriteEx(stage.file.c_str(), &info.projection, info.datum, &info.datumParameters, &georef));
+    stage.finish(ZrProjRefFileWriteEx(stage.file(), &info.projection, info.datum, &info.datumParameters, &georef));
     return notes;
 }
 
@@ -171,49 +151,56 @@ void needGeoreference(std::string const& file, MapInfo const& info) {
         throw std::runtime_error("there is no georeference to write to " + inQuotes(file));
 }
 
-Notes writeRsf(std::string const& file, MapInfo const& info) {
+/// What becomes of controls in a file that says no method: a similarity, which cannot mirror, as the pixels' rows are
+/// against the map. An image's own RSF file goes before its tags, so that a wide miss would spoil a good image.
+std::string similarityNote(std::string const& file, GEOREF const& controls, Misfit misfit) {
+    auto const miss = controlMiss(controls, TransformMethodHelmert);
+    std::string const text = std::string("read back as a similarity (Helmert), ") +
+                             (miss ? "which misses them by " + missText(*miss) : "which they do not make");
+    if ((!miss || isWide(*miss)) && misfit == Misfit::Refused)
+        throw std::runtime_error("cannot write " + inQuotes(file) + ": control points of an RSF file are " + text +
+                                 "; --accept-misfit writes it all the same");
+    return text;
+}
+
+Notes writeRsf(std::string const& file, MapInfo const& info, Misfit misfit) {
     needGeoreference(file, info);
-    Stage const stage(directoryOf(file), "map.RSF");
     Notes notes = lostWithoutSystem(info);
+    Georeference const corners = hasCoefficients(info) ? cornersOf(*info.georef) : Georeference();
+    GEOREF const& controls = hasCoefficients(info) ? *corners : *info.georef;
+    std::string const back = similarityNote(file, controls, misfit);
     if (hasCoefficients(info))
-        notes.emplace_back("the six coefficients are written as four control points");
-    else if (info.georef->Method != TransformMethodHelmert)
-        notes.push_back(std::string("the method is left out: ") + RefMethodName(info.georef->Method) +
-                        " is read back as Helmert");
-    bool const written = ZrProjWriteBlueMarbleRSF(stage.image.c_str(), &*info.georef);
-    moveTo(file, stage, written && std::filesystem::exists(stage.file));
+        notes.push_back("the six coefficients are written as four control points, " + back);
+    else
+        notes.push_back(std::string("the method is left out: the control points of ") + RefMethodName(controls.Method) +
+                        " are " + back);
+    WritingStage stage(file, "map.RSF");
+    stage.finish(ZrProjWriteBlueMarbleRSF(stage.image(), &controls));
     return notes;
 }
 
-/// How far, on the average, an affine fit misses the controls; negative where there is none.
-double affineError(GEOREF const& georef) {
-    GEOREF affine = georef;
-    affine.Method = TransformMethodAffinePolynomial;
-    CGeorefTransform fit(&affine);
-    double error = -1;
-    fit.ComputeError(&error, nullptr);
-    return error;
+/// Sets to 0 what a fit leaves of nothing: a slope that moves no corner of a huge image by a digit.
+void dropRemains(GEOREF& fit) {
+    double const largest = std::max({std::fabs(fit.A), std::fabs(fit.B), std::fabs(fit.D), std::fabs(fit.E)});
+    for (double* slope : {&fit.A, &fit.B, &fit.D, &fit.E})
+        if (std::fabs(*slope) <= 1e-12 * largest)
+            *slope = 0;
 }
 
-Notes writeWorld(std::string const& file, MapInfo const& info) {
+Notes writeWorld(std::string const& file, MapInfo const& info, Misfit) {
     needGeoreference(file, info);
-    Stage const stage(directoryOf(file), "map.tfW");
     Notes notes = lostWithoutSystem(info);
-    if (!hasCoefficients(info)) {
-        double const error = affineError(*info.georef);
-        if (error < 0)
-            throw std::runtime_error("the control points make no affine fit to write to " + inQuotes(file));
-        std::string text;
-        appendFixed(text, error, 3);
-        notes.push_back("the control points are fitted by an affine map, which misses them by " + text +
-                        " on the average");
-    }
     GEOREF centred = *info.georef; // its controls stay those of the original
-    if (!hasCoefficients(info) && !RefControlsToCoeff(&centred))
-        throw std::runtime_error("the control points make no affine fit to write to " + inQuotes(file));
+    if (!hasCoefficients(info)) {
+        auto const miss = controlMiss(*info.georef, TransformMethodAffinePolynomial);
+        if (!miss || !RefControlsToCoeff(&centred))
+            throw std::runtime_error("the control points make no affine fit to write to " + inQuotes(file));
+        notes.push_back("the control points are fitted by an affine map, which misses them by " + missText(*miss));
+        dropRemains(centred);
+    }
     moveToCentre(centred);
-    bool const written = ZrProjWriteESRIWorld(stage.image.c_str(), &centred);
-    moveTo(file, stage, written && std::filesystem::exists(stage.file));
+    WritingStage stage(file, "map.tfW");
+    stage.finish(ZrProjWriteESRIWorld(stage.image(), &centred));
     return notes;
 }
 

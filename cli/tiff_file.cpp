@@ -9,6 +9,7 @@
 #include <array>
 #include <cstdarg>
 #include <cstdio>
+#include <filesystem>
 #include <fstream>
 #include <memory>
 #include <stdexcept>
@@ -74,11 +75,22 @@ void setTag(TIFF& file, ZrBitmapTag const& tag) {
 } // namespace
 
 bool isTiffFile(std::string const& name) {
+    std::error_code error;
+    if (!std::filesystem::is_regular_file(name, error)) // a pipe's writer may never come
+        return false;
     std::array<char, 4> start = {};
     std::ifstream(name, std::ios::binary).read(start.data(), start.size());
     std::string_view const bytes(start.data(), start.size());
     using namespace std::string_view_literals;
     return bytes == "II*\0"sv || bytes == "MM\0*"sv || bytes == "II+\0"sv || bytes == "MM\0+"sv;
+}
+
+bool claimsLayout(std::string const& name) {
+    constexpr std::string_view claim = "GDAL_STRUCTURAL_METADATA_SIZE=";
+    std::array<char, 64> start = {};
+    std::ifstream(name, std::ios::binary).read(start.data(), start.size());
+    std::string_view const bytes(start.data(), start.size());
+    return bytes.substr(8).starts_with(claim) || bytes.substr(16).starts_with(claim); // behind the header
 }
 
 TiffImage readTiff(std::string const& name) {

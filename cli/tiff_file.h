@@ -11,6 +11,9 @@ namespace ZrProj::Command {
 /// Whether a file begins as a TIFF file does.
 bool isTiffFile(std::string const& name);
 
+/// Whether a TIFF file says that its parts stand in an order for reading over a network (cloud-optimized GeoTIFF).
+bool claimsLayout(std::string const& name);
+
 struct TiffImage {
     std::uint32_t width = 0, height = 0;
     ZrBitmapTagList tags; // of GeoTIFF only

@@ -1,5 +1,6 @@
 #include "cli/tiff_format.h"
 
+#include "cli/control_miss.h"
 #include "cli/text.h"
 
 #include <zrproj/geotiff.h>
@@ -78,18 +79,31 @@ MapInfo onTopOf(MapInfo present, MapInfo const& info, std::string const& file) {
     return present;
 }
 
-std::vector<std::string> write(std::string const& file, MapInfo const& info) {
-    MapInfo const all = onTopOf(read(file), info, file);
+std::vector<std::string> notesOn(std::string const& file, MapInfo const& all, GEOREF const& georef) {
     std::vector<std::string> notes;
-    bool const controls = info.georef->nControls > 0 && info.georef->Method != TransformMethodAffinePolynomial &&
-                          info.georef->Method != TransformMethodPrecalculatedAffineCoefficients;
-    if (controls && info.georef->Method == TransformMethodHelmert)
-        notes.emplace_back("the Helmert system is written as the matrix that it is, without its control points");
+    bool const controls = georef.nControls > 0 && georef.Method != TransformMethodAffinePolynomial &&
+                          georef.Method != TransformMethodPrecalculatedAffineCoefficients;
+    auto const miss = controlMiss(georef, TransformMethodHelmert);
+    if (controls && georef.Method == TransformMethodHelmert)
+        notes.push_back("the Helmert system is written as the matrix that it is, without its control points" +
+                        (miss ? ", which it misses by " + missText(*miss) : ""));
     else if (controls)
-        notes.push_back(std::string("the method is left out: ") + RefMethodName(info.georef->Method) +
+        notes.push_back(std::string("the method is left out: ") + RefMethodName(georef.Method) +
                         " is read back as Affine Polynomial");
+    if (all.projection.Type == ProjTypeUndefined)
+        notes.emplace_back("nothing says in which projection it is; give --utm, --state-plane, --projection or --like");
+    if (claimsLayout(file))
+        notes.emplace_back("its layout is no longer the one that it claims (cloud-optimized): its directory has moved "
+                           "to the end");
+    return notes;
+}
+
+std::vector<std::string> write(std::string const& file, MapInfo const& info, Misfit) {
+    MapInfo const all = onTopOf(read(file), info, file);
+    GEOREF const& georef = info.georefFile.empty() ? *all.georef : *info.georef;
+    std::vector<std::string> const notes = notesOn(file, all, georef);
     try {
-        MadeTags const made(all, info.georefFile.empty() ? *all.georef : *info.georef);
+        MadeTags const made(all, georef);
         writeTiffTags(file, made.tags());
     } catch (std::runtime_error const& error) {
         throw std::runtime_error("cannot write " + inQuotes(file) + ": " + error.what());

@@ -49,7 +49,8 @@ ZRPROJ_API bool ZrProjExplainGeoTIFF(ZrBitmapTagList const& tags, char* message,
 /// 237, and a null `georef` or method 12 are left out. `params` is needed for a user-defined datum (0) only.
 ///
 /// The tags say pixel-is-area; a georeference that pixel scale and tie point cannot say is written as a matrix, a
-/// Helmert system as the matrix that it is, other control points as tie points (their method is not told).
+/// Helmert system as the matrix that it is, as are control points of an affine fit that meets them but for rounding to
+/// 15 digits, other control points as tie points (their method is not told).
 ///
 /// On success `*tags` is an array of `*count` tags, to be freed with ZrProjDiscardGeoTIFFTags; null and 0 when there
 /// was nothing to write. False, with null and 0, for null `tags` or `count`, when the records cannot be said in tags

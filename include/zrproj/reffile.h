@@ -79,7 +79,8 @@ ZRPROJ_API bool ZrProjRefFileDelete(char const* fileName);
 
 /// Deletes every side file of a map: its reference file (whatever comes of that), its RSF file, and its world files;
 /// for "map.tif" these are "map.tif.zrr", "map.RSF", "map.WLD", "map.tifW" and "map.tfW". Only plain files are deleted,
-/// and never the map itself. False for a null or empty name, and at the first file that is there and cannot be deleted.
+/// and never the map itself, unless its name is that of its own reference file ("map.zrr"). False for a null or empty
+/// name, and at the first file that is there and cannot be deleted.
 ZRPROJ_API bool ZrProjRefFilesDelete(char const* mapFileName);
 
 } // namespace ZrProj

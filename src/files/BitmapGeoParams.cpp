@@ -45,6 +45,8 @@ struct Sources {
             tags.good = ZrProjGetGeoTIFF(*tagList, &r.projection, &r.datum, &r.datumParameters, &r.georef, &tags.flags);
         for (Source* source : all())
             source->flags = source->good ? source->flags : 0;
+        if (!georef.pSource) // a count alone places nothing
+            reference.flags &= ~std::uint32_t{RefFileFlagControls};
     }
 
     std::array<Source*, 4> all() { return {&reference, &rsf, &world, &tags}; }

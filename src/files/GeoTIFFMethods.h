@@ -55,9 +55,19 @@ inline constexpr std::array methodTable{
 };
 // clang-format on
 
-/// Programs differ in how they compute an equirectangular map of an ellipsoid, by kilometres; one of a sphere is sure.
-inline constexpr char const* twoEquirectangulars =
-    "an equirectangular map of an ellipsoid is a sphere's to some programs, and an ellipsoid's to others";
+/// Why a map of an ellipsoid would be read in two ways, hundreds of metres to kilometres apart; null where it would
+/// not. One of a sphere is sure.
+constexpr char const* doubtOnEllipsoid(Transformation transformation) {
+    switch (transformation) {
+    case equirectangular:
+        return "an equirectangular map of an ellipsoid is a sphere's to some programs, and an ellipsoid's to others";
+    case miller:
+    case vanDerGrinten:
+        return "programs differ in the sphere that they take for an ellipsoid in this projection";
+    default:
+        return nullptr;
+    }
+}
 
 /// A projection's parameters as the keys have them: degrees, and metres on the ground before any scale factor.
 struct Parameters {

@@ -3,6 +3,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <span>
 
 namespace ZrProj::GeoTIFF {
 namespace {
@@ -74,6 +75,34 @@ Outcome<Coefficients> helmert(GEOREF const& georef) {
     return Coefficients{p[1].x - p[0].x, p[2].x - p[0].x, p[0].x, p[1].y - p[0].y, p[2].y - p[0].y, p[0].y};
 }
 
+double largestCoordinate(std::span<GEOREFPOINT const> points) {
+    double largest = 0;
+    for (GEOREFPOINT const& point : points)
+        largest = std::max({largest, std::fabs(point.x), std::fabs(point.y)});
+    return largest;
+}
+
+/// The affine map that the controls lie on but for the rounding of numbers to 15 digits; nothing where they do not.
+std::optional<Coefficients> exactAffine(GEOREF const& georef) {
+    std::span const pixels(georef.pSource, static_cast<std::size_t>(georef.nControls));
+    double const width = largestCoordinate(pixels), size = largestCoordinate({georef.pTarget, pixels.size()}),
+                 rounding = 2e-14 * size;
+    GEOREF fit = georef;
+    if (!RefControlsToCoeff(&fit))
+        return std::nullopt;
+    for (double* slope : {&fit.A, &fit.B, &fit.D, &fit.E})
+        if (width * std::fabs(*slope) <= rounding)
+            *slope = 0;
+    for (std::size_t i = 0; i < pixels.size(); ++i) {
+        auto const [x, y] = pixels[i];
+        auto const [X, Y] = georef.pTarget[i];
+        double const missX = fit.A * x + fit.B * y + fit.C - X, missY = fit.D * x + fit.E * y + fit.F - Y;
+        if (!(std::hypot(missX, missY) <= rounding))
+            return std::nullopt;
+    }
+    return Coefficients{fit.A, fit.B, fit.C, fit.D, fit.E, fit.F};
+}
+
 Outcome<PlacementTags> tiePointsOf(GEOREF const& georef) {
     PlacementTags result;
     for (std::int32_t i = 0; i < georef.nControls; ++i)
@@ -89,6 +118,9 @@ Outcome<PlacementTags> controlsOf(GEOREF const& georef) {
     std::int32_t const fewest = isMatrix ? 2 : static_cast<std::int32_t>(fewestControls);
     if (!georef.pSource || !georef.pTarget || georef.nControls < fewest)
         return Refusal{"the georeference has too few control points"};
+    if (georef.Method == TransformMethodAffinePolynomial)
+        if (auto const affine = exactAffine(georef); affine && isUsable(*affine))
+            return tagsOf(*affine);
     if (!isMatrix)
         return tiePointsOf(georef);
     auto const matrix = helmert(georef);

@@ -51,6 +51,8 @@ Outcome<Normal> polar(Method const& method, Parameters p, Ellipsoid const& ellip
 }
 
 Outcome<Normal> normal(Method const& method, Parameters const& p, Ellipsoid const& ellipsoid) {
+    if (char const* const doubt = doubtOnEllipsoid(method.transformation); doubt && ellipsoid.flattening != 0)
+        return Refusal{doubt};
     switch (method.transformation) {
     case lambertConformal1:
     case lambertConformal2:
@@ -59,10 +61,6 @@ Outcome<Normal> normal(Method const& method, Parameters const& p, Ellipsoid cons
         return trueMercator(method, p, ellipsoid);
     case polarStereographic:
         return polar(method, p, ellipsoid);
-    case equirectangular:
-        if (ellipsoid.flattening != 0)
-            return Refusal{twoEquirectangulars};
-        return Normal{method, p};
     case obliqueMercator:
     case obliqueMercatorFromCentre:
         if (p.azimuth != p.gridAngle)

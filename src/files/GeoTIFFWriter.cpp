@@ -84,8 +84,8 @@ Outcome<Method> methodFor(PROJDATA const& record) {
     bool const byAzimuth = flagByte<&PROJDATA::bUseAlpha>(record) && flagByte<&PROJDATA::bRotate>(record);
     if (record.Type == ProjTypeHotineObliqueMercator && !byAzimuth)
         return Refusal{"GeoTIFF has an oblique Mercator by azimuth and with a turned grid only"};
-    if (row->transformation == equirectangular && record.Flattening != 0)
-        return Refusal{twoEquirectangulars};
+    if (char const* const doubt = doubtOnEllipsoid(row->transformation); doubt && record.Flattening != 0)
+        return Refusal{doubt};
     double const latitude = angleAt(record, static_cast<int>(row->latitude));
     double const parallel =
         std::max(row->parallels > 0 ? std::fabs(record.Lat1) : 0, row->parallels > 1 ? std::fabs(record.Lat2) : 0);

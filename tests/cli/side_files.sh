@@ -20,11 +20,15 @@ Y             0 x + -2 y + 4651000' '' info 'sc an.tif'
 
 check 'coefficients to a reference file' 0 '' '*written as four control points of an affine fit*' \
     convert 'sc an.tfw' map.tif.zrr
-check 'to an RSF file' 0 '' '*Affine Polynomial is read back as Helmert' convert map.tif.zrr map.rsf
+misses='*read back as a similarity (Helmert), which misses them by 141.421 (70.71 pixels) on the average'
+check 'rows go down, a similarity cannot' 1 '' "$misses; --accept-misfit*" convert map.tif.zrr map.rsf
+check 'to an RSF file' 0 '' "$misses" convert map.tif.zrr map.rsf --accept-misfit
+expect 'what it misses' "$("$zrproj" info map.rsf | grep -i miss)" 'Missed by       141.421 (70.71 pixels) on the average'
+check 'warned of' 0 '-80.998792336 42.010121453' '*that places "map.png" misses its control points by 141.421*' locate map.png --utm 17N <<<'0 0'
 expect 'RSF file' "$(head -n 3 map.rsf | tail -n 2)" "'Point 0' 0 0 0.0 500000 4651000 0.0 1
 'Point 1' 100 0 0.0 500200 4651000 0.0 1"
-check 'and back to a world file' 0 '' '*misses them by 0.000 on the average' convert map.rsf back.wld
-expect 'world file' "$(sed -n '1p;4,6p' back.wld | tr '\n' ' ')" '2 -2 500001 4650999 '
+check 'and back to a world file' 0 '' '*misses them by 0.000 (0.00 pixels) on the average' convert map.rsf back.wld
+expect 'world file' "$(tr '\n' ' ' <back.wld)" '2 0 0 -2 500001 4650999 '
 expect 'which file counts' "$("$zrproj" info map.tif | head -n 2)" 'map.tif.zrr  reference file  used for georeference
 map.rsf      RSF file        not used'
 
@@ -51,14 +55,43 @@ check 'what a world file cannot carry' 0 '' '*the projection is left out*the dat
 before=$(here)
 check 'nothing to write' 1 '' '*no georeference to write to "utm.wld"' convert utm.zrr utm.wld
 check 'no such file' 1 '' '*cannot read "none.zrr": No such file*' info none.zrr
+mkfifo pipe.zrr pipe.tif
+for pipe in pipe.zrr pipe.tif; do # no writer comes
+    timeout 5 "$zrproj" info $pipe 2>err </dev/null
+    expect "$pipe is not waited for" $? 1
+done
+check 'a pipe stays' 1 '' '*cannot write "pipe.zrr": it is no plain file' convert both.tfw pipe.zrr
+rm pipe.*
+check 'no world file' 1 '' 'zrproj: nothing is known of "odd.raw"*' info odd.raw < <(cp both.tfw odd.raw)
+rm odd.raw
+TMPDIR=$work/none check 'no temporary files' 1 '' '*no directory for temporary files; set TMPDIR*' info both.tfw
 check 'directory' 1 '' '*no side file or tag says*' info .
 cp map.rsf damaged.zrr
 check 'damaged' 1 '' '*cannot read "damaged.zrr": it is no reference file, or damaged' convert damaged.zrr out.wld
 rm damaged.zrr
 check 'kind of file' 2 '' 'zrproj: "out.png" is no TIFF file that is there*' convert map.rsf out.png
-check 'no such directory' 1 '' '*cannot write in "none": No such file*' convert map.rsf none/out.wld
-said=$( (trap '' XFSZ && ulimit -f 0 && "$zrproj" convert both.tfw map.rsf) 2>&1 | cat)
-expect 'full disk' "$said" 'zrproj: cannot write "map.rsf"'
-expect 'the good file stays' "$(head -n 1 map.rsf)" '2 4'
+check 'no such directory' 1 '' '*cannot write "none/out.wld": No such file*' convert map.rsf none/out.wld
+said=$( (trap '' XFSZ && ulimit -f 0 && "$zrproj" convert both.tfw whole.wld) 2>&1 | cat)
+expect 'full disk' "$said" 'zrproj: cannot write "whole.wld": File too large'
+expect 'the good file stays' "$(head -n 1 whole.wld)" '2'
 expect 'nothing is left behind' "$(here)" "$before"
+
+# Links and modes stay.
+ln -s whole.wld link.wld && chmod 600 whole.wld
+check 'through a link' 0 '' '' convert both.tfw link.wld
+expect 'link and mode' "$(readlink link.wld) $(stat -c %a whole.wld) $(head -n 1 whole.wld)" 'whole.wld 600 3'
+
+printf 'Zorvane Cartographic Reference Information : Version 1.10\nGeoref Method : Helmert\nGeoref Control Point Count : 4\n' >both.tif.zrr
+expect 'a count alone' "$("$zrproj" info both.tif | grep -E 'used|^X|announces')" 'both.tif.zrr  reference file  not used
+both.WLD      world file      used for georeference
+both.tfw      world file      not used
+X             1 x + 0 y + 6.5
+Not read      the control points that "both.tif.zrr" announces are not there'
+rm both.tif.zrr
+
+# Of an image, what cannot be read is passed over.
+printf '1\n0\n0\n-1\n5.5' >bad.tfw && cp both.tfw bad.wld && echo junk >bad.tif.zrr && printf '2 4\n' >bad.RSF
+expect 'the next one counts' "$("$zrproj" info bad.tif 2>err | tail -n 2)" 'X             3 x + 0 y + 5
+Y             0 x + 3 y + 6'
+expect 'what is passed over' "$(grep -c 'cannot read "bad.*; passed over' err)" 3
 exit $failed

@@ -48,6 +48,27 @@ a,0,0,-79.387807849,43.656635240
 b,n,2,*,*' '<stdin>:3: *"n" is not a number*' locate 'my scan.tif' <<<$'name,x,y\na,0,0\nb,n,2'
 check 'like an image' 0 '630084.301,4833438.586' '' forward --like 'my scan.tif' <<<'-79.387139,43.642567'
 
+# A projection and a datum for a scan of which only the place is known; without them there is a word of it.
+little_tiff >lone.tif
+printf '2\n0\n0\n-2\n630001\n4834999\n' >lone.tfw
+check 'no system' 0 '' 'zrproj: "lone.tif": nothing says in which projection it is*' convert lone.tif lone.tif
+check 'a parameter of nothing' 2 '' '*no projection; give --utm*' convert lone.tif lone.tif --lon0 4
+check 'system told' 0 '' '' convert lone.tif lone.tif --utm 17N --datum nad27
+expect 'datum and its ellipsoid' "$("$zrproj" info lone.tif | grep -E '^(Projection|Ellipsoid|Datum)  ')" \
+    'Projection                         Universal Transverse Mercator (UTM)
+Ellipsoid                          Clarke 1866
+Datum                              North American Datum 1927'
+little_tiff >bare.tif
+check 'like another' 0 '' '' convert bare.tif bare.tif --like lone.tif
+expect 'projection and datum' "$("$zrproj" info bare.tif | grep -c -E '^(Projection|Datum)  ')" 2
+check 'ellipsoids that differ' 1 '' '*have different ellipsoids' convert lone.tif lone.tif --utm 17N --ellipsoid 'wgs 84'
+check 'coefficients by way of a reference file' 0 '' '*four control points*' convert lone.tif lone.zrr
+check 'and into tags again' 0 '' '' convert lone.zrr bare.tif
+expect 'are coefficients again' "$("$zrproj" info bare.tif | grep '^[XY] ')" \
+    'X                                  2 x + 0 y + 630000
+Y                                  0 x + -2 y + 4835000'
+rm lone.* bare.*
+
 # A side file over tags that are there: what it does not tell stays.
 printf '1\n0\n0\n-1\n500.5\n799.5\n' >new.wld
 check 'a new place' 0 '' '' convert new.wld 'my scan.tif'

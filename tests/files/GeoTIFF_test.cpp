@@ -317,6 +317,12 @@ TEST(GeoTIFF, RefusesRecordsThatTagsCannotSay) {
         record.Lat1 = 30;
         EXPECT_NE(Made(record, DatumTypeNone).refusal.find("no name for the projection"), std::string::npos);
     }
+    for (ProjType type : {ProjTypeEquidistantCylindrical, ProjTypeMillerCylindrical, ProjTypeVanDerGrinten}) {
+        EXPECT_NE(Made(recordOf(type, EllipsoidTypeWgs84), DatumTypeNone).refusal, "");
+        PROJDATA sphere = recordOf(type, EllipsoidTypeUserDefined);
+        sphere.MajorRadius = 6371000;
+        EXPECT_EQ(Made(sphere, DatumTypeNone).refusal, "");
+    }
     EXPECT_NE(Made(wgs, DatumTypeNorthAmericanDatum1927).refusal, ""); // another ellipsoid
     EXPECT_NE(Made(wgs, static_cast<DatumType>(222)).refusal, "");     // from Paris
     EXPECT_NE(Made(wgs, DatumTypeUserDefined).refusal, "");            // without its parameters
@@ -355,6 +361,24 @@ TEST(GeoTIFF, GeoreferencesComeBack) {
     RefFreeControls(&helmert);
 }
 
+TEST(GeoTIFF, AnAffineFitThatMeetsItsControlsIsNoLongerMadeOfThem) {
+    PROJDATA const none = recordOf(ProjTypeUndefined, EllipsoidTypeNone);
+    GEOREF upright = coefficients(0.3048, 0, 512345.678, 0, -0.3048, 4651234.567);
+    ASSERT_TRUE(RefCoeffToControls(&upright, 5000, 3000));
+    for (int i = 0; i < upright.nControls; ++i) // 15 digits, as in a reference file
+        for (double* coordinate : {&upright.pTarget[i].x, &upright.pTarget[i].y})
+            *coordinate = std::round(*coordinate * 1e8) / 1e8;
+    Made const exact(none, DatumTypeNone, nullptr, &upright);
+    Read const back(exact.tags);
+    EXPECT_NE(exact.tags.Find(33550), nullptr); // upright: a scale, not a matrix
+    EXPECT_EQ(back.flags, 20u);
+    EXPECT_NEAR(back.georef.A, 0.3048, 1e-11);
+    EXPECT_NEAR(back.georef.F, 4651234.567, 1e-7);
+    upright.pTarget[2].x += 1e-6;
+    EXPECT_EQ(Read(Made(none, DatumTypeNone, nullptr, &upright).tags).flags, 24u);
+    RefFreeControls(&upright);
+}
+
 TEST(BitmapGeoParams, EachPartComesFromTheFirstThatHasIt) {
     TemporaryDirectory const directory;
     std::string const image = directory.file("map.tif");
@@ -372,6 +396,10 @@ TEST(BitmapGeoParams, EachPartComesFromTheFirstThatHasIt) {
     EXPECT_TRUE(look());
     EXPECT_EQ(flags, 23u);
     EXPECT_EQ(value(data.Lon0), 15);
+    std::ofstream(image + ".zrr") << "Zorvane Cartographic Reference Information : Version 1.10\n"
+                                     "Georef Method : Helmert\nGeoref Control Point Count : 4\n"; // but no points
+    EXPECT_TRUE(look());
+    EXPECT_EQ(georef.F, 8);
     // Known coefficients are but one number in a reference file, and yield.
     ASSERT_TRUE(ZrProjRefFileWriteEx(image.c_str(), &zone, DatumTypeNone, nullptr, &placed));
     EXPECT_TRUE(look());

@@ -64,7 +64,9 @@ SYSTEMS = [
     ("+proj=mill +lon_0=11 +R=6371000", 10, 50), ("+proj=gnom +lat_0=40 +lon_0=-100 +R=6370997", -100, 42),
     ("+proj=ortho +lat_0=40 +lon_0=-100 +datum=WGS84", -95, 42), ("+proj=vandg +R=6371000", 10, 50),
     ("+proj=eqc +lat_ts=40 +R=6371000", 10, 50),
-    ("+proj=eqc +lat_ts=40 +datum=WGS84", "an equirectangular map of an ellipsoid"), ("+proj=robin +lon_0=10 +R=6371000", "the projection has no central"),
+    ("+proj=eqc +lat_ts=40 +datum=WGS84", "an equirectangular map of an ellipsoid"),
+    ("+proj=mill +R_A +datum=WGS84", "programs differ in the sphere"), ("+proj=vandg +R_A +datum=WGS84", "programs differ in the sphere"),
+    ("+proj=robin +lon_0=10 +R=6371000", "the projection has no central"),
     ("+proj=tmerc +lat_0=49 +lon_0=-2 +k=0.9996012717 +x_0=400000 +y_0=-100000 +ellps=airy "
      "+towgs84=446.448,-125.157,542.06,0.1502,0.247,0.8421,-20.4894", -2, 52),
     ("+proj=tmerc +lat_0=0 +lon_0=173 +k=0.9996 +x_0=1600000 +y_0=10000000 +ellps=GRS80 +units=ft", 173, -41),

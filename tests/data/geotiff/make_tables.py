@@ -105,8 +105,8 @@ def feet():
     return rows
 
 
-# State Plane zones whose definition was later corrected under another number, then grids of countries and continents.
-GRIDS = [26747, 26801, 26802, 26803, 26979, 32018, 32029, 32036,
+# State Plane zones whose definition is not that of the catalogue's zone in metres, then grids of countries and continents.
+GRIDS = [2246, 2264, 26747, 26801, 26802, 26803, 26979, 32018, 32029, 32036,
          2100, 2154, 2157, 2180, 2193, 3005, 3006, 3031, 3034, 3035, 3067, 3078, 3081, 3083, 3112, 3174, 3310, 3338, 3347,
          3395, 3413, 3577, 3763, 3765, 3812, 3976, 3978, 3979, 3995, 3996, 5070, 5180, 5181, 5186, 5880, 6350, 6372,
          6931, 6932, 21781, 2056, 2326, 22523, 23700, 25884, 27700, 29101, 29902, 29903, 31254, 31255,
