@@ -27,9 +27,12 @@ std::vector<double> multiples(double low, double high, double step) {
     return result;
 }
 
+/// A circle is not turned: what direction its axes have is a matter of the last digits.
 std::string ellipse(MapPoint const& at, Ellipse const& shape) {
+    bool const circle = shape.first - shape.second < 1;
+    std::string const turn = circle ? "" : "rotate(" + number(-shape.turn) + ')';
     return "<ellipse rx=\"" + number(shape.first) + "\" ry=\"" + number(shape.second) + "\" transform=\"translate(" +
-           number(at.x) + ' ' + number(at.y) + ")rotate(" + number(-shape.turn) + ")\"/>\n";
+           number(at.x) + ' ' + number(at.y) + ')' + turn + "\"/>\n";
 }
 
 /// How many letters a name has, counting a UTF-8 character as one.
