@@ -8,7 +8,8 @@
 namespace ZrProj::Command {
 namespace {
 
-constexpr double circleRadius = 0.05; // of a distortion ellipse, in radii of the ellipsoid
+constexpr double circleRadius = 0.05;  // of a distortion ellipse, in radii of the ellipsoid
+constexpr double largestEllipse = 0.1; // of the paper; what is larger, beside an antipode, is no circle's picture
 constexpr double dotRadius = 22, labelHeight = 110, letterWidth = 58;
 
 std::string number(double value) {
@@ -79,7 +80,8 @@ std::string ellipseLayer(MapPaper& paper, double step) {
             if (!scale)
                 continue;
             Ellipse const shape = ellipseOf(*scale);
-            ellipses += ellipse(at->point, {shape.first * radius, shape.second * radius, shape.turn});
+            if (shape.first * radius < largestEllipse * std::max(paper.width(), paper.height()))
+                ellipses += ellipse(at->point, {shape.first * radius, shape.second * radius, shape.turn});
         }
     return "<g fill=\"#c0392b\" fill-opacity=\".35\" stroke=\"#c0392b\" stroke-width=\"5\">\n" + ellipses + "</g>\n";
 }
