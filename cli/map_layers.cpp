@@ -9,7 +9,8 @@
 namespace ZrProj::Command {
 namespace {
 
-constexpr double circleRadius = 0.05; // of a distortion ellipse, in radii of the ellipsoid
+constexpr double circleRadius = 0.05;  // of a distortion ellipse, in radii of the ellipsoid
+constexpr double largestEllipse = 0.1; // of the paper; what is larger, beside an antipode, is no circle's picture
 constexpr double dotRadius = 22, labelHeight = 110, letterWidth = 58;
 
 std::string number(double value) {
@@ -28,9 +29,12 @@ std::vector<double> multiples(double low, double high, double step) {
     return result;
 }
 
+/// A circle is not turned: what direction its axes have is a matter of the last digits.
 std::string ellipse(MapPoint const& at, Ellipse const& shape) {
+    bool const circle = shape.first - shape.second < 1;
+    std::string const turn = circle ? "" : "rotate(" + number(-shape.turn) + ')';
     return "<ellipse rx=\"" + number(shape.first) + "\" ry=\"" + number(shape.second) + "\" transform=\"translate(" +
-           number(at.x) + ' ' + number(at.y) + ")rotate(" + number(-shape.turn) + ")\"/>\n";
+           number(at.x) + ' ' + number(at.y) + ')' + turn + "\"/>\n";
 }
 
 /// How many letters a name has, counting a UTF-8 character as one.
@@ -77,7 +81,8 @@ std::string ellipseLayer(MapPaper& paper, double step) {
             if (!scale)
                 continue;
             Ellipse const shape = ellipseOf(*scale);
-            ellipses += ellipse(at->point, {shape.first * radius, shape.second * radius, shape.turn});
+            if (shape.first * radius < largestEllipse * std::max(paper.width(), paper.height()))
+                ellipses += ellipse(at->point, {shape.first * radius, shape.second * radius, shape.turn});
         }
     return "<g fill=\"#c0392b\" fill-opacity=\".35\" stroke=\"#c0392b\" stroke-width=\"5\">\n" + ellipses + "</g>\n";
 }

@@ -3,7 +3,7 @@
 #include "cli/parameters.h"
 #include "cli/usage_error.h"
 
-#include <array>
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <limits>
@@ -50,6 +50,12 @@ Places wholeGlobe() {
     return ring;
 }
 
+/// Whether a ring runs up and down one meridian.
+bool isFlat(Places const& ring) {
+    auto const [west, east] = std::ranges::minmax(ring, {}, &PROJPOINT::x);
+    return east.x - west.x < 1e-6;
+}
+
 } // namespace
 
 MapProjection::MapProjection(PROJDATA record) : m_record(record) {
@@ -91,7 +97,9 @@ std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
 
 std::vector<Places> MapProjection::outline() {
     static Places const globe = wholeGlobe();
-    return cutArea(globe);
+    std::vector<Places> rings = cutArea(globe);
+    std::erase_if(rings, isFlat); // what is left of the globe's own edge where the map ends beside it
+    return rings;
 }
 
 } // namespace ZrProj::Command

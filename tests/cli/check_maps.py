@@ -2,7 +2,7 @@
 """Looks at maps drawn by zrproj: check_maps.py FILE...; after land=SHARE, maps of which that part is land.
 
 A map is one <g> with a clip path. Everything in it lies on the paper or just beyond; no line or coast goes from one side
-of the map to another in one stroke; land is drawn.
+of the map to another in one stroke; land is drawn, and so is the edge.
 """
 
 import re
@@ -48,6 +48,13 @@ def check_path(points, closed, width, height):
         assert outside or not long, f"a stroke from {x1} {y1} to {x2} {y2} on a map of {width} by {height}"
 
 
+def check_edge(paths, width, height):
+    """The edge of a map that is drawn whole goes all around it."""
+    points = [point for path, _ in paths for point in path]
+    for extent, side in (([x for x, _ in points], width), ([y for _, y in points], height)):
+        assert min(extent) < 0.02 * side and max(extent) > 0.98 * side, f"the edge goes from {min(extent)} to {max(extent)}"
+
+
 def check_map(group):
     clip = group.find(f"{SVG}clipPath/{SVG}rect")
     width, height = int(clip.get("width")), int(clip.get("height"))
@@ -56,6 +63,8 @@ def check_map(group):
     for layer in layers:
         for points, closed in layer:
             check_path(points, closed, width, height)
+    if group.find(f"{SVG}rect") is None:
+        check_edge(layers[-1], width, height)
     return filled(layers[1]) / filled(layers[0])
 
 
