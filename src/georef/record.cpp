@@ -5,7 +5,7 @@
 #include "host/fpenv.h"
 
 #include <cstdlib>
-#include <new>
+#include <exception>
 
 namespace ZrProj {
 namespace {
@@ -91,7 +91,7 @@ bool RefControlsToCoeff(GEOREF* georef) {
     try {
         if (!withDefaultFloatingPoint([&] { return fitCoefficients(*georef); }))
             return false;
-    } catch (std::bad_alloc const&) {
+    } catch (std::exception const&) { // no memory, or no array so long
         return false;
     }
     georef->Method = TransformMethodPrecalculatedAffineCoefficients;

@@ -6,7 +6,7 @@
 
 #include <atomic>
 #include <memory>
-#include <new>
+#include <exception>
 #include <utility>
 
 namespace ZrProj {
@@ -52,7 +52,7 @@ bool CImageRegistration::Calibrate(WarpingMethod method, GEOREFPOINT const* sour
         auto fitted = std::make_unique<Fitted>();
         fitted->map = std::move(*map);
         m_fitted = fitted.release();
-    } catch (std::bad_alloc const&) {
+    } catch (std::exception const&) { // no memory, or no array so long
         return false;
     }
     return true;

@@ -12,7 +12,7 @@
 #include <cfloat>
 #include <cmath>
 #include <memory>
-#include <new>
+#include <exception>
 
 namespace ZrProj {
 namespace {
@@ -120,7 +120,7 @@ void* RefCreateSystem(GEOREF const* georef) {
     try {
         auto block = withDefaultFloatingPoint([&] { return fittedBlock(*georef); });
         return block ? &block.release()->record : nullptr;
-    } catch (std::bad_alloc const&) {
+    } catch (std::exception const&) { // no memory, or no array so long
         inconsistent();
         return nullptr;
     }
@@ -155,7 +155,7 @@ bool RefComputeError(void* system, double* meanError, double* pointErrors) {
             computeError(block, meanError, pointErrors);
             return true;
         });
-    } catch (std::bad_alloc const&) {
+    } catch (std::exception const&) { // no memory, or no array so long
         return inconsistent();
     }
     return true;

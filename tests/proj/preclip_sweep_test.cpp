@@ -346,8 +346,9 @@ private:
                 points_.add(point, " of ", textOf(shape.points));
         auto const again = subject_.preclip(shape.kind, chain);
         // One ring of several may not say alone what it holds.
-        bool const isAlone = shape.kind == line || count == 1;
-        if ((again.size() != 1 && isAlone) || again.empty() || !isSame(again[0], chain))
+        bool const isAlone = (shape.kind == line || count == 1) && !runsAlongTheEdge(shape.points);
+        if ((again.size() != 1 && isAlone) || (again.empty() && isAlone) ||
+            (!again.empty() && !isSame(again[0], chain)))
             twice_.add(again.size(), " of ", textOf(shape.points), " first ", textOf(chain), " then ",
                        again.empty() ? "nothing" : textOf(again[0]));
         if (!thoroughly)
@@ -362,14 +363,17 @@ private:
     bool runsAlongTheEdge(Points const& points) {
         auto const type = subject_.record().Type;
         auto const onMeridian = [&](PROJPOINT const& a, PROJPOINT const& b) {
-            return a.x == b.x && std::remainder(a.x - subject_.record().Lon0, 90) == 0;
+            return a.x == b.x && std::fabs(std::remainder(a.x - subject_.record().Lon0, 45)) < 1e-9;
         };
         if (!others_.empty() && std::ranges::adjacent_find(points, onMeridian) != points.end())
             return true;
         if (type != ProjTypeGnomonic && type != ProjTypeOrthographic && type != ProjTypeAzimuthalEquidistant)
             return false;
-        return std::ranges::any_of(
-            points, [&](PROJPOINT const& p) { return std::fabs(centre_.y) == 90 ? p.y == 0 : p.y == -centre_.y; });
+        return std::ranges::any_of(points, [&](PROJPOINT const& p) {
+            if (centre_.y == 0 && std::fabs(p.y) == 90) // poles on the horizon
+                return true;
+            return std::fabs(centre_.y) == 90 ? p.y == 0 : p.y == -centre_.y;
+        });
     }
 
     void compareSizes(Shape const& shape, Chains const& chains) {
