@@ -70,5 +70,7 @@ check 'no such file' 1 '' 'zrproj: cannot open *: No such file or directory' map
 check 'no land' 1 '' 'zrproj: <stdin>:2: "a,b" is not*' map --projection robinson --land - <<<$'1,2\na,b'
 check 'no ring' 1 '' 'zrproj: <stdin>:3: a ring of fewer*' map --projection robinson --land - <<<$'1,2\n3,4\n'
 check 'a bad point' 1 '' 'zrproj: <stdin>:2: *' map --projection robinson --points - <<<$'lon,lat\n1,100'
+"$zrproj" map --projection robinson --output /dev/stdout | cmp -s - <("$zrproj" map --projection robinson) && [[ -c /dev/null ]] &&
+    "$zrproj" map --projection robinson --output /dev/null && [[ -c /dev/null ]] || fail 'a device' ''
 check 'nowhere to write' 1 '' 'zrproj: cannot write *' map --projection robinson --output "$work/none/map.svg"
 exit $failed
