@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <new>
@@ -36,17 +37,18 @@ std::vector<Places> cut(CProjector& projector, Cut method, std::span<PROJPOINT c
     return result;
 }
 
-/// The ring around the plane of longitude and latitude, with a point at each degree.
-Places wholeGlobe() {
+/// The ring around half of the plane of longitude and latitude, with a point at each degree.
+Places halfGlobe(int west) {
+    int const east = west + 180;
     Places ring;
-    for (int x = -180; x < 180; ++x)
+    for (int x = west; x < east; ++x)
         ring.push_back({static_cast<double>(x), -90});
     for (int y = -90; y < 90; ++y)
-        ring.push_back({180, static_cast<double>(y)});
-    for (int x = 180; x > -180; --x)
+        ring.push_back({static_cast<double>(east), static_cast<double>(y)});
+    for (int x = east; x > west; --x)
         ring.push_back({static_cast<double>(x), 90});
     for (int y = 90; y > -90; --y)
-        ring.push_back({-180, static_cast<double>(y)});
+        ring.push_back({static_cast<double>(west), static_cast<double>(y)});
     return ring;
 }
 
@@ -96,9 +98,9 @@ std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
 }
 
 std::vector<Places> MapProjection::outline() {
-    static Places const globe = wholeGlobe();
-    std::vector<Places> rings = cutArea(globe);
-    std::erase_if(rings, isFlat); // what is left of the globe's own edge where the map ends beside it
+    std::vector<Places> rings = cutArea(halfGlobe(-180));
+    std::ranges::move(cutArea(halfGlobe(0)), std::back_inserter(rings));
+    std::erase_if(rings, isFlat); // what is left of a half's own edge where the map ends beside it
     return rings;
 }
 

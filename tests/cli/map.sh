@@ -45,6 +45,12 @@ for lon0 in 100 179 180 -90; do
     done
 done
 looks_right 'cut land' "${maps[@]}"
+maps=()
+for lon0 in 0 -150 90 180; do
+    draw "miller$lon0" --projection miller --lon0=$lon0 --size 400
+    maps+=("$work/miller$lon0.svg")
+done
+looks_right 'edges of cylindrical maps' cylindrical "${maps[@]}"
 
 draw cities --projection robinson --points "$cities" --title 'Cities <&"> of the world' --graticule 0
 draw few --utm 17N --points - --bounds=-85,40,-74,47 --land none <<<$'lon;lat;label\n-79.38;43.65;A & B\n10;10;far'
