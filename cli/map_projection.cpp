@@ -38,24 +38,18 @@ std::vector<Places> cut(CProjector& projector, Cut method, std::span<PROJPOINT c
 }
 
 /// The ring around half of the plane of longitude and latitude, with a point at each degree.
-Places halfGlobe(int west) {
-    int const east = west + 180;
+Places halfGlobe(double west) {
+    double const east = west + 180;
     Places ring;
-    for (int x = west; x < east; ++x)
-        ring.push_back({static_cast<double>(x), -90});
-    for (int y = -90; y < 90; ++y)
-        ring.push_back({static_cast<double>(east), static_cast<double>(y)});
-    for (int x = east; x > west; --x)
-        ring.push_back({static_cast<double>(x), 90});
-    for (int y = 90; y > -90; --y)
-        ring.push_back({static_cast<double>(west), static_cast<double>(y)});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({west + i, -90});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({east, -90.0 + i});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({east - i, 90});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({west, 90.0 - i});
     return ring;
-}
-
-/// Whether a ring runs up and down one meridian.
-bool isFlat(Places const& ring) {
-    auto const [west, east] = std::ranges::minmax(ring, {}, &PROJPOINT::x);
-    return east.x - west.x < 1e-6;
 }
 
 } // namespace
@@ -98,9 +92,9 @@ std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
 }
 
 std::vector<Places> MapProjection::outline() {
-    std::vector<Places> rings = cutArea(halfGlobe(-180));
-    std::ranges::move(cutArea(halfGlobe(0)), std::back_inserter(rings));
-    std::erase_if(rings, isFlat); // what is left of a half's own edge where the map ends beside it
+    constexpr double west = -123.4567; // where no map is likely to end
+    std::vector<Places> rings = cutArea(halfGlobe(west));
+    std::ranges::move(cutArea(halfGlobe(west + 180)), std::back_inserter(rings));
     return rings;
 }
 
