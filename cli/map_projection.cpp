@@ -92,9 +92,12 @@ std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
 }
 
 std::vector<Places> MapProjection::outline() {
-    constexpr double west = -123.4567; // where no map is likely to end
-    std::vector<Places> rings = cutArea(halfGlobe(west));
-    std::ranges::move(cutArea(halfGlobe(west + 180)), std::back_inserter(rings));
+    PROJDATA zone = m_record;
+    if (zone.Type == ProjTypeStatePlane1927 || zone.Type == ProjTypeStatePlane1983)
+        ProjGetStateZoneParams(&zone);
+    double const seam = std::remainder(zone.Lon0 + 70.1234, 360); // far from meridians where maps end
+    std::vector<Places> rings = cutArea(halfGlobe(seam - 180));
+    std::ranges::move(cutArea(halfGlobe(seam)), std::back_inserter(rings));
     return rings;
 }
 
