@@ -13,6 +13,7 @@
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
+#include <stdexcept>
 
 namespace ZrProj::Command {
 namespace {
@@ -73,8 +74,12 @@ public:
 
 private:
     int plot(GeorefMethod const& method, std::vector<ControlPoint> const& controls, Analysis const& analysis) const {
-        int const error = writeWholeFile(m_plot, georefPlot(method, controls, analysis));
-        return error ? complain("cannot write " + m_plot + ": " + systemMessage(error)) : 0;
+        try {
+            writeWholeFile(m_plot, georefPlot(method, controls, analysis));
+        } catch (std::runtime_error const& error) { // the report is good nevertheless
+            return complain(error.what());
+        }
+        return 0;
     }
 
     ControlOptions m_controls;

@@ -13,9 +13,6 @@
 
 #include <CLI/CLI.hpp>
 
-#include <cstdio>
-#include <stdexcept>
-
 namespace ZrProj::Command {
 namespace {
 
@@ -131,8 +128,7 @@ int Map::run(Output& output) {
         output << text;
         return 0;
     }
-    if (int const error = writeWholeFile(m_output, text))
-        throw std::runtime_error("cannot write " + m_output + ": " + systemMessage(error));
+    writeWholeFile(m_output, text);
     return 0;
 }
 

@@ -6,6 +6,7 @@
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
+#include <iterator>
 #include <limits>
 #include <memory>
 #include <new>
@@ -36,24 +37,19 @@ std::vector<Places> cut(CProjector& projector, Cut method, std::span<PROJPOINT c
     return result;
 }
 
-/// The ring around the plane of longitude and latitude, with a point at each degree.
-Places wholeGlobe() {
+/// The ring around half of the plane of longitude and latitude, with a point at each degree.
+Places halfGlobe(double west) {
+    double const east = west + 180;
     Places ring;
-    for (int x = -180; x < 180; ++x)
-        ring.push_back({static_cast<double>(x), -90});
-    for (int y = -90; y < 90; ++y)
-        ring.push_back({180, static_cast<double>(y)});
-    for (int x = 180; x > -180; --x)
-        ring.push_back({static_cast<double>(x), 90});
-    for (int y = 90; y > -90; --y)
-        ring.push_back({-180, static_cast<double>(y)});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({west + i, -90});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({east, -90.0 + i});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({east - i, 90});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({west, 90.0 - i});
     return ring;
-}
-
-/// Whether a ring runs up and down one meridian.
-bool isFlat(Places const& ring) {
-    auto const [west, east] = std::ranges::minmax(ring, {}, &PROJPOINT::x);
-    return east.x - west.x < 1e-6;
 }
 
 } // namespace
@@ -96,9 +92,12 @@ std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
 }
 
 std::vector<Places> MapProjection::outline() {
-    static Places const globe = wholeGlobe();
-    std::vector<Places> rings = cutArea(globe);
-    std::erase_if(rings, isFlat); // what is left of the globe's own edge where the map ends beside it
+    PROJDATA zone = m_record;
+    if (zone.Type == ProjTypeStatePlane1927 || zone.Type == ProjTypeStatePlane1983)
+        ProjGetStateZoneParams(&zone);
+    double const seam = std::remainder(zone.Lon0 + 70.1234, 360); // far from meridians where maps end
+    std::vector<Places> rings = cutArea(halfGlobe(seam - 180));
+    std::ranges::move(cutArea(halfGlobe(seam)), std::back_inserter(rings));
     return rings;
 }
 

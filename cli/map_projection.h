@@ -36,8 +36,8 @@ public:
     std::vector<Places> cutLine(std::span<PROJPOINT const> line);
     std::vector<Places> cutArea(std::span<PROJPOINT const> ring);
 
-    /// The rings around all that the map shows, with points a degree apart at most. They are cut from the plane of
-    /// longitude and latitude, and so have a seam at the antimeridian where the map goes on there.
+    /// The rings around all that the map shows, with points a degree apart at most. They are cut from the two halves of
+    /// the plane of longitude and latitude, and run in opposite directions along the seams of these.
     std::vector<Places> outline();
 
 private:

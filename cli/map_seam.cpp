@@ -3,9 +3,12 @@
 #include "cli/map_curve.h"
 
 #include <algorithm>
+#include <cmath>
 
 namespace ZrProj::Command {
 namespace {
+
+constexpr double opposite = -0.9; // the cosine of the angle between two directions
 
 struct Step {
     MapPoint from, to;
@@ -14,9 +17,10 @@ struct Step {
 /// Whether a step passes the middle of another one, the other way round.
 bool runsBack(Step const& step, Step const& other, double width) {
     MapPoint const middle{(step.from.x + step.to.x) / 2, (step.from.y + step.to.y) / 2};
-    double const along = (step.to.x - step.from.x) * (other.to.x - other.from.x) +
-                         (step.to.y - step.from.y) * (other.to.y - other.from.y);
-    return along < 0 && distanceFrom(other.from, other.to, middle) <= width;
+    MapPoint const a{step.to.x - step.from.x, step.to.y - step.from.y};
+    MapPoint const b{other.to.x - other.from.x, other.to.y - other.from.y};
+    return a.x * b.x + a.y * b.y < opposite * std::hypot(a.x, a.y) * std::hypot(b.x, b.y) &&
+           distanceFrom(other.from, other.to, middle) <= width;
 }
 
 } // namespace

@@ -6,7 +6,7 @@
 namespace ZrProj::Command {
 
 /// The parts of an outline's lines that do not run back along another part of it within `width`: there the map goes on,
-/// over the antimeridian of the plane that it was cut from, or over a strip that is too narrow to be seen.
+/// over a seam of the plane that it was cut from, or over a strip that is too narrow to be seen.
 std::vector<std::vector<MapPoint>> withoutSeams(std::vector<std::vector<MapPoint>> const& lines, double width);
 
 } // namespace ZrProj::Command

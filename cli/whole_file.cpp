@@ -1,48 +1,49 @@
 #include "cli/whole_file.h"
 
 #include "cli/output.h"
+#include "cli/replacement_file.h"
+#include "cli/text.h"
 
 #include <cerrno>
-#include <cstdio>
-#include <cstdlib>
+#include <filesystem>
+#include <stdexcept>
 
-#include <sys/stat.h>
+#include <fcntl.h>
 #include <unistd.h>
 
 namespace ZrProj::Command {
 namespace {
 
-/// What the process would give a file that it makes anew.
-mode_t usualMode() {
-    mode_t const mask = umask(0);
-    umask(mask);
-    return 0666 & ~mask;
-}
-
-int writeAndClose(int file, std::string_view text) {
+/// Returns an errno, 0 when all went well.
+int writeInto(std::string const& name, std::string_view text) {
+    int const file = open(name.c_str(), O_WRONLY | O_CLOEXEC);
+    if (file < 0)
+        return errno;
     Output output(file);
     output << text;
-    int error = output.flush() ? 0 : output.error();
-    if (!error && fchmod(file, usualMode()) != 0)
-        error = errno;
-    if (close(file) != 0 && !error)
-        error = errno;
-    return error;
+    int const error = output.flush() ? 0 : output.error();
+    return close(file) != 0 && !error ? errno : error;
+}
+
+void check(int error, std::string const& name) {
+    if (error)
+        throw std::runtime_error("cannot write " + inQuotes(name) + ": " + systemMessage(error));
+}
+
+bool isReplaceable(std::string const& name) {
+    std::error_code error;
+    auto const status = std::filesystem::status(name, error);
+    return !std::filesystem::exists(status) || std::filesystem::is_regular_file(status);
 }
 
 } // namespace
 
-int writeWholeFile(std::string const& name, std::string_view text) {
-    std::string temporary = name + ".XXXXXX";
-    int const file = mkstemp(temporary.data());
-    if (file < 0)
-        return errno;
-    int error = writeAndClose(file, text);
-    if (!error && std::rename(temporary.c_str(), name.c_str()) != 0)
-        error = errno;
-    if (error)
-        unlink(temporary.c_str());
-    return error;
+void writeWholeFile(std::string const& name, std::string_view text) {
+    if (!isReplaceable(name))
+        return check(writeInto(name, text), name);
+    ReplacementFile file(name);
+    check(writeInto(file.name(), text), name);
+    file.commit();
 }
 
 } // namespace ZrProj::Command

@@ -6,8 +6,8 @@
 
 namespace ZrProj::Command {
 
-/// Writes a temporary file beside it and renames that. Returns an errno, 0 when all went well; what was there before
-/// stays after a failure.
-int writeWholeFile(std::string const& name, std::string_view text);
+/// Puts a file with the text in the place of what was there before, which stays after a failure. What is no plain file,
+/// such as a device or a pipe, is written to. Throws std::runtime_error.
+void writeWholeFile(std::string const& name, std::string_view text);
 
 } // namespace ZrProj::Command

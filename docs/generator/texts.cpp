@@ -120,7 +120,8 @@ char const* const introduction =
     R"(# The projection types
 
 Every type that computes a map, by family; the two State Plane types are made of these, [zones.md](zones.md), and type
-0 leaves points as they are. Records, handles and marking are explained in [projections.md](projections.md).
+0 leaves points as they are. Records, handles and marking are explained in [projections.md](projections.md);
+the [gallery](gallery.md) shows a map of each.
 
 Accuracy is what the tests hold at every processor level. A length is how far a map may be off on an ellipsoid as large
 as the Earth, at scale 1: beside evaluations to 40 digits that are stored, with worked examples from the literature, in

@@ -22,6 +22,7 @@
 #pragma once
 
 #include "formulas/map_edges.h"
+#include "proj/preclip_path.h"
 
 #include <zrproj/projection.h>
 
@@ -71,6 +72,9 @@ public:
     };
 
     explicit WindowArea(formulas::Window const& window);
+
+    /// Moves the points on the meridian where the window meets itself to the side that the path comes from.
+    void settle(Path& path) const;
 
     Spot at(PROJPOINT const& point) const;
     static bool holds(Spot const& spot) { return spot.inside; }

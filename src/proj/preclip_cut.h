@@ -64,7 +64,9 @@ template <class Area> Pieces piecesOf(Area const& area, Path const& path, Unroll
                 pieces.list.emplace_back().from = crossing.t;
             else
                 pieces.list.back().to = crossing.t;
-            pieces.list.back().points.push_back(crossing.point);
+            auto& points = pieces.list.back().points;
+            if (points.empty() || points.back().x != crossing.point.x || points.back().y != crossing.point.y)
+                points.push_back(crossing.point);
             inside = crossing.enters;
         }
         if (inside && i < given.size())
@@ -252,6 +254,8 @@ template <class Area> Path outline(Area const& area, bool holdsItsLeft) {
 
 /// What the area shows of a path.
 template <class Area> void cut(Area const& area, Path path, std::vector<Path>& out) {
+    if constexpr (requires { area.settle(path); })
+        area.settle(path);
     Unrolled const unrolled(path);
     auto pieces = piecesOf(area, path, unrolled);
     if (pieces.isWhole) {

@@ -30,6 +30,28 @@ double WindowArea::clampLat(double lat) const {
     return std::clamp(lat, window_.south, window_.north);
 }
 
+void WindowArea::settle(Path& path) const {
+    if (!window_.wraps || window_.east - window_.west < 359)
+        return;
+    Unrolled const unrolled(path);
+    auto const offset = [&](std::size_t i) { return std::remainder(unrolled[i].x - middle_ - 180, 360); };
+    auto const isOnSeam = [&](std::size_t i) { return std::fabs(offset(i)) < formulas::lineInset / 2; };
+    std::size_t neighbour = 0;
+    while (neighbour < path.points.size() && isOnSeam(neighbour))
+        ++neighbour;
+    if (neighbour == path.points.size())
+        return; // all of it runs along the seam
+    for (std::size_t i = 0; i < path.points.size(); ++i) {
+        if (!isOnSeam(i)) {
+            neighbour = i;
+            continue;
+        }
+        double const side = unrolled[neighbour].x < unrolled[i].x ? -1 : 1;
+        path.points[i].x += side * formulas::lineInset - offset(i);
+        path.isAsGiven = false;
+    }
+}
+
 WindowArea::Spot WindowArea::at(PROJPOINT const& point) const {
     // Half open, so that a point on the seam is in the same copy however often the path has wound around.
     double const turn = 360 * std::floor((point.x - middle_) / 360 + 0.5), lon = point.x - turn;

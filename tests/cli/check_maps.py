@@ -1,5 +1,6 @@
 #!/usr/bin/env python3
-"""Looks at maps drawn by zrproj: check_maps.py FILE...; after land=SHARE, maps of which that part is land.
+"""Looks at maps drawn by zrproj: check_maps.py FILE...; after land=SHARE, maps of which that part is land;
+after cylindrical, maps of that family.
 
 A map is one <g> with a clip path. Everything in it lies on the paper or just beyond; no line or coast goes from one side
 of the map to another in one stroke; land is drawn, and so is the edge.
@@ -55,7 +56,14 @@ def check_edge(paths, width, height):
         assert min(extent) < 0.02 * side and max(extent) > 0.98 * side, f"the edge goes from {min(extent)} to {max(extent)}"
 
 
-def check_map(group):
+def check_rectangle(paths, width, height):
+    """The edge of a cylindrical map has no point within."""
+    for path, _ in paths:
+        for x, y in path:
+            assert min(x, y, width - x, height - y) < 30, f"the edge goes through {x} {y}"
+
+
+def check_map(group, rectangle):
     clip = group.find(f"{SVG}clipPath/{SVG}rect")
     width, height = int(clip.get("width")), int(clip.get("height"))
     layers = [list(subpaths(path.get("d"))) for path in group.find(f"{SVG}g[@clip-path]").findall(f"{SVG}path")]
@@ -63,22 +71,27 @@ def check_map(group):
     for layer in layers:
         for points, closed in layer:
             check_path(points, closed, width, height)
+    if rectangle:
+        check_rectangle(layers[-1], width, height)
     if group.find(f"{SVG}rect") is None:
         check_edge(layers[-1], width, height)
     return filled(layers[1]) / filled(layers[0])
 
 
 def main():
-    share = None
+    share = rectangle = None
     for argument in sys.argv[1:]:
         if argument.startswith("land="):
             share = float(argument[5:])
+            continue
+        if argument == "cylindrical":
+            rectangle = True
             continue
         maps = [group for group in xml.parse(argument).iter(f"{SVG}g") if group.find(f"{SVG}clipPath") is not None]
         assert maps, f"{argument}: no map"
         for number, group in enumerate(maps):
             try:
-                land = check_map(group)
+                land = check_map(group, rectangle)
                 assert share is None or abs(land - share) < 0.003, f"{land:.4f} of it is land, not {share}"
                 assert 0.05 < land < 0.7, f"{land:.4f} of it is land"
             except AssertionError as fault:

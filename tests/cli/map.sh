@@ -45,6 +45,12 @@ for lon0 in 100 179 180 -90; do
     done
 done
 looks_right 'cut land' "${maps[@]}"
+maps=()
+for lon0 in 0 -150 90 180; do
+    draw "miller$lon0" --projection miller --lon0=$lon0 --size 400
+    maps+=("$work/miller$lon0.svg")
+done
+looks_right 'edges of cylindrical maps' cylindrical "${maps[@]}"
 
 draw cities --projection robinson --points "$cities" --title 'Cities <&"> of the world' --graticule 0
 draw few --utm 17N --points - --bounds=-85,40,-74,47 --land none <<<$'lon;lat;label\n-79.38;43.65;A & B\n10;10;far'
@@ -70,5 +76,7 @@ check 'no such file' 1 '' 'zrproj: cannot open *: No such file or directory' map
 check 'no land' 1 '' 'zrproj: <stdin>:2: "a,b" is not*' map --projection robinson --land - <<<$'1,2\na,b'
 check 'no ring' 1 '' 'zrproj: <stdin>:3: a ring of fewer*' map --projection robinson --land - <<<$'1,2\n3,4\n'
 check 'a bad point' 1 '' 'zrproj: <stdin>:2: *' map --projection robinson --points - <<<$'lon,lat\n1,100'
+"$zrproj" map --projection robinson --output /dev/stdout | cmp -s - <("$zrproj" map --projection robinson) && [[ -c /dev/null ]] &&
+    "$zrproj" map --projection robinson --output /dev/null && [[ -c /dev/null ]] || fail 'a device' ''
 check 'nowhere to write' 1 '' 'zrproj: cannot write *' map --projection robinson --output "$work/none/map.svg"
 exit $failed

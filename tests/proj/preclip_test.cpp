@@ -153,6 +153,33 @@ TEST(Preclip, AnAreaThatHoldsTheWholeMapBecomesItsOutline) {
     EXPECT_EQ(hemisphere[0].points.size(), 360u);
 }
 
+// An area that ends at the meridian where the map does stays on its side, whichever way that longitude is written.
+TEST(Preclip, AnAreaMayEndAtTheEdge) {
+    for (double const edge : {180.0, -180.0}) {
+        auto const box = preclip("type=8 ellipsoid=48", area, {{170, 60}, {edge, 60}, {edge, 70}, {170, 70}});
+        ASSERT_EQ(box.size(), 1u);
+        ASSERT_EQ(box[0].points.size(), 4u);
+        for (auto const& point : box[0].points)
+            EXPECT_TRUE(point.x == 170 || (point.x > 179.9999 && point.x < 180)) << point.x;
+    }
+    Points half;
+    for (int lat = -80; lat <= 80; lat += 10)
+        half.push_back({180, double(lat)});
+    for (int lon = 170; lon >= 0; lon -= 10)
+        half.push_back({double(lon), 80});
+    for (int lat = 70; lat >= -80; lat -= 10)
+        half.push_back({0, double(lat)});
+    for (int lon = 10; lon <= 170; lon += 10)
+        half.push_back({double(lon), -80});
+    auto const chains = preclip("type=8 ellipsoid=48", area, half);
+    ASSERT_EQ(chains.size(), 1u);
+    EXPECT_EQ(chains[0].points.size(), half.size());
+    auto const parts = preclip("type=8 ellipsoid=48", Kind::line, {{170, 0}, {180, 5}, {-170, 0}});
+    ASSERT_EQ(parts.size(), 2u);
+    EXPECT_EQ(parts[0].points.size(), 2u);
+    EXPECT_EQ(parts[1].points.size(), 2u);
+}
+
 TEST(Preclip, PointsThatAreNoPlaces) {
     auto const broken =
         preclip(sinusoidal, line, {{0, 0}, {1, 1}, {none, 1}, {2, 2}, {DBL_MAX, DBL_MAX}, {3, 3}, {4, 4}});
