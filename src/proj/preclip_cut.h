@@ -20,12 +20,15 @@ struct Piece {
     double from = NAN, to = NAN;
 };
 
+inline bool isSamePlace(PROJPOINT const& a, PROJPOINT const& b) {
+    return std::fabs(std::remainder(a.x - b.x, 360.0)) < 2 * formulas::lineInset &&
+           std::fabs(a.y - b.y) < 2 * formulas::lineInset;
+}
+
 /// Whether a piece is all in one place, which happens where a path touches the boundary.
 inline bool isNothing(Piece const& piece) {
-    return std::ranges::all_of(piece.points, [&](PROJPOINT const& point) {
-        return std::fabs(std::remainder(point.x - piece.points.front().x, 360.0)) < 2 * formulas::lineInset &&
-               std::fabs(point.y - piece.points.front().y) < 2 * formulas::lineInset;
-    });
+    return std::ranges::all_of(piece.points,
+                               [&](PROJPOINT const& point) { return isSamePlace(point, piece.points.front()); });
 }
 
 /// A path in pieces, and what was seen of it on the way.
@@ -65,7 +68,7 @@ template <class Area> Pieces piecesOf(Area const& area, Path const& path, Unroll
             else
                 pieces.list.back().to = crossing.t;
             auto& points = pieces.list.back().points;
-            if (points.empty() || points.back().x != crossing.point.x || points.back().y != crossing.point.y)
+            if (points.empty() || !isSamePlace(points.back(), crossing.point))
                 points.push_back(crossing.point);
             inside = crossing.enters;
         }

@@ -46,8 +46,7 @@ void WindowArea::settle(Path& path) const {
             neighbour = i;
             continue;
         }
-        double const side = unrolled[neighbour].x < unrolled[i].x ? -1 : 1;
-        path.points[i].x += side * formulas::lineInset - offset(i);
+        path.points[i].x = unrolled[neighbour].x < unrolled[i].x ? window_.east : window_.west;
         path.isAsGiven = false;
     }
 }
