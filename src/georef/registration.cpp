@@ -5,8 +5,8 @@
 #include <zrproj/registration.h>
 
 #include <atomic>
-#include <memory>
 #include <exception>
+#include <memory>
 #include <utility>
 
 namespace ZrProj {

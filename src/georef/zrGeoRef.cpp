@@ -11,8 +11,8 @@
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
-#include <memory>
 #include <exception>
+#include <memory>
 
 namespace ZrProj {
 namespace {
