@@ -31,6 +31,12 @@ std::size_t sizeOf(std::uint8_t type) {
     return type == 12 ? 8 : type == 3 ? 2 : 1;
 }
 
+/// Projection, datum, georeference: control points that an affine map fits come back as its coefficients.
+std::array<bool, 3> told(std::uint32_t flags) {
+    return {(flags & RefFileFlagProjection) != 0, (flags & RefFileFlagDatum) != 0,
+            (flags & (RefFileFlagCoefficients | RefFileFlagControls)) != 0};
+}
+
 ZrBitmapTagList tagsOf(std::uint8_t const* data, std::size_t size) {
     ZrBitmapTagList tags;
     while (size >= 5) {
@@ -66,7 +72,7 @@ extern "C" int LLVMFuzzerTestOneInput(std::uint8_t const* data, std::size_t size
         for (int i = 0; i < count; ++i)
             require(list.Add(made[i]));
         require(back.read(list));
-        require((back.flags & ~std::uint32_t{RefFileFlagRead}) == (map.flags & ~std::uint32_t{RefFileFlagRead}));
+        require(told(back.flags) == told(map.flags));
     }
     ZrProjDiscardGeoTIFFTags(made, count);
     return 0;
