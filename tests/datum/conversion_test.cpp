@@ -1,5 +1,6 @@
 // The methods over arrays: against a high-precision evaluation, at every place of an array, at every level.
 #include "datum/conversion.h"
+#include "support/bytes.h"
 #include "support/datum.h"
 #include "support/levels.h"
 
@@ -60,7 +61,7 @@ std::vector<DATUMPOINT> pointsEverywhere(std::size_t count, unsigned seed = 1) {
 }
 
 bool sameBits(DATUMPOINT const* a, DATUMPOINT const* b, std::size_t count) {
-    return std::memcmp(a, b, count * sizeof *a) == 0;
+    return test::sameBytes(std::span<DATUMPOINT const>(a, count), std::span<DATUMPOINT const>(b, count));
 }
 
 constexpr int conversions[][2] = {{2, 3}, {5, 217}, {223, 147}, {229, 236}};

@@ -139,9 +139,9 @@ TEST(Nadcon, NeedsBothFilesAndClosesThem) {
 TEST(Nadcon, FailsOnlyForValuesThatAreNotThere) {
     GridFiles const files;
     writePair(files);
-    constexpr std::uintmax_t record = 4 * 31;
+    constexpr std::uintmax_t word = 4, record = 31 * word;
     std::filesystem::resize_file(files.path(".LOS"),
-                                 6 * record + std::uintmax_t{4 * 10}); // rows 1 to 5, and row 6 to column 9
+                                 6 * record + 10 * word); // rows 1 to 5, and row 6 to column 9
     expectShift(files, 20.5, 4.5, east(4.5, 20.5), north(4.5, 20.5));
     expectShift(files, 8.5, 5.5, east(5.5, 8.5), north(5.5, 8.5));
     expectRefused(files, at(9.5, 5.5));

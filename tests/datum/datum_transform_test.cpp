@@ -42,7 +42,7 @@ TEST(DatumTransform, CopiesDeeply) {
     EXPECT_TRUE(converts(copy));
     EXPECT_TRUE(source.HadUnplottables()); // a handle of its own: the source's flag stands
     CDatumTransform const none;
-    CDatumTransform copyOfNone(none);
+    CDatumTransform const copyOfNone(none);
     EXPECT_FALSE(copyOfNone.IsCreated());
 }
 

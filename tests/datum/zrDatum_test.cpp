@@ -1,3 +1,4 @@
+#include "support/bytes.h"
 #include "support/datum.h"
 #include "support/error_host.h"
 #include "support/floating_point.h"
@@ -256,7 +257,7 @@ TEST(DatumConversion, GivesTheRequestBackUnchanged) {
     EXPECT_TRUE(DatHadUnplottables(handle.handle));
     DATUMXFORM given;
     ASSERT_TRUE(DatGetHandleInfo(handle.handle, &given));
-    EXPECT_EQ(std::memcmp(&given, &request, sizeof given), 0);
+    EXPECT_TRUE(test::sameBytes(given, request));
 }
 
 TEST(DatumConversion, IsNotHitByTheHostsTraps) {

@@ -1,4 +1,5 @@
 // Tags that are damaged, placements of all kinds, and records that tags can and cannot say.
+#include "support/bytes.h"
 #include "support/geotiff_cases.h"
 #include "support/side_files.h"
 #include "support/temporary_directory.h"
@@ -297,7 +298,7 @@ TEST(GeoTIFF, DatumsSurviveTheWayToTagsAndBack) {
         ASSERT_EQ(back.flags, 19u) << i;
         DATUM2WGS84 found = {};
         DatGetDatumParams(back.datum, &found);
-        EXPECT_EQ(std::memcmp(&found, &params, sizeof params), 0) << i << " came back as " << back.datum;
+        EXPECT_TRUE(test::sameBytes(found, params)) << i << " came back as " << back.datum;
     }
     DATUM2WGS84 own = {};
     own.Method = DatumMethodMolodensky;
@@ -350,7 +351,7 @@ TEST(GeoTIFF, GeoreferencesComeBack) {
         EXPECT_EQ(made.tags.Find(33550) != nullptr, georef == &upright);
         Read const back(made.tags);
         EXPECT_EQ(back.flags, 20u);
-        EXPECT_EQ(std::memcmp(&back.georef, georef, sizeof *georef), 0);
+        EXPECT_TRUE(test::sameBytes(back.georef, *georef));
     }
     GEOREF helmert = {};
     ASSERT_TRUE(RefAllocControls(&helmert, 2));

@@ -1,3 +1,4 @@
+#include "support/bytes.h"
 #include "support/error_host.h"
 #include "support/floating_point.h"
 #include "support/georef_cases.h"
@@ -72,7 +73,7 @@ TEST(Georef, MarksWhatItCannotMap) {
         ASSERT_TRUE(transform.Forward(points, 6));
         for (int i = 1; i < 5; ++i)
             EXPECT_TRUE(points[i].x == DBL_MAX && points[i].y == DBL_MAX) << i;
-        EXPECT_EQ(std::memcmp(&points[0], &points[5], sizeof points[0]), 0);
+        EXPECT_TRUE(test::sameBytes(points[0], points[5]));
         EXPECT_LT(distance(points[0], {5e5, 5.4e6}), 1e5);
     }
 }
@@ -90,7 +91,7 @@ TEST(Georef, MapsAPointTheSameWhereverItStands) {
             for (std::size_t i = 0; i < many.size(); i += 7) {
                 GEOREFPOINT alone = many[i];
                 ASSERT_TRUE(transform.Forward(&alone, 1));
-                EXPECT_EQ(std::memcmp(&alone, &together[i], sizeof alone), 0) << i;
+                EXPECT_TRUE(test::sameBytes(alone, together[i])) << i;
             }
         });
     }
@@ -286,5 +287,5 @@ TEST(Georef, FitsOnSeveralThreads) {
     for (auto& thread : threads)
         thread.join();
     for (auto const& result : results)
-        EXPECT_EQ(std::memcmp(result.data(), alone.data(), alone.size() * sizeof alone[0]), 0);
+        EXPECT_TRUE(test::sameBytes<GEOREFPOINT>(result, alone));
 }
