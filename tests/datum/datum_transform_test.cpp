@@ -42,8 +42,7 @@ TEST(DatumTransform, CopiesDeeply) {
     EXPECT_TRUE(converts(copy));
     EXPECT_TRUE(source.HadUnplottables()); // a handle of its own: the source's flag stands
     CDatumTransform const none;
-    CDatumTransform const copyOfNone(none);
-    EXPECT_FALSE(copyOfNone.IsCreated());
+    EXPECT_FALSE(CDatumTransform(none).IsCreated());
 }
 
 // What the address sanitizer watches: no sharer frees what another still uses.
