@@ -74,7 +74,7 @@ public:
     explicit WindowArea(formulas::Window const& window);
 
     /// Moves the points on the meridian where the window meets itself to the side that the path comes from.
-    void settle(Path& path) const;
+    void settle(Path& path, Unrolled& unrolled) const;
 
     Spot at(PROJPOINT const& point) const;
     static bool holds(Spot const& spot) { return spot.inside; }

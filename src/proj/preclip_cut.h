@@ -257,9 +257,9 @@ template <class Area> Path outline(Area const& area, bool holdsItsLeft) {
 
 /// What the area shows of a path.
 template <class Area> void cut(Area const& area, Path path, std::vector<Path>& out) {
-    if constexpr (requires { area.settle(path); })
-        area.settle(path);
-    Unrolled const unrolled(path);
+    Unrolled unrolled(path);
+    if constexpr (requires { area.settle(path, unrolled); })
+        area.settle(path, unrolled);
     auto pieces = piecesOf(area, path, unrolled);
     if (pieces.isWhole) {
         bool const isBoundary = pieces.isBoundary;

@@ -28,10 +28,11 @@ std::vector<Path> ringsOf(std::span<PROJPOINT const> points) {
         if (isPlace(point))
             ring.points.push_back(point);
     ring.isAsGiven = ring.points.size() == points.size();
+    if (ring.points.size() > 1 && ring.points.front().x == ring.points.back().x &&
+        ring.points.front().y == ring.points.back().y)
+        ring.points.pop_back();
     if (ring.points.size() < 3)
         return {};
-    if (ring.points.front().x == ring.points.back().x && ring.points.front().y == ring.points.back().y)
-        ring.points.pop_back();
     return {std::move(ring)};
 }
 
@@ -45,7 +46,7 @@ double shortWay(double from, double to) {
 
 } // namespace
 
-Unrolled::Unrolled(Path const& path) {
+Unrolled::Unrolled(Path const& path) : isRing_(path.isRing) {
     auto const& given = path.points;
     points_.reserve(given.size() + 1);
     points_.push_back(given.front());

@@ -32,6 +32,13 @@ public:
     std::size_t size() const { return points_.size(); }
     PROJPOINT const& operator[](std::size_t i) const { return points_[i]; }
 
+    /// Moves a point of the path eastwards by a hair.
+    void move(std::size_t i, double east) {
+        points_[i].x += east;
+        if (i == 0 && isRing_)
+            points_.back().x += east;
+    }
+
     /// Whether a ring holds a place: an odd number of edges lies to the north of it, or an even number where the ring
     /// holds the north pole. A ring that winds around the globe an odd number of times holds the pole to which its mean
     /// latitude is nearer, and the one to its left where that is 0.
@@ -43,6 +50,7 @@ public:
 private:
     /// The edges, a ring's last one as well: it ends in the first point, turns of the globe further on.
     std::vector<PROJPOINT> points_;
+    bool isRing_;
     double turns_ = 0;      // how often a ring winds around the globe, to the east
     double underneath_ = 0; // the integral of latitude over longitude, square degrees
     bool holdsNorthPole() const;

@@ -30,10 +30,9 @@ double WindowArea::clampLat(double lat) const {
     return std::clamp(lat, window_.south, window_.north);
 }
 
-void WindowArea::settle(Path& path) const {
+void WindowArea::settle(Path& path, Unrolled& unrolled) const {
     if (!window_.wraps || window_.east - window_.west < 359)
         return;
-    Unrolled const unrolled(path);
     auto const offset = [&](std::size_t i) { return std::remainder(unrolled[i].x - middle_ - 180, 360); };
     auto const isOnSeam = [&](std::size_t i) { return std::fabs(offset(i)) < formulas::lineInset / 2; };
     std::size_t neighbour = 0;
@@ -46,7 +45,9 @@ void WindowArea::settle(Path& path) const {
             neighbour = i;
             continue;
         }
-        path.points[i].x = unrolled[neighbour].x < unrolled[i].x ? window_.east : window_.west;
+        bool const isEastern = unrolled[neighbour].x < unrolled[i].x;
+        unrolled.move(i, (isEastern ? -formulas::lineInset : formulas::lineInset) - offset(i));
+        path.points[i].x = isEastern ? window_.east : window_.west;
         path.isAsGiven = false;
     }
 }

@@ -174,6 +174,12 @@ TEST(Preclip, AnAreaMayEndAtTheEdge) {
     auto const chains = preclip("type=8 ellipsoid=48", area, half);
     ASSERT_EQ(chains.size(), 1u);
     EXPECT_EQ(chains[0].points.size(), half.size());
+    // An edge of half a turn goes the way that its longitudes say, beside the map's edge too.
+    auto const halfTurn = preclip("type=19 ellipsoid=48", Kind::line, {{-90, 10}, {180, 10}, {0, 10}});
+    ASSERT_EQ(halfTurn.size(), 2u);
+    EXPECT_EQ(halfTurn[0].points.size(), 2u);
+    EXPECT_EQ(halfTurn[1].points.size(), 2u);
+    EXPECT_TRUE(preclip("type=8 ellipsoid=48", area, {{180, 5}, {180, 6}, {180, 5}}).empty());
     auto const parts = preclip("type=8 ellipsoid=48", Kind::line, {{170, 0}, {180, 5}, {-170, 0}});
     ASSERT_EQ(parts.size(), 2u);
     EXPECT_EQ(parts[0].points.size(), 2u);
