@@ -67,12 +67,8 @@ void MapPaper::addOutline(SvgPath& path) {
 
 void MapPaper::addEdge(SvgPath& path) {
     std::vector<std::vector<MapPoint>> lines;
-    for (Places const& ring : m_map.outline()) {
-        std::vector<MapPoint> line = chords(ring, true);
-        if (!line.empty())
-            line.push_back(line.front());
-        std::ranges::move(clipLine(line, m_sheet), std::back_inserter(lines));
-    }
+    for (Places const& edge : m_map.edges())
+        std::ranges::move(clipLine(chords(edge, false), m_sheet), std::back_inserter(lines));
     for (auto const& line : withoutSeams(lines, seamWidth))
         path.addLine(line);
 }

@@ -10,6 +10,7 @@
 #include <limits>
 #include <memory>
 #include <new>
+#include <utility>
 
 namespace ZrProj::Command {
 namespace {
@@ -91,14 +92,37 @@ std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
     return ring.size() < 3 ? std::vector<Places>{} : cut(m_projector, &CProjector::LLPreclipPolygon, ring);
 }
 
-std::vector<Places> MapProjection::outline() {
+/// Where the two halves of the outline meet, and opposite to it: far from meridians where maps end.
+double MapProjection::seam() const {
     PROJDATA zone = m_record;
     if (zone.Type == ProjTypeStatePlane1927 || zone.Type == ProjTypeStatePlane1983)
         ProjGetStateZoneParams(&zone);
-    double const seam = std::remainder(zone.Lon0 + 70.1234, 360); // far from meridians where maps end
-    std::vector<Places> rings = cutArea(halfGlobe(seam - 180));
-    std::ranges::move(cutArea(halfGlobe(seam)), std::back_inserter(rings));
+    return std::remainder(zone.Lon0 + 70.1234, 360);
+}
+
+std::vector<Places> MapProjection::outline() {
+    std::vector<Places> rings = cutArea(halfGlobe(seam() - 180));
+    std::ranges::move(cutArea(halfGlobe(seam())), std::back_inserter(rings));
     return rings;
+}
+
+std::vector<Places> MapProjection::edges() {
+    auto const isOnSeam = [meridian = seam()](PROJPOINT const& place) {
+        return std::fabs(std::remainder(place.x - meridian, 180)) < 1e-6;
+    };
+    std::vector<Places> lines;
+    for (Places ring : outline()) {
+        ring.push_back(ring.front());
+        bool goesOn = false;
+        for (std::size_t i = 1; i < ring.size(); ++i) {
+            bool const wasOn = std::exchange(goesOn, !isOnSeam(ring[i - 1]) || !isOnSeam(ring[i]));
+            if (goesOn && !wasOn)
+                lines.push_back({ring[i - 1]});
+            if (goesOn)
+                lines.back().push_back(ring[i]);
+        }
+    }
+    return lines;
 }
 
 } // namespace ZrProj::Command

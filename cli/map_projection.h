@@ -39,8 +39,12 @@ public:
     /// The rings around all that the map shows, with points a degree apart at most. They are cut from the two halves of
     /// the plane of longitude and latitude, and run in opposite directions along the seams of these.
     std::vector<Places> outline();
+    /// The outline as lines, without these seams.
+    std::vector<Places> edges();
 
 private:
+    double seam() const;
+
     CProjector m_projector;
     PROJDATA m_record;
 };
