@@ -286,6 +286,7 @@ template <class Area> std::vector<Path> cut(Area const& area, std::vector<Path> 
     std::vector<Path> out;
     for (auto& path : paths)
         cut(area, std::move(path), out);
+    std::erase_if(out, [](Path const& path) { return path.points.size() < (path.isRing ? 3U : 2U); }); // slivers
     return out;
 }
 
