@@ -282,11 +282,19 @@ template <class Area> void cut(Area const& area, Path path, std::vector<Path>& o
     }
 }
 
+/// Whether a path is too short for a line or a ring, whose last point may be its first one again.
+inline bool isSliver(Path const& path) {
+    auto const& points = path.points;
+    bool const repeats =
+        path.isRing && points.size() > 1 && points.front().x == points.back().x && points.front().y == points.back().y;
+    return points.size() - (repeats ? 1 : 0) < (path.isRing ? 3U : 2U);
+}
+
 template <class Area> std::vector<Path> cut(Area const& area, std::vector<Path> paths) {
     std::vector<Path> out;
     for (auto& path : paths)
         cut(area, std::move(path), out);
-    std::erase_if(out, [](Path const& path) { return path.points.size() < (path.isRing ? 3U : 2U); }); // slivers
+    std::erase_if(out, isSliver);
     return out;
 }
 
