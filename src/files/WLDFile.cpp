@@ -66,15 +66,8 @@ bool writeGeoref(char const* image, GEOREF georef) {
 } // namespace
 
 bool ZrProjReadESRIWorld(char const* imageFileName, GEOREF* georef, std::uint32_t* flags) {
-    std::uint32_t found = 0;
-    bool good = false;
-    if (!imageFileName || !*imageFileName)
-        ReportError(sourceFile, __LINE__, errorBadParameter, nullptr);
-    else
-        good = guarded(sourceFile, [&] { return read(imageFileName, georef, found); });
-    if (flags)
-        *flags = found;
-    return good;
+    return readBeside(imageFileName, sourceFile, flags,
+                      [&](std::uint32_t& found) { return read(imageFileName, georef, found); });
 }
 
 bool ZrProjWriteESRIWorld(char const* imageFileName, GEOREF const* georef) {
