@@ -1,12 +1,8 @@
-// Files of points in, files of points out.
+// Files of points from one system of coordinates to another.
 #pragma once
 
-#include "cli/input_file.h"
 #include "cli/layout.h"
-#include "cli/progress.h"
-#include "cli/projection_options.h"
-#include "cli/report.h"
-#include "cli/rows.h"
+#include "cli/output.h"
 #include "cli/transform.h"
 
 #include <optional>
@@ -28,42 +24,8 @@ struct ConversionJob {
     LengthUnit const& unit(LengthUnit const* ofFile) const;
 };
 
-/// Runs one command line's files through, in blocks of lines, in memory that does not grow with the input.
-class Conversion {
-public:
-    /// Throws UsageError when the projection or the datums cannot convert.
-    Conversion(ConversionJob job, Output& output);
-
-    /// Returns the exit status. Throws UsageError for a header that cannot be used.
-    int run();
-
-private:
-    bool convertFile(std::string const& name);
-    bool convertLines(LineReader& reader);
-    void take(InputLine line);
-    void takeFirstLine(InputLine& line);
-    bool settleLayout(InputLine const& line);
-    void writeHeader(InputLine const& line);
-    void flushRows();
-    bool flushOutput();
-
-    ConversionJob m_job;
-    Output& m_output;
-    Transform m_transform;
-    unsigned long long m_bytesBefore = 0; // read from earlier files
-    Progress m_progress;
-    Report m_report;
-    RowWriter m_writer;
-
-    Layout m_layout;        // of the present file
-    bool m_settled = false; // whether that is sure
-    std::optional<RowReader> m_reader;
-    std::string m_fileTitle;
-    std::uint64_t m_lineNumber = 0;
-    std::string m_header; // written last
-
-    std::vector<Row> m_rows;
-    PointBlock m_block; // the rows' points
-};
+/// Runs one command line's files of points through. Returns the exit status. Throws UsageError when the projection or
+/// the datums cannot convert, and for a header that cannot be used.
+int convertPoints(ConversionJob const& job, Output& output);
 
 } // namespace ZrProj::Command

@@ -120,7 +120,7 @@ int Convert::run(Output& output) {
     }
     if (m_clip)
         throw UsageError("--clip: points are not cut; it is for GeoJSON");
-    return Conversion(std::move(job), output).run();
+    return convertPoints(job, output);
 }
 
 } // namespace

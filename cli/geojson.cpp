@@ -1,6 +1,7 @@
 #include "cli/geojson.h"
 
 #include "cli/coordinate.h"
+#include "cli/input_file.h"
 #include "cli/number_field.h"
 #include "cli/polygon_rings.h"
 #include "cli/text.h"

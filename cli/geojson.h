@@ -4,6 +4,8 @@
 #include "cli/conversion.h"
 #include "cli/geojson_clip.h"
 #include "cli/geojson_reader.h"
+#include "cli/progress.h"
+#include "cli/report.h"
 
 #include <optional>
 #include <string>

@@ -19,7 +19,6 @@ namespace {
 constexpr std::size_t mostControls = 1000000;
 constexpr std::size_t mostFaults = 20; // told one by one
 constexpr std::size_t coordinates = 4;
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 using Columns = std::array<int, coordinates + 1>; // from 0; the last one is the name's, -1 for none
 constexpr Columns inOrder{0, 1, 2, 3, 4};
@@ -47,7 +46,7 @@ public:
     ControlsReader(std::string title, std::vector<std::string> columns)
         : m_title(std::move(title)), m_wanted(std::move(columns)) {}
 
-    void take(InputLine const& line);
+    void take(InputLine line);
     std::vector<ControlPoint> finish();
 
 private:
@@ -159,18 +158,16 @@ void ControlsReader::read(std::vector<std::string> const& texts) {
     m_controls.push_back(std::move(control));
 }
 
-void ControlsReader::take(InputLine const& line) {
-    ++m_line;
-    std::string_view text = line.text;
-    if (m_line == 1 && text.starts_with(byteOrderMark))
-        text.remove_prefix(byteOrderMark.size());
-    text = trimmed(text);
+void ControlsReader::take(InputLine line) {
+    if (++m_line == 1 && line.text.starts_with(byteOrderMark))
+        line.text.remove_prefix(byteOrderMark.size());
     if (line.tooLong)
         return fault("line of more than 1 MiB");
-    if (text.empty() || text.front() == '#')
+    if (isVerbatim(line))
         return;
     if (m_controls.size() == mostControls)
         throw ControlsError(m_title + ": more than " + std::to_string(mostControls) + " control points");
+    std::string_view const text = trimmed(line.text);
     if (m_settled)
         read(fieldTexts(text, m_delimiter));
     else

@@ -1,5 +1,7 @@
 #include "cli/line_reader.h"
 
+#include "cli/text.h"
+
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
@@ -12,6 +14,11 @@ namespace {
 constexpr std::size_t pieceSize = std::size_t{1} << 17;
 
 } // namespace
+
+bool isVerbatim(InputLine const& line) {
+    std::string_view const text = trimmed(line.text);
+    return !line.tooLong && (text.empty() || text.front() == '#');
+}
 
 LineReader::LineReader(int file) : m_file(file), m_buffer(2 * pieceSize) {}
 

@@ -14,6 +14,12 @@ struct InputLine {
     bool tooLong = false;
 };
 
+/// What files of text may begin with.
+inline constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
+
+/// Whether a line is empty or a comment.
+bool isVerbatim(InputLine const& line);
+
 /// Reads a file piece by piece and hands out the lines that are complete, so that a line from a pipe is there as soon
 /// as it was written. Lines of more than 1 MiB are skipped and handed out as too long.
 class LineReader {

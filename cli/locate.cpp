@@ -39,7 +39,7 @@ public:
         ConversionJob job{choice(), {}, columns, degreeDecimals, false, m_files};
         if (job.files.empty())
             job.files.emplace_back("-");
-        return Conversion(std::move(job), output).run();
+        return convertPoints(job, output);
     }
 
 private:

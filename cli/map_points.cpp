@@ -13,7 +13,6 @@ namespace ZrProj::Command {
 namespace {
 
 constexpr std::array<std::string_view, 5> nameColumns{"name", "label", "title", "place", "city"};
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 class PointReader {
 public:
@@ -54,8 +53,7 @@ bool PointReader::settle(std::string_view line) {
 void PointReader::take(InputLine line) {
     if (++m_line == 1 && line.text.starts_with(byteOrderMark))
         line.text.remove_prefix(byteOrderMark.size());
-    std::string_view const text = trimmed(line.text);
-    if (!line.tooLong && (text.empty() || text.front() == '#'))
+    if (isVerbatim(line))
         return;
     if (!m_settled && settle(line.text))
         return;

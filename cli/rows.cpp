@@ -110,15 +110,6 @@ std::string headerWith(std::string_view line, Layout const& layout, std::vector<
     return result;
 }
 
-std::string RowWriter::header(std::string_view line, Layout const& layout, LengthUnit const& unit) const {
-    std::vector<std::string> added{"longitude", "latitude"};
-    if (m_direction == Direction::Forward)
-        added = {"easting_" + std::string(unit.suffix), "northing_" + std::string(unit.suffix)};
-    if (m_zones)
-        added.emplace_back("zone");
-    return headerWith(line, layout, added);
-}
-
 void RowWriter::number(double value, PointState state) {
     if (hasResult(state))
         m_output.number(value, m_decimals);

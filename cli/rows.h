@@ -57,11 +57,8 @@ std::string headerWith(std::string_view line, Layout const& layout, std::vector<
 class RowWriter {
 public:
     /// zones: whether the result has a zone beside the coordinates.
-    RowWriter(Output& output, Direction direction, int decimals, bool zones)
-        : m_output(output), m_direction(direction), m_decimals(decimals), m_zones(zones) {}
+    RowWriter(Output& output, int decimals, bool zones) : m_output(output), m_decimals(decimals), m_zones(zones) {}
 
-    /// The header with the names of the new columns; `unit` is that of projected coordinates.
-    std::string header(std::string_view line, Layout const& layout, LengthUnit const& unit) const;
     void write(Row const& row, Layout const& layout, BlockPoint const& result);
 
 private:
@@ -71,7 +68,6 @@ private:
     void zone(Layout const& layout, BlockPoint const& result);
 
     Output& m_output;
-    Direction m_direction;
     int m_decimals;
     bool m_zones;
 };

@@ -42,7 +42,8 @@ ZRPROJ_API bool ProjLLPreclipPolyline(void* handle, PROJPOINT const* points, uns
 /// which its mean latitude is nearer (the one to its left when that is 0), and ends there on maps that show the pole as
 /// a line. Of several rings that come back, one inside another is a hole in it. Rings keep the direction of the ring
 /// given, unless it crosses itself. An area that holds the whole map comes back as the map's outline, one outside as no
-/// chains.
+/// chains. A ring that comes back alone is the same when it is cut again; of several, each says only together with the
+/// others what the area holds.
 ZRPROJ_API bool ProjLLPreclipPolygon(void* handle, PROJPOINT const* points, unsigned count, CPROJCHAIN** chains);
 
 /// Frees a list of chains, every piece of it. Null is ignored.
