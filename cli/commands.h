@@ -1,7 +1,7 @@
 // The subcommands. Each adds its options to its part of the command line, and is run when it was the one given.
 #pragma once
 
-#include "cli/output.h"
+#include "cli/text/output.h"
 
 #include <memory>
 

@@ -1,12 +1,12 @@
 // zrproj forward, zrproj inverse and the conversion of zrproj datum: the options that they share.
 #include "cli/commands.h"
-#include "cli/conversion.h"
-#include "cli/datum_options.h"
-#include "cli/geojson.h"
-#include "cli/number_field.h"
-#include "cli/projection_options.h"
-#include "cli/text.h"
-#include "cli/units.h"
+#include "cli/datum/options.h"
+#include "cli/geojson/conversion.h"
+#include "cli/points/conversion.h"
+#include "cli/projection/options.h"
+#include "cli/projection/units.h"
+#include "cli/text/number_field.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>

@@ -1,10 +1,10 @@
 // zrproj convert: from one kind of side file to another, and to and from the tags of TIFF files.
 #include "cli/commands.h"
-#include "cli/datums.h"
-#include "cli/map_info.h"
-#include "cli/projection_options.h"
-#include "cli/text.h"
-#include "cli/tiff_format.h"
+#include "cli/datum/datums.h"
+#include "cli/files/map_info.h"
+#include "cli/files/tiff_format.h"
+#include "cli/projection/options.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>

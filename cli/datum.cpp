@@ -1,10 +1,10 @@
 // zrproj datum: conversion from one datum to another, and the user's own datums.
 #include "cli/commands.h"
-#include "cli/datum_definition.h"
-#include "cli/number_field.h"
-#include "cli/parameters.h"
-#include "cli/table.h"
-#include "cli/text.h"
+#include "cli/datum/definition.h"
+#include "cli/projection/parameters.h"
+#include "cli/text/number_field.h"
+#include "cli/text/table.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>

@@ -1,12 +1,12 @@
 // zrproj georef: fits maps to control points, tells how good they are, and converts points by them.
 #include "cli/commands.h"
-#include "cli/georef_apply.h"
-#include "cli/georef_plot.h"
-#include "cli/georef_report.h"
-#include "cli/number_field.h"
-#include "cli/text.h"
+#include "cli/files/whole_file.h"
+#include "cli/georef/apply.h"
+#include "cli/georef/plot.h"
+#include "cli/georef/report.h"
+#include "cli/text/number_field.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
-#include "cli/whole_file.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,8 +1,8 @@
 // zrproj grid: the grids that NADCON datums need.
 #include "cli/commands.h"
-#include "cli/grid_check.h"
-#include "cli/grid_import.h"
-#include "cli/text.h"
+#include "cli/datum/grid_check.h"
+#include "cli/datum/grid_import.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>

@@ -1,8 +1,8 @@
 // zrproj info: what a side file, or the side files and tags of an image, say.
 #include "cli/commands.h"
-#include "cli/control_miss.h"
-#include "cli/map_info.h"
-#include "cli/parameter_rows.h"
+#include "cli/files/control_miss.h"
+#include "cli/files/map_info.h"
+#include "cli/projection/parameter_rows.h"
 
 #include <CLI/CLI.hpp>
 

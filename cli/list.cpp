@@ -1,11 +1,11 @@
 // zrproj list: the catalogues.
 #include "cli/commands.h"
-#include "cli/datums.h"
-#include "cli/name_match.h"
-#include "cli/parameters.h"
-#include "cli/state_plane.h"
-#include "cli/table.h"
-#include "cli/text.h"
+#include "cli/datum/datums.h"
+#include "cli/projection/name_match.h"
+#include "cli/projection/parameters.h"
+#include "cli/projection/state_plane.h"
+#include "cli/text/table.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>

@@ -1,10 +1,10 @@
 // zrproj locate: from image coordinates to longitudes and latitudes.
 #include "cli/commands.h"
-#include "cli/control_miss.h"
-#include "cli/conversion.h"
-#include "cli/map_info.h"
-#include "cli/projection_options.h"
-#include "cli/text.h"
+#include "cli/files/control_miss.h"
+#include "cli/files/map_info.h"
+#include "cli/points/conversion.h"
+#include "cli/projection/options.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>

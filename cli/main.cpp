@@ -1,6 +1,6 @@
 // The command zrproj.
 #include "cli/commands.h"
-#include "cli/text.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>

@@ -1,15 +1,15 @@
 // zrproj map: draws maps.
 #include "cli/commands.h"
-#include "cli/fields.h"
-#include "cli/land.h"
-#include "cli/map_points.h"
-#include "cli/map_sheet.h"
-#include "cli/number_field.h"
-#include "cli/parameters.h"
-#include "cli/projection_options.h"
-#include "cli/text.h"
+#include "cli/files/whole_file.h"
+#include "cli/map/land.h"
+#include "cli/map/points.h"
+#include "cli/map/sheet.h"
+#include "cli/points/fields.h"
+#include "cli/projection/options.h"
+#include "cli/projection/parameters.h"
+#include "cli/text/number_field.h"
+#include "cli/text/text.h"
 #include "cli/usage_error.h"
-#include "cli/whole_file.h"
 
 #include <CLI/CLI.hpp>
 

@@ -1,8 +1,8 @@
 // zrproj show: the completed parameters of a projection.
 #include "cli/commands.h"
-#include "cli/parameter_rows.h"
-#include "cli/projection_options.h"
-#include "cli/state_plane.h"
+#include "cli/projection/options.h"
+#include "cli/projection/parameter_rows.h"
+#include "cli/projection/state_plane.h"
 #include "cli/usage_error.h"
 
 #include <CLI/CLI.hpp>

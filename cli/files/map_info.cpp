@@ -1,0 +1,97 @@
+#include "cli/files/map_info.h"
+
+#include "cli/files/side_files.h"
+#include "cli/files/tiff_format.h"
+#include "cli/text/text.h"
+
+#include <algorithm>
+#include <cstdio>
+#include <filesystem>
+#include <stdexcept>
+
+namespace ZrProj::Command {
+
+void complete(MapInfo& info, MapInfo&& later) {
+    if (info.projectionFile.empty()) {
+        info.projection = later.projection;
+        info.projectionFile = later.projectionFile;
+    }
+    if (info.datumFile.empty()) {
+        info.datum = later.datum;
+        info.datumParameters = later.datumParameters;
+        info.datumFile = later.datumFile;
+    }
+    if (info.georefFile.empty()) {
+        info.georef = std::move(later.georef);
+        info.georefFile = later.georefFile;
+    }
+    info.notes.insert(info.notes.end(), later.notes.begin(), later.notes.end());
+}
+
+namespace {
+
+/// Whether a reference file's georeference is the one number that the format keeps of six coefficients.
+bool isOneNumber(MapSource const& source, MapInfo const& info) {
+    return source.format == &sideFormats().front() && !info.georefFile.empty() &&
+           info.georef->Method == TransformMethodPrecalculatedAffineCoefficients;
+}
+
+/// One that cannot be read may; reading it tells why not.
+bool mayHaveTags(std::string const& image) {
+    try {
+        return readTiff(image).tags.Size() > 0;
+    } catch (std::runtime_error const&) {
+        return true;
+    }
+}
+
+MapInfo readIfGood(MapSource const& source) {
+    try {
+        return source.format->read(source.name);
+    } catch (std::runtime_error const& error) {
+        std::fprintf(stderr, "zrproj: %s; passed over\n", error.what());
+        return {};
+    }
+}
+
+} // namespace
+
+std::vector<MapSource> sourcesOf(std::string const& image) {
+    std::vector<MapSource> result = sideFilesOf(image);
+    if (isTiffFile(image) && mayHaveTags(image))
+        result.push_back({&tiffFormat(), image});
+    return result;
+}
+
+FileFormat const* formatOf(std::string const& file) {
+    if (isTiffFile(file))
+        return nullptr;
+    auto const formats = sideFormats();
+    auto const found = std::ranges::find_if(formats, [&](FileFormat const& format) { return format.isNamed(file); });
+    return found == formats.end() ? nullptr : &*found;
+}
+
+MapInfo readImage(std::string const& image) {
+    MapInfo info, oneNumber;
+    for (MapSource const& source : sourcesOf(image)) {
+        MapInfo told = readIfGood(source);
+        if (isOneNumber(source, told)) {
+            std::swap(oneNumber.georef, told.georef);
+            std::swap(oneNumber.georefFile, told.georefFile);
+        }
+        complete(info, std::move(told));
+    }
+    complete(info, std::move(oneNumber));
+    return info;
+}
+
+MapInfo readMap(std::string const& file) {
+    if (FileFormat const* const format = formatOf(file))
+        return format->read(file);
+    MapInfo info = readImage(file);
+    if (info.isEmpty() && info.notes.empty())
+        throw std::runtime_error("nothing is known of " + inQuotes(file) + ": no side file or tag says where it lies");
+    return info;
+}
+
+} // namespace ZrProj::Command

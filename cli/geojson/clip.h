@@ -1,0 +1,42 @@
+// Geometries cut to what a projection's map shows.
+#pragma once
+
+#include "cli/geojson/object.h"
+
+#include <zrproj/zrproj.h>
+
+#include <string>
+#include <vector>
+
+namespace ZrProj::Command {
+
+/// A line, or a ring whose last point joins the first, not repeated.
+struct Path {
+    std::vector<PROJPOINT> points;
+    Extras extras; // by point; empty where there are none
+};
+
+using Paths = std::vector<Path>;
+
+/// The lines of a LineString's or MultiLineString's coordinates.
+Paths linesOf(Coordinates const& coordinates);
+
+/// The polygons of a Polygon's or MultiPolygon's, each by its rings.
+std::vector<Paths> polygonsOf(Coordinates const& coordinates, int depth);
+
+/// What the map shows of a line. Extras stay where nothing is cut.
+Paths cutLine(CProjector& map, Path const& line);
+
+/// What the map shows of a polygon: the rings around it by the even-odd rule, in longitude and latitude. No two of them
+/// share a part of the map's edge. Extras stay on rings that are not cut.
+Paths cutPolygon(CProjector& map, Paths const& rings);
+
+/// The coordinates of a LineString, made of one line or none, and of a MultiLineString.
+Coordinates lineAsCoordinates(Paths const& lines);
+Coordinates linesAsCoordinates(Paths const& lines);
+
+/// The coordinates of a Polygon, made of one polygon or none, and of a MultiPolygon.
+Coordinates polygonAsCoordinates(std::vector<Paths> const& polygons);
+Coordinates polygonsAsCoordinates(std::vector<Paths> const& polygons);
+
+} // namespace ZrProj::Command

@@ -1,0 +1,45 @@
+#include "cli/georef/apply.h"
+
+#include "cli/points/row_stream.h"
+
+#include <cfloat>
+
+namespace ZrProj::Command {
+namespace {
+
+class Application : public PointWork {
+public:
+    explicit Application(CGeorefTransform& map) : m_map(map) {}
+
+    std::string header(std::string_view line, Layout const& layout) const override {
+        return headerWith(line, layout, {"target_x", "target_y"});
+    }
+
+    void convert(PointBlock& block, Layout const&) override {
+        m_mapped.clear();
+        for (PROJPOINT const& point : block.points)
+            m_mapped.push_back({point.x, point.y});
+        m_map.Forward(m_mapped.data(), static_cast<int>(m_mapped.size()));
+        for (std::size_t i = 0; i < m_mapped.size(); ++i) {
+            if (block.states[i] != PointState::Good)
+                continue;
+            block.points[i] = {m_mapped[i].x, m_mapped[i].y};
+            if (m_mapped[i].x == DBL_MAX)
+                block.states[i] = PointState::NoResult;
+        }
+    }
+
+private:
+    CGeorefTransform& m_map;
+    std::vector<GEOREFPOINT> m_mapped;
+};
+
+} // namespace
+
+int applyGeoref(CGeorefTransform& map, GeorefJob const& job, Output& output) {
+    Application application(map);
+    RowWriter const writer(output, job.decimals, false);
+    return RowStream(application, job.files, job.columns, writer, output).run(false);
+}
+
+} // namespace ZrProj::Command

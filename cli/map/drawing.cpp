@@ -1,0 +1,72 @@
+#include "cli/map/drawing.h"
+
+#include "cli/map/layers.h"
+#include "cli/text/xml_text.h"
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr double margin = 100, titleHeight = 260;
+
+std::string number(double value) {
+    return std::to_string(wholeUnits(value));
+}
+
+std::string rectangle(MapPaper const& paper, char const* attributes) {
+    return "<rect width=\"" + number(paper.width()) + "\" height=\"" + number(paper.height()) + "\" " + attributes +
+           "/>";
+}
+
+std::string layers(MapPaper& paper, MapContent const& content) {
+    std::string result = seaLayer(paper);
+    if (content.land)
+        result += landLayer(paper, *content.land);
+    if (content.graticule > 0)
+        result += graticuleLayer(paper, content.graticule);
+    if (content.ellipses > 0)
+        result += ellipseLayer(paper, content.ellipses);
+    result += outlineLayer(paper);
+    if (!content.points.empty())
+        result += pointLayer(paper, content.points);
+    return result;
+}
+
+/// The layers within the frame; the frame is drawn where it cuts something off. What lies on the very edge of a whole
+/// map keeps its stroke.
+std::string framed(MapPaper& paper, MapContent const& content, std::string const& id) {
+    std::string const clip = "frame" + id;
+    std::string result = "<clipPath id=\"" + clip + "\">" +
+                         rectangle(paper, paper.isWhole() ? "stroke=\"#000\" stroke-width=\"10\"" : "") +
+                         "</clipPath>\n<g clip-path=\"url(#" + clip + ")\" fill-rule=\"evenodd\">\n" +
+                         layers(paper, content) + "</g>\n";
+    if (!paper.isWhole())
+        result += rectangle(paper, "fill=\"none\" stroke=\"#34495e\" stroke-width=\"10\"") + '\n';
+    return result;
+}
+
+} // namespace
+
+MapPicture drawMap(PROJDATA const& record, MapContent const& content, double size, std::string const& id) {
+    MapProjection map(record);
+    MapFrame const frame = content.bounds ? frameAround(map, *content.bounds) : usualFrame(map);
+    MapPaper paper(map, frame, size);
+    double const top = content.title.empty() ? margin : titleHeight;
+    MapPicture picture{paper.width() + 2 * margin, paper.height() + top + margin, ""};
+    if (!content.title.empty())
+        picture.elements = "<text x=\"" + number(picture.width / 2) +
+                           "\" y=\"170\" text-anchor=\"middle\" font-size=\"150\" fill=\"#222\">" +
+                           xmlText(content.title) + "</text>\n";
+    picture.elements += "<g transform=\"translate(" + number(margin) + ' ' + number(top) + ")\">\n" +
+                        framed(paper, content, id) + "</g>\n";
+    return picture;
+}
+
+std::string svgFile(MapPicture const& picture) {
+    std::string const width = number(picture.width), height = number(picture.height);
+    return "<svg xmlns=\"http://www.w3.org/2000/svg\" width=\"" + number(picture.width / 10) + "\" height=\"" +
+           number(picture.height / 10) + "\" viewBox=\"0 0 " + width + ' ' + height +
+           "\" font-family=\"sans-serif\">\n<rect width=\"100%\" height=\"100%\" fill=\"#fff\"/>\n" + picture.elements +
+           "</svg>\n";
+}
+
+} // namespace ZrProj::Command

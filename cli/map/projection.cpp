@@ -1,0 +1,128 @@
+#include "cli/map/projection.h"
+
+#include "cli/projection/parameters.h"
+#include "cli/usage_error.h"
+
+#include <algorithm>
+#include <cfloat>
+#include <cmath>
+#include <iterator>
+#include <limits>
+#include <memory>
+#include <new>
+#include <utility>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr double nowhere = std::numeric_limits<double>::quiet_NaN();
+
+bool isShown(PROJPOINT const& point) {
+    return point.x != DBL_MAX && point.y != DBL_MAX && std::isfinite(point.x) && std::isfinite(point.y);
+}
+
+struct FreeChains {
+    void operator()(CPROJCHAIN* chains) const { ProjFreeChains(chains); }
+};
+
+using Cut = bool (CProjector::*)(PROJPOINT const*, unsigned, CPROJCHAIN**);
+
+std::vector<Places> cut(CProjector& projector, Cut method, std::span<PROJPOINT const> places) {
+    CPROJCHAIN* list = nullptr;
+    if (!(projector.*method)(places.data(), static_cast<unsigned>(places.size()), &list))
+        throw std::bad_alloc();
+    std::unique_ptr<CPROJCHAIN, FreeChains> const chains(list);
+    std::vector<Places> result;
+    for (CPROJCHAIN const* chain = list; chain; chain = chain->pNext)
+        result.emplace_back(chain->pPoints, chain->pPoints + chain->nPoints);
+    return result;
+}
+
+/// The ring around half of the plane of longitude and latitude, with a point at each degree.
+Places halfGlobe(double west) {
+    double const east = west + 180;
+    Places ring;
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({west + i, -90});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({east, -90.0 + i});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({east - i, 90});
+    for (int i = 0; i < 180; ++i)
+        ring.push_back({west, 90.0 - i});
+    return ring;
+}
+
+} // namespace
+
+MapProjection::MapProjection(PROJDATA record) : m_record(record) {
+    if (record.Type == ProjTypeUnprojectedLatLong)
+        throw UsageError(projectionName(record.Type) + " leaves points as they are; there is no map to draw");
+    m_projector.Create(&record);
+    m_projector.GetInfo(&m_record);
+    if (outline().empty())
+        throw UsageError("with these parameters " + projectionName(record.Type) + " has no map");
+}
+
+std::optional<PROJPOINT> MapProjection::shown(PROJPOINT place) {
+    auto const pieces = cutLine(Places{place, place});
+    return pieces.empty() ? std::nullopt : std::optional(pieces.front().front());
+}
+
+std::optional<MapPoint> MapProjection::at(PROJPOINT place) {
+    m_projector.Forward(&place, 1);
+    return isShown(place) ? std::optional(MapPoint{place.x, place.y}) : std::nullopt;
+}
+
+std::vector<MapPoint> MapProjection::at(std::span<PROJPOINT const> places) {
+    Places points(places.begin(), places.end());
+    m_projector.Forward(points.data(), static_cast<int>(points.size()));
+    std::vector<MapPoint> result;
+    result.reserve(points.size());
+    for (PROJPOINT const& point : points)
+        result.push_back(isShown(point) ? MapPoint{point.x, point.y} : MapPoint{nowhere, nowhere});
+    return result;
+}
+
+std::vector<Places> MapProjection::cutLine(std::span<PROJPOINT const> line) {
+    return line.size() < 2 ? std::vector<Places>{} : cut(m_projector, &CProjector::LLPreclipPolyline, line);
+}
+
+std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
+    return ring.size() < 3 ? std::vector<Places>{} : cut(m_projector, &CProjector::LLPreclipPolygon, ring);
+}
+
+/// Where the two halves of the outline meet, and opposite to it: far from meridians where maps end.
+double MapProjection::seam() const {
+    PROJDATA zone = m_record;
+    if (zone.Type == ProjTypeStatePlane1927 || zone.Type == ProjTypeStatePlane1983)
+        ProjGetStateZoneParams(&zone);
+    return std::remainder(zone.Lon0 + 70.1234, 360);
+}
+
+std::vector<Places> MapProjection::outline() {
+    std::vector<Places> rings = cutArea(halfGlobe(seam() - 180));
+    std::ranges::move(cutArea(halfGlobe(seam())), std::back_inserter(rings));
+    return rings;
+}
+
+std::vector<Places> MapProjection::edges() {
+    auto const isOnSeam = [meridian = seam()](PROJPOINT const& place) {
+        return std::fabs(std::remainder(place.x - meridian, 180)) < 1e-6;
+    };
+    std::vector<Places> lines;
+    for (Places ring : outline()) {
+        ring.push_back(ring.front());
+        bool goesOn = false;
+        for (std::size_t i = 1; i < ring.size(); ++i) {
+            bool const wasOn = std::exchange(goesOn, !isOnSeam(ring[i - 1]) || !isOnSeam(ring[i]));
+            if (goesOn && !wasOn)
+                lines.push_back({ring[i - 1]});
+            if (goesOn)
+                lines.back().push_back(ring[i]);
+        }
+    }
+    return lines;
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,42 @@
+#include "cli/map/sheet.h"
+
+#include "cli/map/views.h"
+#include "cli/projection/parameters.h"
+#include "cli/text/svg.h"
+
+#include <algorithm>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr std::size_t columns = 4;
+
+std::string placed(MapPicture const& picture, double x, double y) {
+    return "<g transform=\"translate(" + std::to_string(wholeUnits(x)) + ' ' + std::to_string(wholeUnits(y)) +
+           ")\">\n" + picture.elements + "</g>\n";
+}
+
+} // namespace
+
+MapPicture drawSheet(MapContent content, double size) {
+    content.bounds.reset();
+    MapPicture sheet{0, 0, ""};
+    double rowTop = 0, rowHeight = 0;
+    double const cell = 10 * size / columns;
+    for (std::size_t i = 0; i < mapViews().size(); ++i) {
+        MapView const& view = mapViews()[i];
+        if (i % columns == 0) {
+            rowTop += rowHeight;
+            rowHeight = 0;
+        }
+        content.title = projectionName(view.record.Type);
+        MapPicture const picture = drawMap(view.record, content, size / columns - 20, std::to_string(i));
+        sheet.elements += placed(picture, static_cast<double>(i % columns) * cell + (cell - picture.width) / 2, rowTop);
+        rowHeight = std::max(rowHeight, picture.height);
+    }
+    sheet.width = 10 * size;
+    sheet.height = rowTop + rowHeight;
+    return sheet;
+}
+
+} // namespace ZrProj::Command

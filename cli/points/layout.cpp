@@ -1,0 +1,183 @@
+#include "cli/points/layout.h"
+
+#include "cli/points/coordinate.h"
+#include "cli/text/text.h"
+#include "cli/usage_error.h"
+
+#include <algorithm>
+#include <charconv>
+
+namespace ZrProj::Command {
+namespace {
+
+bool isNumber(std::string_view text) {
+    return !text.empty() && text.size() < 7 && std::all_of(text.begin(), text.end(), isDigit);
+}
+
+int placeOf(std::string_view number) {
+    int place = 0;
+    std::from_chars(number.data(), number.data() + number.size(), place);
+    return place - 1;
+}
+
+/// Whether a field was meant as a coordinate, well written or not: it begins with a digit, a sign, a point, the mark of
+/// an unplottable point, or a hemisphere letter before one of these.
+bool looksNumeric(std::string_view text) {
+    constexpr std::string_view firsts = "0123456789+-.*\xE2"; // the last one begins a typographic minus
+    if (!text.empty() && std::string_view("NSEWnsew").find(text[0]) != std::string_view::npos)
+        text = trimmed(text.substr(1));
+    return !text.empty() && firsts.find(text[0]) != std::string_view::npos;
+}
+
+bool looksLikeName(std::string_view text) {
+    return !text.empty() && !looksNumeric(text);
+}
+
+bool byNumber(ColumnRequest const& request) {
+    return request.columns.empty() || isNumber(request.columns[0]);
+}
+
+/// The columns by their number, or the first ones.
+Columns numberedColumns(ColumnRequest const& request) {
+    Columns result;
+    if (!request.columns.empty())
+        result = {placeOf(request.columns[0]), placeOf(request.columns[1]), -1, nullptr};
+    if (request.zone)
+        result.zone = request.columns.empty() ? 2 : placeOf(request.columns[2]);
+    return result;
+}
+
+/// One line, split in one way.
+class Candidate {
+public:
+    Candidate(std::string_view line, char delimiter, ColumnRequest const& request);
+    Recognition recognise() const;
+
+private:
+    std::string_view at(int place) const;
+    bool reads(std::string_view text, bool isX) const;
+    Recognition header(Columns columns) const;
+    Recognition namedHeader() const;
+    Recognition numbered() const;
+    Recognition found() const;
+    Recognition unclear() const { return {false, {m_delimiter, false, 0, numberedColumns(m_request)}, ""}; }
+    static Recognition faulty(std::string fault) { return {true, {}, std::move(fault)}; }
+    std::string missingPair() const;
+
+    ColumnRequest const& m_request;
+    char m_delimiter;
+    std::vector<std::string> m_texts;
+};
+
+Candidate::Candidate(std::string_view line, char delimiter, ColumnRequest const& request)
+    : m_request(request), m_delimiter(delimiter), m_texts(fieldTexts(line, delimiter)) {}
+
+std::string_view Candidate::at(int place) const {
+    auto const index = static_cast<std::size_t>(place);
+    return index < m_texts.size() ? std::string_view(m_texts[index]) : std::string_view();
+}
+
+bool Candidate::reads(std::string_view text, bool isX) const {
+    return text == noCoordinate || !readCoordinate(text, isX, m_request.direction).error;
+}
+
+Recognition Candidate::recognise() const {
+    if (m_texts.empty())
+        return unclear();
+    return byNumber(m_request) ? numbered() : namedHeader();
+}
+
+/// The line as a header with these columns, if their units agree with each other and with --units.
+Recognition Candidate::header(Columns columns) const {
+    if (m_request.direction == Direction::Inverse) {
+        columns.unit = unitOfColumn(at(columns.x));
+        if (columns.unit != unitOfColumn(at(columns.y)))
+            return faulty("the columns of easting and northing have different units");
+        if (columns.unit && m_request.unit && columns.unit != m_request.unit)
+            return faulty("the columns are in " + std::string(columns.unit->words) + ", not in " +
+                          std::string(m_request.unit->words));
+    }
+    if (m_request.zone && columns.zone < 0)
+        return faulty("the header has no column \"zone\"; name the columns with --columns EASTING,NORTHING,ZONE");
+    return {true, {m_delimiter, true, m_texts.size(), columns}, ""};
+}
+
+Recognition Candidate::namedHeader() const {
+    std::vector<int> places;
+    for (std::string const& wanted : m_request.columns) {
+        auto const fits = [&](std::string const& text) { return squeezed(text) == squeezed(wanted); };
+        auto const place = std::find_if(m_texts.begin(), m_texts.end(), fits);
+        if (place == m_texts.end())
+            return {false, {}, "the header has no column " + inQuotes(wanted)};
+        if (std::find_if(place + 1, m_texts.end(), fits) != m_texts.end())
+            return faulty("the header has more than one column " + inQuotes(wanted) + "; give its number");
+        places.push_back(static_cast<int>(place - m_texts.begin()));
+    }
+    return header({places[0], places[1], places.size() > 2 ? places[2] : -1, nullptr});
+}
+
+Recognition Candidate::numbered() const {
+    Columns const columns = numberedColumns(m_request);
+    if (reads(at(columns.x), true) && reads(at(columns.y), false))
+        return {true, {m_delimiter, false, 0, columns}, ""};
+    if (m_request.columns.empty())
+        return found();
+    if (looksLikeName(at(columns.x)) && looksLikeName(at(columns.y)))
+        return header(columns);
+    return unclear();
+}
+
+/// The line as a header whose names tell the columns.
+Recognition Candidate::found() const {
+    if (auto const columns = findColumns(m_texts, m_request.direction, m_request.unit))
+        return header(*columns);
+    Recognition result = unclear();
+    if (m_texts.size() > 1 && std::all_of(m_texts.begin(), m_texts.end(), looksLikeName))
+        result.fault = missingPair();
+    return result;
+}
+
+std::string Candidate::missingPair() const {
+    std::string const unit = m_request.unit ? " in " + std::string(m_request.unit->words) : "";
+    return "the header has no columns " +
+           (readsAngles(m_request.direction) ? R"("longitude" and "latitude")" : R"("easting" and "northing")" + unit) +
+           "; name them with --columns";
+}
+
+} // namespace
+
+std::vector<std::string> parseColumns(std::string_view option, bool zone) {
+    std::vector<std::string> result;
+    for (std::size_t begin = 0; begin <= option.size();) {
+        std::size_t const end = std::min(option.find(',', begin), option.size());
+        result.emplace_back(trimmed(option.substr(begin, end - begin)));
+        begin = end + 1;
+    }
+    auto const numbers = std::count_if(result.begin(), result.end(), isNumber);
+    if (result.size() != (zone ? 3U : 2U))
+        throw UsageError(zone ? "--columns needs three columns here: easting, northing and zone"
+                              : "--columns needs two columns, x first: two numbers, or two names of the header");
+    if (numbers != 0 && numbers != static_cast<std::ptrdiff_t>(result.size()))
+        throw UsageError("--columns needs numbers, or names, not both");
+    std::vector<std::string> sorted = result;
+    std::sort(sorted.begin(), sorted.end());
+    bool const repeated = std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end();
+    if (repeated || sorted.front().empty() ||
+        (numbers && std::any_of(result.begin(), result.end(), [](auto& text) { return placeOf(text) < 0; })))
+        throw UsageError("--columns needs different columns, counted from 1");
+    return result;
+}
+
+Recognition recognise(std::string_view line, ColumnRequest const& request) {
+    Recognition first;
+    for (char delimiter : possibleDelimiters(line)) {
+        Recognition result = Candidate(line, delimiter, request).recognise();
+        if (result.clear)
+            return result;
+        if (delimiter == possibleDelimiters(line).front())
+            first = std::move(result);
+    }
+    return first;
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,241 @@
+#include "cli/projection/options.h"
+
+#include "cli/files/map_info.h"
+#include "cli/projection/parameters.h"
+#include "cli/projection/state_plane.h"
+#include "cli/projection/utm_zone.h"
+#include "cli/text/text.h"
+#include "cli/usage_error.h"
+
+#include <CLI/CLI.hpp>
+
+#include <algorithm>
+#include <array>
+#include <cmath>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr int projectionId = 1, centralLongitudeId = 6, southId = 14, zoneId = 15, ellipsoidId = 20, radiusId = 21,
+              flatteningId = 22;
+
+char const* placeholder(Quantity quantity) {
+    switch (quantity) {
+    case Quantity::Longitude:
+    case Quantity::Latitude:
+    case Quantity::Azimuth:
+        return "DEGREES";
+    case Quantity::Metres:
+        return "METRES";
+    case Quantity::Factor:
+    case Quantity::Flattening:
+        return "NUMBER";
+    default:
+        return "NAME";
+    }
+}
+
+std::string description(Parameter const& parameter) {
+    switch (parameter.id) {
+    case zoneId:
+        return "State Plane zone, by name, USGS code or POSC code, for the State Plane projections";
+    case ellipsoidId:
+        return "Ellipsoid, by name or number; that of --datum, else WGS 84, where not given";
+    default:
+        return parameter.name;
+    }
+}
+
+std::string usedOptions(ProjType type) {
+    std::string result;
+    for (int id : usedParameters(type))
+        result += (result.empty() ? "" : ", ") + parameter(id).option;
+    return result.empty() ? "none" : result;
+}
+
+bool isStatePlane(ProjType type) {
+    return type == ProjTypeStatePlane1927 || type == ProjTypeStatePlane1983;
+}
+
+/// A Scale that stands for a unit of length goes from the record to the coordinates.
+LengthUnit const* takeUnit(PROJDATA& record) {
+    for (LengthUnit const& unit : lengthUnits)
+        if (std::fabs(record.Scale * unit.metres - 1) < 1e-12) {
+            record.Scale = 1;
+            return &unit;
+        }
+    return nullptr;
+}
+
+/// Refuses what the library refuses, in its words.
+void check(PROJDATA const& record) {
+    std::array<char, 512> message{};
+    int const id = ProjCheckParams(&record, message.data(), false);
+    if (id == 0)
+        return;
+    std::string_view reason = message.data();
+    if (reason.empty() || reason.starts_with("Unable to load")) // a check without words of its own
+        reason = "not a value that this projection can be made from";
+    throw UsageError(parameter(id).option + ": " + std::string(reason));
+}
+
+} // namespace
+
+ProjectionOptions::ProjectionOptions() {
+    for (Parameter const& parameter : parameters())
+        m_values.push_back({parameter.id, nullptr, ""});
+}
+
+void ProjectionOptions::addTo(CLI::App& app) {
+    auto const add = [&](char const* name, std::string& text, char const* type, char const* description) {
+        return app.add_option(name, text, description)->type_name(type)->group("Projection");
+    };
+    m_utmOption = add("--utm", m_utm, "ZONE", "UTM zone, as in 17N; auto: each point in its own zone");
+    m_statePlaneOption =
+        add("--state-plane", m_statePlane, "ZONE", "US State Plane zone, by name, USGS code or POSC code");
+    m_yearOption = add("--year", m_year, "YEAR", "Definition of the State Plane zone: 1927 or 1983 (the default)");
+    m_likeOption = add("--like", m_like, "FILE", "The projection of a map: its reference file, or its image");
+    Value& projection = m_values.front();
+    projection.option = add("-p,--projection", projection.text, "NAME",
+                            "Any projection, by name (a unique part will do) or number, with its parameters");
+}
+
+void ProjectionOptions::addParametersTo(CLI::App& app) {
+    for (Value& value : m_values) {
+        if (value.id == projectionId)
+            continue;
+        Parameter const& parameter = Command::parameter(value.id);
+        bool const two = parameter.option != parameter.longOption;
+        std::string const names = two ? parameter.option + ',' + parameter.longOption : parameter.option;
+        if (parameter.quantity == Quantity::Flag)
+            value.option = app.add_flag(names, parameter.name)->disable_flag_override();
+        else
+            value.option =
+                app.add_option(names, value.text, description(parameter))->type_name(placeholder(parameter.quantity));
+        value.option->group("Parameters of the projection");
+    }
+}
+
+bool ProjectionOptions::given(int id) const {
+    return value(id).option->count() > 0;
+}
+
+std::optional<int> ProjectionOptions::year() const {
+    if (m_yearOption->count() == 0)
+        return std::nullopt;
+    if (m_year != "1927" && m_year != "1983")
+        throw UsageError("--year: " + inQuotes(m_year) + " is neither 1927 nor 1983");
+    return m_year == "1927" ? 1927 : 1983;
+}
+
+void ProjectionOptions::startFromUtm(ProjectionChoice& choice) const {
+    for (int id : {centralLongitudeId, southId})
+        if (given(id))
+            throw UsageError(parameter(id).option + " has no place beside --utm, which tells it");
+    choice.zonePerPoint = squeezed(m_utm) == "auto";
+    auto const zone = choice.zonePerPoint ? UtmZone{0} : readUtmZone(m_utm);
+    if (!zone)
+        throw UsageError("--utm: " + inQuotes(m_utm) + " is no zone; write 1 to 60 and N or S, as in 17N, or auto");
+    setUtmZone(choice.record, *zone);
+}
+
+ProjType ProjectionOptions::givenProjection() const {
+    if (!given(projectionId))
+        throw UsageError("no projection; give --utm, --state-plane, --projection or --like");
+    return findProjection(value(projectionId).text);
+}
+
+/// Sets the projection's type, and what a zone tells of it.
+void ProjectionOptions::startFrom(ProjectionChoice& choice) const {
+    bool const utm = m_utmOption->count() > 0, statePlane = m_statePlaneOption->count() > 0;
+    if (utm + statePlane + given(projectionId) > 1)
+        throw UsageError("more than one projection; give one of --utm, --state-plane and --projection");
+    auto const zoneYear = year();
+    if (zoneYear && !statePlane)
+        throw UsageError("--year goes with --state-plane");
+    if (utm)
+        return startFromUtm(choice);
+    choice.record.Type = statePlane ? ProjTypeStatePlane1983 : givenProjection();
+    if (!isStatePlane(choice.record.Type))
+        return;
+    if (statePlane == given(zoneId))
+        throw UsageError(statePlane ? "--state-zone has no place beside --state-plane, which tells it"
+                                    : "the projection needs --state-zone");
+    auto const impliedYear = choice.record.Type == ProjTypeStatePlane1927 ? 1927 : 1983;
+    StatePlaneZone const zone =
+        statePlane ? findStatePlaneZone(m_statePlane, zoneYear) : findStatePlaneZone(value(zoneId).text, impliedYear);
+    choice.record.Type = zone.type;
+    choice.record.Zone = zone.zone;
+}
+
+void ProjectionOptions::refuseUnused(ProjType type) const {
+    std::vector<int> const used = usedParameters(type);
+    for (Value const& value : m_values)
+        if (value.id != projectionId && given(value.id) && std::find(used.begin(), used.end(), value.id) == used.end())
+            throw UsageError(parameter(value.id).option + " is not used by " + projectionName(type) +
+                             ", which uses: " + usedOptions(type));
+}
+
+/// A catalogue ellipsoid (a State Plane record needs one as well, although the zone's own is used), or the user's.
+void ProjectionOptions::setEllipsoid(PROJDATA& record, Figure const& standard) const {
+    record.Ellipsoid = standard.ellipsoid;
+    record.MajorRadius = standard.radius;
+    record.Flattening = standard.flattening;
+    if (given(flatteningId) && !given(radiusId))
+        throw UsageError("--flattening goes with --radius");
+    if (given(radiusId) && given(ellipsoidId))
+        throw UsageError("--radius has no place beside --ellipsoid, which tells it");
+    if (given(radiusId)) {
+        record.Ellipsoid = EllipsoidTypeUserDefined;
+        record.Flattening = 0;
+    }
+    if (given(ellipsoidId))
+        record.Ellipsoid = findEllipsoid(value(ellipsoidId).text);
+    if (given(ellipsoidId) && record.Ellipsoid == EllipsoidTypeUserDefined)
+        throw UsageError("an ellipsoid of your own is given by --radius and --flattening");
+}
+
+void ProjectionOptions::setValues(PROJDATA& record) const {
+    for (Value const& value : m_values) {
+        bool const elsewhere = value.id == projectionId || value.id == zoneId || value.id == ellipsoidId;
+        if (!elsewhere && given(value.id))
+            setParameter(record, parameter(value.id), value.text);
+    }
+}
+
+bool ProjectionOptions::any() const {
+    return m_utmOption->count() + m_statePlaneOption->count() + m_yearOption->count() + m_likeOption->count() > 0 ||
+           std::ranges::any_of(m_values, [](Value const& value) { return value.option->count() > 0; });
+}
+
+/// The projection that a file tells, with all of its parameters.
+PROJDATA ProjectionOptions::projectionLike() const {
+    for (CLI::Option const* option : {m_utmOption, m_statePlaneOption, m_yearOption})
+        if (option->count() > 0)
+            throw UsageError(option->get_name() + " has no place beside --like, which tells it");
+    for (Value const& value : m_values)
+        if (given(value.id))
+            throw UsageError(parameter(value.id).option + " has no place beside --like, which tells it");
+    MapInfo const info = readMap(m_like);
+    if (info.projectionFile.empty())
+        throw UsageError("--like: " + inQuotes(m_like) + " tells no projection");
+    return info.projection;
+}
+
+ProjectionChoice ProjectionOptions::choice(Figure const& standard) const {
+    ProjectionChoice choice;
+    if (m_likeOption->count() > 0) {
+        choice.record = projectionLike();
+        choice.unit = takeUnit(choice.record);
+        check(choice.record);
+        return choice;
+    }
+    startFrom(choice);
+    refuseUnused(choice.record.Type);
+    setEllipsoid(choice.record, standard);
+    setValues(choice.record);
+    check(choice.record);
+    return choice;
+}
+
+} // namespace ZrProj::Command

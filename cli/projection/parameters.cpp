@@ -1,0 +1,217 @@
+#include "cli/projection/parameters.h"
+
+#include "cli/points/angle_field.h"
+#include "cli/projection/name_match.h"
+#include "cli/projection/state_plane.h"
+#include "cli/text/text.h"
+#include "cli/usage_error.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+namespace ZrProj::Command {
+namespace {
+
+struct ParameterRow {
+    int id;
+    Quantity quantity;
+    std::string_view shortOption; // "" where the long one is short enough
+};
+
+constexpr std::array parameterRows{
+    ParameterRow{1, Quantity::Projection, ""},
+    ParameterRow{2, Quantity::Factor, ""},
+    ParameterRow{3, Quantity::Metres, "--x0"},
+    ParameterRow{4, Quantity::Metres, "--y0"},
+    ParameterRow{5, Quantity::Latitude, "--lat0"},
+    ParameterRow{6, Quantity::Longitude, "--lon0"},
+    ParameterRow{7, Quantity::Latitude, "--lat1"},
+    ParameterRow{8, Quantity::Latitude, "--lat2"},
+    ParameterRow{9, Quantity::Latitude, "--lat3"},
+    ParameterRow{10, Quantity::Longitude, "--lon1"},
+    ParameterRow{11, Quantity::Longitude, "--lon2"},
+    ParameterRow{12, Quantity::Longitude, "--lon3"},
+    ParameterRow{13, Quantity::Factor, "--k0"},
+    ParameterRow{14, Quantity::Flag, "--south"},
+    ParameterRow{15, Quantity::Zone, ""},
+    ParameterRow{16, Quantity::Flag, "--use-alpha"},
+    ParameterRow{17, Quantity::Azimuth, ""},
+    ParameterRow{18, Quantity::Flag, "--rotate"},
+    ParameterRow{19, Quantity::Flag, "--u-offset"},
+    ParameterRow{20, Quantity::Ellipsoid, ""},
+    ParameterRow{21, Quantity::Metres, "--radius"},
+    ParameterRow{22, Quantity::Flattening, "--flattening"},
+};
+
+/// "2nd Standard Parallel" is "--2nd-standard-parallel"; what stands in brackets is left out.
+std::string optionOf(std::string_view name) {
+    std::string option = "-";
+    bool separated = true;
+    for (char c : name.substr(0, name.find('('))) {
+        bool const word = isLetter(c) || isDigit(c);
+        if (word && separated)
+            option += '-';
+        if (word)
+            option += lowerCase(c);
+        separated = !word;
+    }
+    return option;
+}
+
+std::vector<Parameter> readCatalogue() {
+    std::vector<Parameter> result;
+    for (ParameterRow const& row : parameterRows) {
+        std::array<char, 64> name{};
+        ProjParamInfo(row.id, name.data(), nullptr, nullptr, nullptr);
+        std::string const longOption = optionOf(name.data());
+        std::string const option = row.shortOption.empty() ? longOption : std::string(row.shortOption);
+        result.push_back({row.id, name.data(), row.quantity, longOption, option});
+    }
+    return result;
+}
+
+Reading readFactor(std::string_view text) {
+    Reading factor = readNumber(text);
+    if (!factor.error && !(factor.value > 0))
+        factor.error = "is not greater than zero";
+    return factor;
+}
+
+Reading readQuantity(Quantity quantity, std::string_view text) {
+    switch (quantity) {
+    case Quantity::Longitude:
+        return readAngle(text, Axis::Longitude);
+    case Quantity::Latitude:
+        return readAngle(text, Axis::Latitude);
+    case Quantity::Azimuth:
+        return readAngle(text, Axis::Azimuth);
+    case Quantity::Flattening:
+        return readFlattening(text);
+    case Quantity::Factor:
+        return readFactor(text);
+    default:
+        return readNumber(text);
+    }
+}
+
+template <class T> T parameterValue(PROJDATA const& record, int id) {
+    T value{};
+    ProjGetParam(&record, id, &value);
+    return value;
+}
+
+std::string unitText(Quantity quantity) {
+    switch (quantity) {
+    case Quantity::Longitude:
+    case Quantity::Latitude:
+    case Quantity::Azimuth:
+        return " degrees";
+    case Quantity::Metres:
+        return " metres";
+    default:
+        return "";
+    }
+}
+
+/// A number in a text that is nothing else, if it lies in 0 to `count` - 1.
+std::optional<int> readIndex(std::string_view text, int count) {
+    int number = 0;
+    char const* const end = text.data() + text.size();
+    auto const [rest, status] = std::from_chars(text.data(), end, number);
+    if (status != std::errc() || rest != end || number < 0 || number >= count)
+        return std::nullopt;
+    return number;
+}
+
+/// One of `count` catalogue entries, by number or name.
+template <class Name>
+int findEntry(std::string_view kind, std::string_view text, int count, Name nameOf, std::string_view listCommand) {
+    if (auto const number = readIndex(text, count))
+        return *number;
+    std::vector<std::string> names(static_cast<std::size_t>(count));
+    std::generate(names.begin(), names.end(), [&, i = 0]() mutable { return nameOf(i++); });
+    NameMatch const result = matchName(text, names);
+    if (result.match != Match::One)
+        throw UsageError(explainMismatch(kind, text, names, result, listCommand));
+    return result.found.front();
+}
+
+} // namespace
+
+std::vector<Parameter> const& parameters() {
+    static std::vector<Parameter> const catalogue = readCatalogue();
+    return catalogue;
+}
+
+Parameter const& parameter(int id) {
+    return parameters().at(static_cast<std::size_t>(id - 1));
+}
+
+std::vector<int> usedParameters(ProjType type) {
+    std::vector<int> result;
+    for (int i = 0; i < ProjNumParams(type); ++i) {
+        int const id = ProjEnumParam(type, i);
+        result.push_back(id);
+        if (parameter(id).quantity == Quantity::Ellipsoid)
+            result.insert(result.end(), {21, 22});
+    }
+    return result;
+}
+
+void setParameter(PROJDATA& record, Parameter const& parameter, std::string_view text) {
+    if (parameter.quantity == Quantity::Flag) {
+        bool const set = true;
+        ProjSetParam(&record, parameter.id, &set);
+        return;
+    }
+    Reading const reading = readQuantity(parameter.quantity, text);
+    if (reading.error)
+        throw UsageError(parameter.option + ": " + inQuotes(text) + ' ' + reading.error);
+    ProjSetParam(&record, parameter.id, &reading.value);
+}
+
+std::string parameterText(PROJDATA const& record, Parameter const& parameter) {
+    switch (parameter.quantity) {
+    case Quantity::Projection:
+        return projectionName(record.Type);
+    case Quantity::Ellipsoid:
+        return ellipsoidName(record.Ellipsoid);
+    case Quantity::Zone:
+        return zoneName(record.Zone);
+    case Quantity::Flag:
+        return parameterValue<bool>(record, parameter.id) ? "yes" : "no";
+    case Quantity::Flattening:
+        return flatteningText(record.Flattening);
+    default:
+        return numberText(parameterValue<double>(record, parameter.id)) + unitText(parameter.quantity);
+    }
+}
+
+std::string projectionName(ProjType type) {
+    std::array<char, 64> name{};
+    ProjGetProjectionInfo(type, name.data());
+    return name.data();
+}
+
+std::string ellipsoidName(EllipsoidType type) {
+    std::array<char, 64> name{};
+    EllipsoidInfo(type, name.data(), nullptr, nullptr);
+    return name.data();
+}
+
+ProjType findProjection(std::string_view text) {
+    auto const nameOf = [](int type) { return projectionName(static_cast<ProjType>(type)); };
+    return static_cast<ProjType>(
+        findEntry("projection", text, ProjNumProjections(), nameOf, "zrproj list projections"));
+}
+
+EllipsoidType findEllipsoid(std::string_view text) {
+    auto const nameOf = [](int type) { return ellipsoidName(static_cast<EllipsoidType>(type)); };
+    return static_cast<EllipsoidType>(
+        findEntry("ellipsoid", text, EllipsoidTypeNone, nameOf, "zrproj list ellipsoids"));
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,120 @@
+#include "cli/geojson/clip.h"
+#include "cli/geojson/polygon_rings.h"
+
+#include <gtest/gtest.h>
+
+#include <cmath>
+#include <numbers>
+#include <random>
+
+namespace ZrProj::Command {
+namespace {
+
+CProjector makeMap(ProjType type, double lat1) {
+    PROJDATA record = {};
+    record.Type = type;
+    record.Ellipsoid = EllipsoidTypeStandardSphereOf6370997Meters;
+    record.Lat0 = record.Lat1 = lat1;
+    return CProjector(&record);
+}
+
+Path ringAround(PROJPOINT centre, double radius, int count) {
+    Path ring;
+    for (int i = 0; i < count; ++i) {
+        double const angle = 2 * std::numbers::pi * i / count;
+        ring.points.push_back(
+            {std::remainder(centre.x + radius * std::cos(angle), 360), centre.y + radius * std::sin(angle)});
+    }
+    return ring;
+}
+
+/// Whether a place lies in an odd number of rings; no ring here goes over 180 degrees after the cut.
+bool isFilled(Paths const& rings, PROJPOINT p) {
+    bool in = false;
+    for (Path const& ring : rings)
+        for (std::size_t i = 0; i < ring.points.size(); ++i) {
+            PROJPOINT const a = ring.points[i], b = ring.points[(i + 1) % ring.points.size()];
+            if ((a.y > p.y) != (b.y > p.y) && p.x < a.x + (p.y - a.y) / (b.y - a.y) * (b.x - a.x))
+                in = !in;
+        }
+    return in;
+}
+
+/// Whether two rings have an edge, or a part of one, on the same meridian.
+bool shareAMeridian(Paths const& rings, double lon) {
+    std::vector<std::pair<double, double>> spans;
+    for (Path const& ring : rings)
+        for (std::size_t i = 0; i < ring.points.size(); ++i) {
+            PROJPOINT const a = ring.points[i], b = ring.points[(i + 1) % ring.points.size()];
+            if (std::fabs(a.x - lon) < 1e-8 && std::fabs(b.x - lon) < 1e-8)
+                spans.emplace_back(std::fmin(a.y, b.y), std::fmax(a.y, b.y));
+        }
+    for (auto const& a : spans)
+        for (auto const& b : spans)
+            if (&a != &b && std::fmin(a.second, b.second) - std::fmax(a.first, b.first) > 1e-9)
+                return true;
+    return false;
+}
+
+TEST(GeoJsonClip, HolesOverTheEdgeLeaveWhatIsBetweenThem) {
+    CProjector map = makeMap(ProjTypeMercator, 0);
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> across(-12, 12), lat(-60, 60), size(0.5, 4);
+    for (int i = 0; i < 20; ++i) {
+        PROJPOINT const centre{180 + across(random), lat(random)};
+        Paths const rings{ringAround(centre, 20, 40), ringAround({centre.x - 6, centre.y}, size(random), 9),
+                          ringAround({centre.x + 6, centre.y + 5}, size(random), 17),
+                          ringAround({centre.x + 4, centre.y - 8}, size(random), 4)};
+        Paths const cut = cutPolygon(map, rings);
+        EXPECT_FALSE(shareAMeridian(cut, 180)) << i;
+        EXPECT_FALSE(shareAMeridian(cut, -180)) << i;
+        Paths each;
+        for (Path const& ring : rings)
+            for (Path& part : cutPolygon(map, {ring}))
+                each.push_back(std::move(part));
+        for (double x = -179.5; x<180; x += std::fabs(x)> 150 ? 0.73 : 300)
+            for (double y = -85; y < 86; y += 1.37)
+                EXPECT_EQ(isFilled(cut, {x, y}), isFilled(each, {x, y})) << i << ": " << x << ' ' << y;
+    }
+}
+
+TEST(GeoJsonClip, ABeltAroundThePoleIsOneRing) {
+    CProjector map = makeMap(ProjTypeMercator, 0);
+    Path outer, inner;
+    for (double lon = -180; lon < 180; lon += 30) {
+        outer.points.push_back({lon, -60});
+        inner.points.push_back({lon, -75});
+    }
+    Paths const cut = cutPolygon(map, {outer, inner});
+    ASSERT_EQ(cut.size(), 1U);
+    EXPECT_TRUE(isFilled(cut, {10, -70}));
+    EXPECT_FALSE(isFilled(cut, {10, -50}));
+    EXPECT_FALSE(isFilled(cut, {10, -80}));
+}
+
+TEST(GeoJsonClip, AnAreaAroundTheAntipodeHasAHoleThere) {
+    CProjector map = makeMap(ProjTypeStereographic, 90);
+    Path everything; // all of the globe south of 60 degrees north, and so all around the antipode
+    for (double lon = 180; lon > -180; lon -= 10)
+        everything.points.push_back({lon, -60});
+    Paths cut = cutPolygon(map, {everything});
+    for (Path& ring : cut)
+        map.Forward(ring.points.data(), static_cast<int>(ring.points.size()));
+    auto const polygons = groupRings(cut);
+    ASSERT_EQ(polygons.size(), 1U);
+    EXPECT_EQ(polygons[0].size(), 2U);
+}
+
+TEST(GeoJsonClip, WhatCannotBeCutIsLeftOut) {
+    CProjector map = makeMap(ProjTypeMercator, 0);
+    double const nan = std::nan("");
+    EXPECT_TRUE(cutLine(map, {}).empty());
+    EXPECT_TRUE(cutLine(map, {{{1, 1}}, {}}).empty());
+    EXPECT_TRUE(cutPolygon(map, {}).empty());
+    EXPECT_TRUE(cutPolygon(map, {{}, {{{1, 1}, {2, 2}}, {}}}).empty());
+    EXPECT_TRUE(cutPolygon(map, {{{{nan, 1}, {1, nan}, {nan, nan}}, {}}}).empty());
+    EXPECT_EQ(cutLine(map, {{{1, 1}, {2, 2}, {nan, nan}, {3, 3}, {4, 4}}, {}}).size(), 2U);
+}
+
+} // namespace
+} // namespace ZrProj::Command
