@@ -24,13 +24,13 @@ std::vector<Path> cutToEdges(formulas::MapEdges const& edges, std::vector<Path> 
         paths = preclip::cut(preclip::WindowArea(edges.window), std::move(paths));
     if (edges.horizon.present)
         paths = preclip::cut(preclip::HorizonArea(edges.horizon), std::move(paths));
-    if (edges.oblique.present)
-        paths = preclip::cut(preclip::ObliqueArea(edges.oblique), std::move(paths));
     if (edges.polarHole.present)
         paths = preclip::cut(preclip::PolarHoleArea(edges.polarHole), std::move(paths));
     for (auto const* hole : {&edges.hole, &edges.otherHole})
         if (hole->present)
             paths = preclip::cut(preclip::HoleArea(*hole), std::move(paths));
+    if (edges.oblique.present) // after the holes at its ends, whose boundaries it cuts too
+        paths = preclip::cut(preclip::ObliqueArea(edges.oblique), std::move(paths));
     return paths;
 }
 

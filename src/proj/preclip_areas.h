@@ -2,8 +2,10 @@
 //
 // An area is a struct with
 //
-//     Spot                          a point of a path as the area sees it; `lon` may be turns of the globe away
-//     Spot at(PROJPOINT)
+//     Spot                          a point of a path as the area sees it
+//     Spot at(given, lon)           `lon` is its longitude as the path runs on, turns of the globe away from the given
+//     one;
+//                                   a place is the same to the area however often the path has wound around
 //     bool holds(Spot)
 //     PROJPOINT shown(Spot, given)  what becomes of a point of the path that it holds
 //     void crossings(a, b, out)     where the edge from a to b goes out of the area or comes in, in order
@@ -73,10 +75,11 @@ public:
 
     explicit WindowArea(formulas::Window const& window);
 
-    /// Moves the points on the meridian where the window meets itself to the side that the path comes from.
+    /// Moves the points on the meridian where the window meets itself to the side that the path comes from, or to the
+    /// side of its first longitude where the path stays there.
     void settle(Path& path, Unrolled& unrolled) const;
 
-    Spot at(PROJPOINT const& point) const;
+    Spot at(PROJPOINT const& given, double lon) const;
     static bool holds(Spot const& spot) { return spot.inside; }
     PROJPOINT shown(Spot const& spot, PROJPOINT const& given) const;
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
@@ -124,7 +127,7 @@ public:
 
     explicit HorizonArea(formulas::Horizon const& horizon);
 
-    Spot at(PROJPOINT const& point) const;
+    Spot at(PROJPOINT const& given, double lon) const;
     bool holds(Spot const& spot) const { return spot.height >= -tolerance_; }
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
     bool isOnBoundary(Spot const& spot) const { return holds(spot) && spot.height <= tolerance_; }
@@ -137,6 +140,7 @@ public:
     static bool areaIsLeft() { return false; }
 
 private:
+    Direction directionOf(PROJPOINT const& point) const;
     PROJPOINT atAzimuth(double t, double up) const;
 
     formulas::Horizon horizon_;
@@ -151,7 +155,7 @@ public:
 
     explicit PolarHoleArea(formulas::PolarHole const& hole) : hole_(hole) {}
 
-    static Spot at(PROJPOINT const& point) { return point; }
+    static Spot at(PROJPOINT const& given, double lon) { return {lon, given.y}; }
     bool holds(Spot const& spot) const { return hole_.side * spot.y <= hole_.limit; }
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
     bool isOnBoundary(Spot const& spot) const { return hole_.side * spot.y == hole_.limit; }
@@ -176,7 +180,7 @@ public:
 
     bool canBeHeld() const { return !hole_.isAtCut; }
 
-    static Spot at(PROJPOINT const& point) { return point; }
+    static Spot at(PROJPOINT const& given, double lon) { return {lon, given.y}; }
     bool holds(Spot const& spot) const;
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
     bool isOnBoundary(Spot const& spot) const;
@@ -207,7 +211,7 @@ public:
 
     explicit ObliqueArea(formulas::ObliqueCut const& cut) : cut_(cut), pole_{cut.sinPole, cut.cosPole} {}
 
-    Spot at(PROJPOINT const& point) const;
+    Spot at(PROJPOINT const& given, double lon) const { return {lon, given.y, directionOf(given)}; }
     static bool holds(Spot const&) { return true; }
     PROJPOINT shown(Spot const& spot, PROJPOINT const& given) const;
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
@@ -226,6 +230,7 @@ public:
 
 private:
     static bool isOnSide(double t);
+    Direction directionOf(PROJPOINT const& point) const;
     PROJPOINT geographic(Direction const& from) const;
     PROJPOINT beside(double latitude, double north) const;
 

@@ -53,13 +53,13 @@ double latitude(Direction const& from) {
 
 } // namespace
 
-ObliqueArea::Spot ObliqueArea::at(PROJPOINT const& point) const {
+Direction ObliqueArea::directionOf(PROJPOINT const& point) const {
     double const phi = point.y * degree, theta = cut_.B * std::remainder(point.x - cut_.lon0, 360.0) - cut_.lonPole;
     if (cut_.B == 1 && cut_.e == 0 && cut_.logE == 0)
-        return {point.x, point.y, pole_.direction({theta * degree, std::sin(phi), std::cos(phi)})};
+        return pole_.direction({theta * degree, std::sin(phi), std::cos(phi)});
     double const psi = std::asinh(std::tan(phi)) - eccentricPart(cut_.e, std::sin(phi));
     double const onSphere = cut_.B * psi + cut_.logE;
-    return {point.x, point.y, pole_.direction({theta * degree, std::tanh(onSphere), 1 / std::cosh(onSphere)})};
+    return pole_.direction({theta * degree, std::tanh(onSphere), 1 / std::cosh(onSphere)});
 }
 
 PROJPOINT ObliqueArea::geographic(Direction const& from) const {
@@ -100,7 +100,9 @@ void ObliqueArea::crossings(Spot const& a, Spot const& b, Crossings& out) const 
     bool first = isOnFirstSide(a.from);
     if (first == isOnFirstSide(b.from) && nearer > curvature / 8)
         return;
-    auto const placeAt = [&](double s) { return at({a.lon + s * (b.lon - a.lon), a.lat + s * (b.lat - a.lat)}).from; };
+    auto const placeAt = [&](double s) {
+        return directionOf({a.lon + s * (b.lon - a.lon), a.lat + s * (b.lat - a.lat)});
+    };
     auto const north = [&](double s) { return placeAt(s).north; };
     auto const cross = [&](double s) {
         auto const from = placeAt(s);
@@ -138,7 +140,7 @@ bool ObliqueArea::isFollowed(double from, double to) const {
     if (!isOnSide((from + to) / 2))
         return true;
     auto const a = onBoundary(from), b = onBoundary(to);
-    auto const middle = at({a.x + std::remainder(b.x - a.x, 360.0) / 2, (a.y + b.y) / 2}).from;
+    auto const middle = directionOf({a.x + std::remainder(b.x - a.x, 360.0) / 2, (a.y + b.y) / 2});
     double const wanted = boundaryAside(middle);
     return std::fabs(middle.north - (to <= sides[1] ? wanted : -wanted)) < wanted / 8;
 }

@@ -38,10 +38,9 @@ std::vector<Path> ringsOf(std::span<PROJPOINT const> points) {
 
 namespace {
 
-/// The step in longitude from one point to the next, the short way.
-double shortWay(double from, double to) {
-    double const step = to - from;
-    return std::fabs(step) > 180 ? step - 360 * std::round(step / 360) : step;
+/// What makes a step in longitude one that goes the short way: 0, or 360 times a whole number.
+double turnsOff(double step) {
+    return std::fabs(step) > 180 ? -360 * std::round(step / 360) : 0;
 }
 
 } // namespace
@@ -53,10 +52,7 @@ Unrolled::Unrolled(Path const& path) : isRing_(path.isRing) {
     double turned = 0; // 360 times a whole number
     for (std::size_t i = 1; i < given.size() + (path.isRing ? 1 : 0); ++i) {
         auto const &from = given[i - 1], &to = given[i % given.size()];
-        double const step = to.x - from.x;
-        if (std::fabs(step) > 180)
-            turned += shortWay(from.x, to.x) - step;
-        turned = 360 * std::round(turned / 360);
+        turned += turnsOff(to.x - from.x);
         points_.push_back({to.x + turned, to.y});
         if (path.isRing)
             underneath_ += (points_[i].x - points_[i - 1].x) * (from.y + to.y) / 2;

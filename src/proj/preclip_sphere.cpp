@@ -45,10 +45,14 @@ HorizonArea::HorizonArea(formulas::Horizon const& horizon)
     : horizon_(horizon), centre_{std::sin(horizon.lat * degree), std::cos(horizon.lat * degree)},
       plane_(std::sin(formulas::lineInset * degree)), tolerance_(plane_ / 2) {}
 
-HorizonArea::Spot HorizonArea::at(PROJPOINT const& point) const {
+Direction HorizonArea::directionOf(PROJPOINT const& point) const {
     double const phi = point.y * degree;
-    auto const from = centre_.direction({turnedBack(point.x - horizon_.lon) * degree, std::sin(phi), std::cos(phi)});
-    return {point.x, point.y, from, from.up - plane_};
+    return centre_.direction({turnedBack(point.x - horizon_.lon) * degree, std::sin(phi), std::cos(phi)});
+}
+
+HorizonArea::Spot HorizonArea::at(PROJPOINT const& given, double lon) const {
+    auto const from = directionOf(given);
+    return {lon, given.y, from, from.up - plane_};
 }
 
 void HorizonArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
@@ -60,12 +64,12 @@ void HorizonArea::crossings(Spot const& a, Spot const& b, Crossings& out) const 
     PROJPOINT const from{a.lon, a.lat}, to{b.lon, b.lat};
     // What is hardly below the plane counts as on it: there lie the cuts of an earlier time, rounded.
     auto const level = [&](double height) { return height < 0 && height >= -tolerance_ ? 0 : height; };
-    auto const height = [&](double s) { return level(at(between(from, to, s)).height); };
+    auto const height = [&](double s) { return level(directionOf(between(from, to, s)).up - plane_); };
     bool inside = holds(a);
     auto const cut = [&](double s) {
         PROJPOINT const point = between(from, to, s);
-        auto const spot = at(point);
-        double const azimuth = std::atan2(spot.from.east, spot.from.north) / degree;
+        auto const direction = directionOf(point);
+        double const azimuth = std::atan2(direction.east, direction.north) / degree;
         inside = !inside;
         out.push_back({inside, azimuth < 0 ? azimuth + 360 : azimuth, turnedBack(point)});
     };

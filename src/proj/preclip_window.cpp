@@ -38,26 +38,25 @@ void WindowArea::settle(Path& path, Unrolled& unrolled) const {
     std::size_t neighbour = 0;
     while (neighbour < path.points.size() && isOnSeam(neighbour))
         ++neighbour;
-    if (neighbour == path.points.size())
-        return; // all of it runs along the seam
+    bool const staysOnSeam = neighbour == path.points.size();
     for (std::size_t i = 0; i < path.points.size(); ++i) {
         if (!isOnSeam(i)) {
             neighbour = i;
             continue;
         }
-        bool const isEastern = unrolled[neighbour].x < unrolled[i].x;
+        bool const isEastern = staysOnSeam ? path.points[0].x > middle_ : unrolled[neighbour].x < unrolled[i].x;
         unrolled.move(i, (isEastern ? -formulas::lineInset : formulas::lineInset) - offset(i));
         path.points[i].x = isEastern ? window_.east : window_.west;
         path.isAsGiven = false;
     }
 }
 
-WindowArea::Spot WindowArea::at(PROJPOINT const& point) const {
+WindowArea::Spot WindowArea::at(PROJPOINT const& given, double lon) const {
     // Half open, so that a point on the seam is in the same copy however often the path has wound around.
-    double const turn = 360 * std::floor((point.x - middle_) / 360 + 0.5), lon = point.x - turn;
-    bool const inside = lon >= window_.west - margin && lon <= window_.east + margin && point.y >= window_.south &&
-                        point.y <= window_.north;
-    return {point.x, point.y, turn, inside};
+    double const turn = 360 * std::floor((lon - middle_) / 360 + 0.5), x = lon - turn;
+    bool const inside = x >= window_.west - margin && x <= window_.east + margin && given.y >= window_.south &&
+                        given.y <= window_.north;
+    return {lon, given.y, turn, inside};
 }
 
 bool WindowArea::isBesideEdge(double lon) const {

@@ -15,6 +15,7 @@
 #include <iomanip>
 #include <random>
 #include <sstream>
+#include <utility>
 
 using namespace ZrProj;
 using namespace ZrProj::test;
@@ -161,18 +162,26 @@ private:
         double const size = std::pow(10, between(-1, 1.9));
         int const count = 8 + int(random_() % 30);
         Points points;
+        bool isSimple = true;
+        double eastmostNorth = HUGE_VAL, westmostSouth = -HUGE_VAL; // of the next vertices that the poles cut off
         for (int i = 0; i < count; ++i) {
             double const angle = (i + between(0, 0.9)) * 360 / count * degree, radius = size * between(0.3, 1);
-            points.push_back({std::remainder(middle.x + radius * std::cos(angle), 360),
-                              latitude(middle.y + radius * std::sin(angle))});
+            double const lon = middle.x + radius * std::cos(angle), lat = middle.y + radius * std::sin(angle);
+            if (lat > 90)
+                isSimple = isSimple && lon <= std::exchange(eastmostNorth, lon);
+            if (lat < -90)
+                isSimple = isSimple && lon >= std::exchange(westmostSouth, lon);
+            points.push_back({std::remainder(lon, 360), latitude(lat)});
         }
-        return oriented(std::move(points), true);
+        auto star = oriented(std::move(points), true);
+        star.isSimple = isSimple;
+        return star;
     }
 
     /// Around a pole.
     Shape around() {
         double const lat = between(-85, 85), rough = between(0, std::fmin(20, 88 - std::fabs(lat)));
-        int const count = 3 + int(random_() % 40);
+        int const count = 4 + int(random_() % 40); // no step of half a turn
         Points points;
         double integral = 0;
         for (int i = 0; i < count; ++i)
@@ -378,7 +387,7 @@ private:
 
     /// How much of a shape no map may show: Hotine's lacks a strip of the ellipsoid, and Cassini's is torn along the
     /// last 90 f degrees of the equator on either side, where an edge along the equator meets at most two tears of both
-    /// maps.
+    /// maps, and one that crosses it meets them as long as it is near.
     double lackingOf(Shape const& shape) {
         auto const& r = subject_.record();
         if (r.Type == ProjTypeHotineObliqueMercator && r.Flattening != 0)
@@ -386,8 +395,9 @@ private:
         double lacking = 0;
         if (r.Type == ProjTypeCassini && shape.kind == line)
             forEdges(line, shape.points, [&](PROJPOINT a, PROJPOINT b) {
-                if (a.y == 0 && b.y == 0)
-                    lacking += std::fmin(std::fabs(b.x - a.x), 4 * 91 * r.Flattening) * degree;
+                double const near = 4e-6 / std::fmax(std::fabs(b.y - a.y), 4e-6); // the share of it
+                if (a.y * b.y <= 0)
+                    lacking += std::fmin(near * std::fabs(b.x - a.x), 4 * 91 * r.Flattening) * degree;
             });
         return lacking;
     }

@@ -186,6 +186,43 @@ TEST(Preclip, AnAreaMayEndAtTheEdge) {
     EXPECT_EQ(parts[1].points.size(), 2u);
 }
 
+// What has no width after a cut is no area; a line along the edge stays on the side of its longitude.
+TEST(Preclip, PathsAlongTheEdge) {
+    for (double const edge : {180.0, -180.0}) {
+        auto const along = preclip(sinusoidal, Kind::line, {{edge, 0}, {edge, 10}});
+        ASSERT_EQ(along.size(), 1u);
+        for (auto const& point : along[0].points)
+            EXPECT_NEAR(point.x, edge, 2e-9);
+    }
+    EXPECT_TRUE(preclip(sinusoidal, area, {{180, 0}, {180, 10}, {-180, 20}}).empty());
+    EXPECT_TRUE(preclip(sinusoidal, area, {{-180, -90}, {180, -90}, {180, 90}, {-180, 90}}).empty());
+    Points const thin{{5, 0}, {5, 10}, {5, 20}}; // as thin, but not cut
+    EXPECT_TRUE(isSame(preclip(sinusoidal, area, thin).at(0).points, thin));
+}
+
+// Rings around which the places at the cut of an oblique Mercator are many: they begin on it, go through its end, and
+// run around the globe; each is the same when it is cut again.
+TEST(Preclip, RingsThatTouchAnObliqueCut) {
+    constexpr char oblique[] = "type=12 ellipsoid=48 lat0=45 alpha=90 usealpha=1 rotate=1 uoffset=1";
+    for (Points const& ring : {Points{{90, 0}, {45, -45}, {45, -90}, {270, -30}},
+                               Points{{60, -90}, {0, -45}, {15, -45}}, Points{{180, 45}, {170, 40}, {190, 50}}}) {
+        auto const once = preclip(oblique, area, ring);
+        ASSERT_EQ(once.size(), 1u);
+        EXPECT_LT(once[0].points.size(), 100u);
+        auto const twice = preclip(oblique, area, once[0].points);
+        ASSERT_EQ(twice.size(), 1u);
+        EXPECT_TRUE(isSame(once[0].points, twice[0].points));
+    }
+}
+
+// A ring that meets the edge in few places, one of them where half of the edge lies to either side.
+TEST(Preclip, AnEdgeThroughTheMiddleOfTheMapsEdge) {
+    auto const triangle = preclip("type=2 ellipsoid=47 lat1=20 lat2=60 lon0=-90", area,
+                                  {{135.000000000001, 45.000000002}, {89.999999998999996, 1e-9}, {180.000000001, -90}});
+    ASSERT_EQ(triangle.size(), 1u);
+    EXPECT_LE(triangle[0].points.size(), 4u);
+}
+
 TEST(Preclip, PointsThatAreNoPlaces) {
     auto const broken =
         preclip(sinusoidal, line, {{0, 0}, {1, 1}, {none, 1}, {2, 2}, {DBL_MAX, DBL_MAX}, {3, 3}, {4, 4}});

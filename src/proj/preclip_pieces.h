@@ -1,0 +1,92 @@
+// The pieces of a path that lie in an area, see preclip_areas.h.
+#pragma once
+
+#include "proj/preclip_areas.h"
+#include "proj/preclip_path.h"
+
+#include <algorithm>
+#include <cmath>
+#include <utility>
+
+namespace ZrProj::preclip {
+
+/// A piece of a path, from boundary to boundary; where the path itself begins or ends there is no parameter, but NaN.
+struct Piece {
+    std::vector<PROJPOINT> points;
+    double from = NAN, to = NAN;
+};
+
+inline bool isSamePlace(PROJPOINT const& a, PROJPOINT const& b) {
+    return std::fabs(std::remainder(a.x - b.x, 360.0)) < 2 * formulas::lineInset &&
+           std::fabs(a.y - b.y) < 2 * formulas::lineInset;
+}
+
+/// Whether a piece is all in one place, which happens where a path touches the boundary.
+inline bool isNothing(Piece const& piece) {
+    return std::ranges::all_of(piece.points,
+                               [&](PROJPOINT const& point) { return isSamePlace(point, piece.points.front()); });
+}
+
+/// A path in pieces, and what was seen of it on the way.
+struct Pieces {
+    std::vector<Piece> list;
+    bool isWhole = true;    // nothing was cut off
+    bool isKept = true;     // and no point changed
+    bool isBoundary = true; // all of it lies on the boundary
+};
+
+template <class Area> Pieces piecesOf(Area const& area, Path const& path, Unrolled const& unrolled) {
+    Pieces pieces;
+    Crossings crossings;
+    auto const& given = path.points;
+    auto a = area.at(given[0], unrolled[0].x);
+    auto const add = [&](typename Area::Spot const& spot, PROJPOINT const& point) {
+        pieces.isKept = pieces.isKept && area.keepsAsGiven(spot, point);
+        pieces.isBoundary = pieces.isBoundary && area.isOnBoundary(spot);
+        pieces.list.back().points.push_back(area.shown(spot, point));
+    };
+    bool inside = area.holds(a);
+    if (inside) {
+        pieces.list.emplace_back().points.reserve(given.size());
+        add(a, given[0]);
+    }
+    pieces.isWhole = inside;
+    for (std::size_t i = 1; i < unrolled.size(); ++i) {
+        auto const b = area.at(given[i % given.size()], unrolled[i].x);
+        crossings.clear();
+        area.crossings(a, b, crossings);
+        for (auto const& crossing : crossings) {
+            if (crossing.enters == inside)
+                continue;
+            pieces.isWhole = false;
+            if (crossing.enters)
+                pieces.list.emplace_back().from = crossing.t;
+            else
+                pieces.list.back().to = crossing.t;
+            auto& points = pieces.list.back().points;
+            if (points.empty() || !isSamePlace(points.back(), crossing.point))
+                points.push_back(crossing.point);
+            inside = crossing.enters;
+        }
+        if (inside && i < given.size())
+            add(b, given[i]);
+        a = b;
+    }
+    return pieces;
+}
+
+/// Joins the last piece of a ring to the first one, where the ring begins inside, and drops what is nothing.
+inline void tidy(std::vector<Piece>& pieces, bool isRing) {
+    if (isRing && pieces.size() > 1 && std::isnan(pieces.front().from) && std::isnan(pieces.back().to)) {
+        auto& last = pieces.back();
+        last.points.insert(last.points.end(), pieces.front().points.begin(), pieces.front().points.end());
+        last.to = pieces.front().to;
+        pieces.front() = std::move(last);
+        pieces.pop_back();
+    } else if (isRing && pieces.size() == 1 && std::isnan(pieces.front().from) != std::isnan(pieces.front().to)) {
+        pieces.clear(); // a boundary crossed but once: rounding at a touching point
+    }
+    std::erase_if(pieces, isNothing);
+}
+
+} // namespace ZrProj::preclip
