@@ -24,7 +24,7 @@ ScratchDirectory::~ScratchDirectory() {
 
 std::filesystem::path temporaryDirectory() {
     std::error_code error;
-    std::filesystem::path const directory = std::filesystem::temp_directory_path(error);
+    std::filesystem::path directory = std::filesystem::temp_directory_path(error);
     if (error)
         throw std::runtime_error("there is no directory for temporary files; set TMPDIR to one");
     return directory;

@@ -155,8 +155,8 @@ void needGeoreference(std::string const& file, MapInfo const& info) {
 /// against the map. An image's own RSF file goes before its tags, so that a wide miss would spoil a good image.
 std::string similarityNote(std::string const& file, GEOREF const& controls, Misfit misfit) {
     auto const miss = controlMiss(controls, TransformMethodHelmert);
-    std::string const text = std::string("read back as a similarity (Helmert), ") +
-                             (miss ? "which misses them by " + missText(*miss) : "which they do not make");
+    std::string text = std::string("read back as a similarity (Helmert), ") +
+                       (miss ? "which misses them by " + missText(*miss) : "which they do not make");
     if ((!miss || isWide(*miss)) && misfit == Misfit::Refused)
         throw std::runtime_error("cannot write " + inQuotes(file) + ": control points of an RSF file are " + text +
                                  "; --accept-misfit writes it all the same");

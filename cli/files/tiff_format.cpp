@@ -101,7 +101,7 @@ std::vector<std::string> notesOn(std::string const& file, MapInfo const& all, GE
 std::vector<std::string> write(std::string const& file, MapInfo const& info, Misfit) {
     MapInfo const all = onTopOf(read(file), info, file);
     GEOREF const& georef = info.georefFile.empty() ? *all.georef : *info.georef;
-    std::vector<std::string> const notes = notesOn(file, all, georef);
+    std::vector<std::string> notes = notesOn(file, all, georef);
     try {
         MadeTags const made(all, georef);
         writeTiffTags(file, made.tags());

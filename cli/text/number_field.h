@@ -17,7 +17,7 @@ struct Reading {
 Reading readNumber(std::string_view field);
 
 /// Reads a flattening: a number, or 1/298.25.
-Reading readFlattening(std::string_view field);
+Reading readFlattening(std::string_view text);
 
 /// A number with as many digits as it takes to read it back.
 std::string numberText(double value);

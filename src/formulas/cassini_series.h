@@ -42,9 +42,11 @@ private:
     template <int first, class R> static R sum(double const (&c)[orders][coefficients], R s, R square) {
         R total = 0.0;
         for (int k = orders; k-- > first;) {
-            R term = c[k][2 * k];
-            for (int power = 2 * k; power-- > 0;)
-                term = term * s + c[k][power];
+            double const* const series = c[k];
+            int power = 2 * k;
+            R term = series[power];
+            while (power-- > 0)
+                term = term * s + series[power];
             total = total * square + term;
         }
         return total;

@@ -7,9 +7,9 @@
 #include "proj/handle.h"
 #include "proj/preclip_cut.h"
 
+#include <algorithm>
 #include <memory>
 #include <new>
-#include <ranges>
 
 namespace ZrProj {
 
@@ -52,8 +52,8 @@ Chains chainOf(std::span<PROJPOINT const> points, bool isClosed, Chains rest) {
 
 Chains chainsOf(std::vector<Path> const& paths, std::span<PROJPOINT const> given) {
     Chains chains;
-    for (auto const& path : std::views::reverse(paths))
-        chains = chainOf(path.isAsGiven ? given : path.points, path.isRing, std::move(chains));
+    for (auto path = paths.rbegin(); path != paths.rend(); ++path)
+        chains = chainOf(path->isAsGiven ? given : path->points, path->isRing, std::move(chains));
     return chains;
 }
 

@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <array>
 #include <bit>
 #include <cfloat>
@@ -35,10 +36,8 @@ std::string printed(double value) {
 }
 
 bool useDecimalComma() {
-    for (char const* name : {"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE", "fr_FR"})
-        if (std::setlocale(LC_NUMERIC, name))
-            return true;
-    return false;
+    constexpr std::array names{"de_DE.UTF-8", "fr_FR.UTF-8", "de_DE", "fr_FR"};
+    return std::ranges::any_of(names, [](char const* name) { return std::setlocale(LC_NUMERIC, name); });
 }
 
 } // namespace
@@ -68,7 +67,7 @@ TEST(NumberText, IsWhatPrintfWrites) {
         EXPECT_EQ(written(value), printed(value));
     std::mt19937_64 random(1);
     for (int i = 0; i < 20000; ++i) {
-        double const anyBits = std::bit_cast<double>(random());
+        auto const anyBits = std::bit_cast<double>(random());
         ASSERT_EQ(written(anyBits), printed(anyBits));
         double const fewDigits = std::round(std::ldexp(static_cast<double>(random()), -30)) / 1000;
         ASSERT_EQ(written(fewDigits), printed(fewDigits));
@@ -119,7 +118,7 @@ TEST(NumberText, IsReadAsStrtodReadsDecimals) {
     EXPECT_EQ(readNumber(std::string(250, '9') + "E+200"), infinity);
     std::mt19937_64 random(2);
     for (int i = 0; i < 20000; ++i) {
-        double const value = std::bit_cast<double>(random());
+        auto const value = std::bit_cast<double>(random());
         if (std::isfinite(value)) {
             ASSERT_EQ(readNumber(written(value)), std::strtod(printed(value).c_str(), nullptr));
         }

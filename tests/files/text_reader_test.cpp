@@ -13,7 +13,7 @@ namespace {
 /// The lines of a file with those bytes; the last one is what is left at its end.
 std::vector<std::string> linesOf(std::string const& bytes) {
     std::unique_ptr<std::FILE, int (*)(std::FILE*)> const file(std::tmpfile(), std::fclose);
-    std::fwrite(bytes.data(), 1, bytes.size(), file.get());
+    EXPECT_EQ(std::fwrite(bytes.data(), 1, bytes.size(), file.get()), bytes.size());
     std::rewind(file.get());
     std::vector<std::string> lines;
     TextLine line;

@@ -46,7 +46,9 @@ TEST(PolynomialFit, ReproducesPolynomials) {
             for (double const offset : {0.0, 60000.0}) {
                 SCOPED_TRACE(RefMethodName(method) + (" of " + std::to_string(count)));
                 constexpr double size = 40000;
-                auto const map = [&](GEOREFPOINT p) { return mapOfOrder(order, size, {p.x - offset, p.y - offset}); };
+                auto const map = [&, order = order](GEOREFPOINT p) {
+                    return mapOfOrder(order, size, {p.x - offset, p.y - offset});
+                };
                 auto controls = scattered(count, size, [&](GEOREFPOINT p) { return p; });
                 for (std::size_t i = 0; i < controls.source.size(); ++i) {
                     auto& from = controls.source[i];
