@@ -5,28 +5,16 @@
 #include <algorithm>
 #include <cmath>
 #include <map>
-#include <memory>
-#include <new>
 #include <optional>
 #include <utility>
 
 namespace ZrProj::Command {
 namespace {
 
-struct FreeChains {
-    void operator()(CPROJCHAIN* chains) const { ProjFreeChains(chains); }
-};
-
-/// Cuts by one of the two calls.
-Paths cutPath(CProjector& map, bool (CProjector::*cut)(PROJPOINT const*, unsigned, CPROJCHAIN**),
-              std::vector<PROJPOINT> const& points) {
-    CPROJCHAIN* first = nullptr;
-    if (!(map.*cut)(points.data(), static_cast<unsigned>(points.size()), &first))
-        throw std::bad_alloc();
-    std::unique_ptr<CPROJCHAIN, FreeChains> const owner(first);
+Paths pathsOf(std::vector<Places> pieces) {
     Paths paths;
-    for (CPROJCHAIN const* chain = first; chain; chain = chain->pNext)
-        paths.push_back({{chain->pPoints, chain->pPoints + chain->nPoints}, {}});
+    for (Places& piece : pieces)
+        paths.push_back({std::move(piece), {}});
     return paths;
 }
 
@@ -40,13 +28,8 @@ bool isWhole(Paths const& cut, Path const& given) {
            std::equal(given.points.begin(), given.points.end(), cut.front().points.begin(), same);
 }
 
-Paths cutRing(CProjector& map, Path const& ring) {
-    constexpr std::size_t fewest = 3;
-    return ring.points.size() < fewest ? Paths() : cutPath(map, &CProjector::LLPreclipPolygon, ring.points);
-}
-
 /// How often a ring goes around the globe, eastwards.
-long turns(std::vector<PROJPOINT> const& ring) {
+long turns(Places const& ring) {
     double sum = 0;
     for (std::size_t i = 0; i < ring.size(); ++i)
         if (double const step = ring[(i + 1) % ring.size()].x - ring[i].x; std::isfinite(step))
@@ -55,21 +38,21 @@ long turns(std::vector<PROJPOINT> const& ring) {
 }
 
 /// Where two rings can be joined by a bridge that the map shows whole: the places of its ends.
-std::optional<std::pair<std::size_t, std::size_t>> findBridge(CProjector& map, std::vector<PROJPOINT> const& outer,
-                                                              std::vector<PROJPOINT> const& hole) {
+std::optional<std::pair<std::size_t, std::size_t>> findBridge(CProjector& map, Places const& outer,
+                                                              Places const& hole) {
     constexpr std::size_t tried = 16; // of either
     std::size_t const step = outer.size() / tried + 1, holeStep = hole.size() / tried + 1;
     for (std::size_t i = 0; i < outer.size(); i += step)
         for (std::size_t k = 0; k < hole.size(); k += holeStep) {
             Path const bridge{{outer[i], hole[k]}, {}};
-            if (isWhole(cutPath(map, &CProjector::LLPreclipPolyline, bridge.points), bridge))
+            if (isWhole(pathsOf(preclipLine(map, bridge.points)), bridge))
                 return std::pair(i, k);
         }
     return std::nullopt;
 }
 
 /// Joins a hole to the ring around it. False where no bridge is found.
-bool joinHole(CProjector& map, std::vector<PROJPOINT>& outer, std::vector<PROJPOINT> hole) {
+bool joinHole(CProjector& map, Places& outer, Places hole) {
     auto const bridge = findBridge(map, outer, hole);
     if (!bridge)
         return false;
@@ -131,11 +114,11 @@ private:
     Ends m_ends;
 };
 
-Paths withoutBridges(Paths const& rings) {
+Paths withoutBridges(std::vector<Places> const& rings) {
     Edges edges;
-    for (Path const& ring : rings)
-        for (std::size_t i = 0; i < ring.points.size(); ++i)
-            edges.add(ring.points[i], ring.points[(i + 1) % ring.points.size()]);
+    for (Places const& ring : rings)
+        for (std::size_t i = 0; i < ring.size(); ++i)
+            edges.add(ring[i], ring[(i + 1) % ring.size()]);
     return edges.rings();
 }
 
@@ -209,10 +192,7 @@ std::vector<Paths> polygonsOf(Coordinates const& coordinates, int depth) {
 }
 
 Paths cutLine(CProjector& map, Path const& line) {
-    constexpr std::size_t fewest = 2;
-    if (line.points.size() < fewest)
-        return {};
-    Paths cut = cutPath(map, &CProjector::LLPreclipPolyline, line.points);
+    Paths cut = pathsOf(preclipLine(map, line.points));
     if (isWhole(cut, line))
         cut.front().extras = line.extras;
     return cut;
@@ -220,9 +200,9 @@ Paths cutLine(CProjector& map, Path const& line) {
 
 Paths cutPolygon(CProjector& map, Paths const& rings) {
     Paths result;
-    std::vector<PROJPOINT> joined; // the outer ring and the holes that the edge cuts
+    Places joined; // the outer ring and the holes that the edge cuts
     for (Path const& ring : rings) {
-        Paths cut = cutRing(map, ring);
+        Paths cut = pathsOf(preclipRing(map, ring.points));
         bool const isOuter = &ring == rings.data();
         if (isWhole(cut, ring))
             cut.front().extras = ring.extras;
@@ -234,7 +214,7 @@ Paths cutPolygon(CProjector& map, Paths const& rings) {
             append(result, std::move(cut));
     }
     if (!joined.empty())
-        append(result, withoutBridges(cutRing(map, {joined, {}})));
+        append(result, withoutBridges(preclipRing(map, joined)));
     return result;
 }
 
