@@ -12,9 +12,10 @@ std::string number(double value) {
     return std::to_string(wholeUnits(value));
 }
 
-std::string rectangle(MapPaper const& paper, char const* attributes) {
-    return "<rect width=\"" + number(paper.width()) + "\" height=\"" + number(paper.height()) + "\" " + attributes +
-           "/>";
+/// The map's rectangle, wider by `more` on every side.
+std::string rectangle(MapPaper const& paper, double more, char const* attributes) {
+    return "<rect x=\"" + number(-more) + "\" y=\"" + number(-more) + "\" width=\"" + number(paper.width() + 2 * more) +
+           "\" height=\"" + number(paper.height() + 2 * more) + "\" " + attributes + "/>";
 }
 
 std::string layers(MapPaper& paper, MapContent const& content) {
@@ -31,16 +32,16 @@ std::string layers(MapPaper& paper, MapContent const& content) {
     return result;
 }
 
-/// The layers within the frame; the frame is drawn where it cuts something off. What lies on the very edge of a whole
-/// map keeps its stroke.
+/// The layers within the frame; the frame is drawn where it cuts something off. A whole map's is wider by half the
+/// outline's stroke, which thus is seen whole where the map ends.
 std::string framed(MapPaper& paper, MapContent const& content, std::string const& id) {
+    constexpr double halfStroke = 5;
     std::string const clip = "frame" + id;
-    std::string result = "<clipPath id=\"" + clip + "\">" +
-                         rectangle(paper, paper.isWhole() ? "stroke=\"#000\" stroke-width=\"10\"" : "") +
+    std::string result = "<clipPath id=\"" + clip + "\">" + rectangle(paper, paper.isWhole() ? halfStroke : 0, "") +
                          "</clipPath>\n<g clip-path=\"url(#" + clip + ")\" fill-rule=\"evenodd\">\n" +
                          layers(paper, content) + "</g>\n";
     if (!paper.isWhole())
-        result += rectangle(paper, "fill=\"none\" stroke=\"#34495e\" stroke-width=\"10\"") + '\n';
+        result += rectangle(paper, 0, "fill=\"none\" stroke=\"#34495e\" stroke-width=\"10\"") + '\n';
     return result;
 }
 
