@@ -86,6 +86,8 @@ std::array<double, 4> Map::bounds() const {
         result[i] = i % 2 ? readWithin("--bounds", texts[i], -90, 90) : readWithin("--bounds", texts[i], -360, 360);
     if (!(result[1] < result[3]))
         throw UsageError("--bounds: the south is not below the north");
+    if (result[0] == result[2])
+        throw UsageError("--bounds: the west is the east");
     return result;
 }
 

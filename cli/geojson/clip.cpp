@@ -3,50 +3,36 @@
 #include "cli/geojson/clip.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
-#include <map>
-#include <memory>
-#include <new>
 #include <optional>
+#include <set>
 #include <utility>
 
 namespace ZrProj::Command {
 namespace {
 
-struct FreeChains {
-    void operator()(CPROJCHAIN* chains) const { ProjFreeChains(chains); }
-};
+constexpr double insets = 1e-8, rounding = 1e-12; // degrees; of what is cut, and of turned longitudes
 
-/// Cuts by one of the two calls.
-Paths cutPath(CProjector& map, bool (CProjector::*cut)(PROJPOINT const*, unsigned, CPROJCHAIN**),
-              std::vector<PROJPOINT> const& points) {
-    CPROJCHAIN* first = nullptr;
-    if (!(map.*cut)(points.data(), static_cast<unsigned>(points.size()), &first))
-        throw std::bad_alloc();
-    std::unique_ptr<CPROJCHAIN, FreeChains> const owner(first);
+/// Whether a cut left a line or ring as it was, but for turns of the globe.
+bool isWhole(std::vector<Places> const& cut, Places const& given, double within = insets) {
+    auto const agree = [&](PROJPOINT const& a, PROJPOINT const& b) {
+        return std::fabs(std::remainder(a.x - b.x, 360)) <= within && std::fabs(a.y - b.y) <= within;
+    };
+    return cut.size() == 1 && std::ranges::equal(cut.front(), given, agree);
+}
+
+/// What was cut of a path. Extras stay on one that is whole.
+Paths pathsOf(std::vector<Places> cut, Path const& given) {
+    bool const whole = isWhole(cut, given.points);
     Paths paths;
-    for (CPROJCHAIN const* chain = first; chain; chain = chain->pNext)
-        paths.push_back({{chain->pPoints, chain->pPoints + chain->nPoints}, {}});
+    for (Places& piece : cut)
+        paths.push_back({std::move(piece), whole ? given.extras : Extras()});
     return paths;
 }
 
-/// Whether a cut left a path as it was, but for turns of the globe.
-bool isWhole(Paths const& cut, Path const& given) {
-    constexpr double insets = 1e-8; // degrees
-    auto const same = [](PROJPOINT const& a, PROJPOINT const& b) {
-        return std::fabs(std::remainder(a.x - b.x, 360)) <= insets && std::fabs(a.y - b.y) <= insets;
-    };
-    return cut.size() == 1 && cut.front().points.size() == given.points.size() &&
-           std::equal(given.points.begin(), given.points.end(), cut.front().points.begin(), same);
-}
-
-Paths cutRing(CProjector& map, Path const& ring) {
-    constexpr std::size_t fewest = 3;
-    return ring.points.size() < fewest ? Paths() : cutPath(map, &CProjector::LLPreclipPolygon, ring.points);
-}
-
 /// How often a ring goes around the globe, eastwards.
-long turns(std::vector<PROJPOINT> const& ring) {
+long turns(Places const& ring) {
     double sum = 0;
     for (std::size_t i = 0; i < ring.size(); ++i)
         if (double const step = ring[(i + 1) % ring.size()].x - ring[i].x; std::isfinite(step))
@@ -54,37 +40,49 @@ long turns(std::vector<PROJPOINT> const& ring) {
     return std::lround(sum / 360);
 }
 
-/// Where two rings can be joined by a bridge that the map shows whole: the places of its ends.
-std::optional<std::pair<std::size_t, std::size_t>> findBridge(CProjector& map, std::vector<PROJPOINT> const& outer,
-                                                              std::vector<PROJPOINT> const& hole) {
+/// A way from a point of a ring to a hole, around it and back.
+struct Detour {
+    std::size_t from; // which point
+    Places hole;      // its first point is also its last
+};
+
+/// Along a bridge that the map shows whole. Neither end is on the map's edge: there the cut moves it, a little inside,
+/// and not to the last digit the same in both directions.
+std::optional<Detour> findDetour(CProjector& map, Places const& ring, Places hole) {
     constexpr std::size_t tried = 16; // of either
-    std::size_t const step = outer.size() / tried + 1, holeStep = hole.size() / tried + 1;
-    for (std::size_t i = 0; i < outer.size(); i += step)
+    std::size_t const step = ring.size() / tried + 1, holeStep = hole.size() / tried + 1;
+    for (std::size_t i = 0; i < ring.size(); i += step)
         for (std::size_t k = 0; k < hole.size(); k += holeStep) {
-            Path const bridge{{outer[i], hole[k]}, {}};
-            if (isWhole(cutPath(map, &CProjector::LLPreclipPolyline, bridge.points), bridge))
-                return std::pair(i, k);
+            Places const bridge{ring[i], hole[k]};
+            if (!isWhole(preclipLine(map, bridge), bridge, rounding))
+                continue;
+            std::rotate(hole.begin(), hole.begin() + static_cast<std::ptrdiff_t>(k), hole.end());
+            hole.push_back(hole.front());
+            return Detour{i, std::move(hole)};
         }
     return std::nullopt;
 }
 
-/// Joins a hole to the ring around it. False where no bridge is found.
-bool joinHole(CProjector& map, std::vector<PROJPOINT>& outer, std::vector<PROJPOINT> hole) {
-    auto const bridge = findBridge(map, outer, hole);
-    if (!bridge)
-        return false;
-    std::rotate(hole.begin(), hole.begin() + static_cast<std::ptrdiff_t>(bridge->second), hole.end());
-    hole.push_back(hole.front());
-    if (turns(outer) * turns(hole) > 0) // both around a pole: what is between them goes around none
-        std::reverse(hole.begin(), hole.end());
-    hole.push_back(outer[bridge->first]);
-    outer.insert(outer.begin() + static_cast<std::ptrdiff_t>(bridge->first) + 1, hole.begin(), hole.end());
-    return true;
+/// One ring of a ring and its detours. Where both go around a pole, what is between them goes around none.
+Places join(Places const& ring, std::vector<Detour> detours) {
+    std::ranges::stable_sort(detours, {}, &Detour::from);
+    Places joined;
+    long around = turns(ring);
+    auto detour = detours.begin();
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        joined.push_back(ring[i]);
+        for (; detour != detours.end() && detour->from == i; ++detour) {
+            long const more = turns(detour->hole);
+            bool const isAgainst = around * more > 0;
+            if (isAgainst)
+                std::ranges::reverse(detour->hole);
+            around += isAgainst ? -more : more;
+            joined.insert(joined.end(), detour->hole.begin(), detour->hole.end());
+            joined.push_back(ring[i]);
+        }
+    }
+    return joined;
 }
-
-struct ByPlace {
-    bool operator()(PROJPOINT const& a, PROJPOINT const& b) const { return a.x != b.x ? a.x < b.x : a.y < b.y; }
-};
 
 /// The edges of rings; one that is walked twice is none. The cut may have turned a part of a ring around, so directions
 /// do not count.
@@ -93,49 +91,48 @@ public:
     void add(PROJPOINT const& a, PROJPOINT const& b) {
         if (a.x == b.x && a.y == b.y)
             return;
-        if (auto const there = find(a, b); there != m_ends.end()) {
-            m_ends.erase(there);
-            m_ends.erase(find(b, a));
-        } else {
-            m_ends.emplace(a, b);
-            m_ends.emplace(b, a);
-        }
+        toggle({a.x, a.y, b.x, b.y});
+        toggle({b.x, b.y, a.x, a.y});
     }
 
     /// Takes the edges out, ring by ring. An even number of them meets in every point, so each walk comes back.
     Paths rings() {
         Paths result;
-        while (!m_ends.empty()) {
+        while (!m_edges.empty()) {
             Path& ring = result.emplace_back();
-            for (auto edge = m_ends.begin(); edge != m_ends.end();) {
-                auto const [from, to] = *edge;
-                ring.points.push_back(from);
-                m_ends.erase(edge);
-                m_ends.erase(find(to, from));
-                edge = m_ends.find(to);
+            for (auto edge = m_edges.begin(); edge != m_edges.end();) {
+                auto const [x, y, nextX, nextY] = *edge;
+                ring.points.push_back({x, y});
+                toggle({x, y, nextX, nextY});
+                toggle({nextX, nextY, x, y});
+                edge = findFrom({nextX, nextY});
             }
         }
         return result;
     }
 
 private:
-    using Ends = std::multimap<PROJPOINT, PROJPOINT, ByPlace>; // both ways
+    using Edge = std::array<double, 4>; // two places
 
-    Ends::iterator find(PROJPOINT const& from, PROJPOINT const& to) {
-        auto const [begin, end] = m_ends.equal_range(from);
-        auto const found =
-            std::find_if(begin, end, [&](auto const& edge) { return edge.second.x == to.x && edge.second.y == to.y; });
-        return found == end ? m_ends.end() : found;
+    void toggle(Edge const& edge) {
+        if (auto const [there, isNew] = m_edges.insert(edge); !isNew)
+            m_edges.erase(there);
     }
 
-    Ends m_ends;
+    std::set<Edge>::iterator findFrom(PROJPOINT const& place) {
+        auto const found = m_edges.lower_bound({place.x, place.y, -HUGE_VAL, -HUGE_VAL});
+        bool const isThere = found != m_edges.end() && (*found)[0] == place.x && (*found)[1] == place.y;
+        return isThere ? found : m_edges.end();
+    }
+
+    std::set<Edge> m_edges; // both ways
 };
 
-Paths withoutBridges(Paths const& rings) {
+Paths withoutBridges(std::vector<Places> const& rings) {
     Edges edges;
-    for (Path const& ring : rings)
-        for (std::size_t i = 0; i < ring.points.size(); ++i)
-            edges.add(ring.points[i], ring.points[(i + 1) % ring.points.size()]);
+    for (Places const& ring : rings)
+        for (std::size_t i = 0; i < ring.size(); ++i)
+            edges.add(ring[i], ring[(i + 1) % ring.size()]);
     return edges.rings();
 }
 
@@ -209,32 +206,25 @@ std::vector<Paths> polygonsOf(Coordinates const& coordinates, int depth) {
 }
 
 Paths cutLine(CProjector& map, Path const& line) {
-    constexpr std::size_t fewest = 2;
-    if (line.points.size() < fewest)
-        return {};
-    Paths cut = cutPath(map, &CProjector::LLPreclipPolyline, line.points);
-    if (isWhole(cut, line))
-        cut.front().extras = line.extras;
-    return cut;
+    return pathsOf(preclipLine(map, line.points), line);
 }
 
 Paths cutPolygon(CProjector& map, Paths const& rings) {
     Paths result;
-    std::vector<PROJPOINT> joined; // the outer ring and the holes that the edge cuts
+    Places const* outer = nullptr; // where the edge cuts it
+    std::vector<Detour> detours;   // to the holes that it cuts
     for (Path const& ring : rings) {
-        Paths cut = cutRing(map, ring);
-        bool const isOuter = &ring == rings.data();
-        if (isWhole(cut, ring))
-            cut.front().extras = ring.extras;
-        else if (isOuter && !cut.empty())
-            joined = ring.points;
-        else if (!cut.empty() && !joined.empty() && joinHole(map, joined, ring.points))
-            continue;
-        if (!isOuter || joined.empty())
-            append(result, std::move(cut));
+        auto cut = preclipRing(map, ring.points);
+        bool const isCut = !cut.empty() && !isWhole(cut, ring.points);
+        if (isCut && &ring == rings.data())
+            outer = &ring.points;
+        else if (auto detour = isCut && outer ? findDetour(map, *outer, ring.points) : std::nullopt)
+            detours.push_back(*std::move(detour));
+        else
+            append(result, pathsOf(std::move(cut), ring));
     }
-    if (!joined.empty())
-        append(result, withoutBridges(cutRing(map, {joined, {}})));
+    if (outer)
+        append(result, withoutBridges(preclipRing(map, join(*outer, std::move(detours)))));
     return result;
 }
 

@@ -2,17 +2,15 @@
 #pragma once
 
 #include "cli/geojson/object.h"
+#include "cli/projection/preclip.h"
 
-#include <zrproj/zrproj.h>
-
-#include <string>
 #include <vector>
 
 namespace ZrProj::Command {
 
 /// A line, or a ring whose last point joins the first, not repeated.
 struct Path {
-    std::vector<PROJPOINT> points;
+    Places points;
     Extras extras; // by point; empty where there are none
 };
 

@@ -1,7 +1,11 @@
 #include "cli/map/drawing.h"
 
 #include "cli/map/layers.h"
+#include "cli/text/text.h"
 #include "cli/text/xml_text.h"
+
+#include <algorithm>
+#include <cmath>
 
 namespace ZrProj::Command {
 namespace {
@@ -12,9 +16,18 @@ std::string number(double value) {
     return std::to_string(wholeUnits(value));
 }
 
-std::string rectangle(MapPaper const& paper, char const* attributes) {
-    return "<rect width=\"" + number(paper.width()) + "\" height=\"" + number(paper.height()) + "\" " + attributes +
-           "/>";
+/// The map's rectangle, wider by `more` on every side.
+std::string rectangle(MapPaper const& paper, double more, char const* attributes) {
+    return "<rect x=\"" + number(-more) + "\" y=\"" + number(-more) + "\" width=\"" + number(paper.width() + 2 * more) +
+           "\" height=\"" + number(paper.height() + 2 * more) + "\" " + attributes + "/>";
+}
+
+/// In letters as large as there is room for in a picture of this width.
+std::string titleLine(std::string const& title, double width) {
+    constexpr double largest = 150, letterWidth = 0.6; // the latter of the size
+    double const fitting = (width - margin) / (letterWidth * static_cast<double>(characterCount(title)));
+    return "<text x=\"" + number(width / 2) + "\" y=\"170\" text-anchor=\"middle\" font-size=\"" +
+           number(std::floor(std::min(largest, fitting))) + "\" fill=\"#222\">" + xmlText(title) + "</text>\n";
 }
 
 std::string layers(MapPaper& paper, MapContent const& content) {
@@ -31,16 +44,16 @@ std::string layers(MapPaper& paper, MapContent const& content) {
     return result;
 }
 
-/// The layers within the frame; the frame is drawn where it cuts something off. What lies on the very edge of a whole
-/// map keeps its stroke.
+/// The layers within the frame; the frame is drawn where it cuts something off. A whole map's is wider by half the
+/// outline's stroke, which thus is seen whole where the map ends.
 std::string framed(MapPaper& paper, MapContent const& content, std::string const& id) {
+    constexpr double halfStroke = 5;
     std::string const clip = "frame" + id;
-    std::string result = "<clipPath id=\"" + clip + "\">" +
-                         rectangle(paper, paper.isWhole() ? "stroke=\"#000\" stroke-width=\"10\"" : "") +
+    std::string result = "<clipPath id=\"" + clip + "\">" + rectangle(paper, paper.isWhole() ? halfStroke : 0, "") +
                          "</clipPath>\n<g clip-path=\"url(#" + clip + ")\" fill-rule=\"evenodd\">\n" +
                          layers(paper, content) + "</g>\n";
     if (!paper.isWhole())
-        result += rectangle(paper, "fill=\"none\" stroke=\"#34495e\" stroke-width=\"10\"") + '\n';
+        result += rectangle(paper, 0, "fill=\"none\" stroke=\"#34495e\" stroke-width=\"10\"") + '\n';
     return result;
 }
 
@@ -53,9 +66,7 @@ MapPicture drawMap(PROJDATA const& record, MapContent const& content, double siz
     double const top = content.title.empty() ? margin : titleHeight;
     MapPicture picture{paper.width() + 2 * margin, paper.height() + top + margin, ""};
     if (!content.title.empty())
-        picture.elements = "<text x=\"" + number(picture.width / 2) +
-                           "\" y=\"170\" text-anchor=\"middle\" font-size=\"150\" fill=\"#222\">" +
-                           xmlText(content.title) + "</text>\n";
+        picture.elements = titleLine(content.title, picture.width);
     picture.elements += "<g transform=\"translate(" + number(margin) + ' ' + number(top) + ")\">\n" +
                         framed(paper, content, id) + "</g>\n";
     return picture;

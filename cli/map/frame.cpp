@@ -91,15 +91,19 @@ MapFrame usualFrame(MapProjection& map) {
 
 MapFrame frameAround(MapProjection& map, std::array<double, 4> const& bounds) {
     auto const [west, south, east, north] = bounds;
-    double const width = east > west ? east - west : east - west + 360;
+    double width = east - west; // eastwards
+    while (width <= 0)
+        width += 360;
     Extent extent;
-    for (int i = 0; i <= boundSteps; ++i)
-        for (int j = 0; j <= boundSteps; ++j) {
-            double const longitude = std::remainder(west + width * i / boundSteps, 360);
-            auto const place = map.shown({longitude, south + (north - south) * j / boundSteps});
-            if (auto const point = place ? map.at(*place) : std::nullopt)
-                extent.add(*point);
-        }
+    for (int j = 0; j <= boundSteps; ++j) {
+        Places parallel;
+        for (int i = 0; i <= boundSteps; ++i)
+            parallel.push_back(
+                {std::remainder(west + width * i / boundSteps, 360), south + (north - south) * j / boundSteps});
+        for (Places const& piece : map.cutLine(parallel)) // to both sides of where the map is cut
+            for (MapPoint const& point : map.at(piece))
+                extent.add(point);
+    }
     if (!(extent.box.width() > 0 && extent.box.height() > 0))
         throw UsageError("--bounds: the map shows nothing there");
     return {extent.box, false};

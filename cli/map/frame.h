@@ -16,8 +16,8 @@ struct MapFrame {
 /// the map where that is not much more.
 MapFrame usualFrame(MapProjection& map);
 
-/// What lies between longitudes and latitudes (west, south, east, north; east may be less than west). Throws UsageError
-/// when the map shows none of it.
+/// What lies between longitudes and latitudes: west, south, east, north, from west eastwards. Longitudes 360 degrees
+/// apart are the whole globe's. Throws UsageError when the map shows none of it.
 MapFrame frameAround(MapProjection& map, std::array<double, 4> const& bounds);
 
 } // namespace ZrProj::Command

@@ -1,6 +1,7 @@
 #include "cli/map/layers.h"
 
 #include "cli/map/distortion.h"
+#include "cli/text/text.h"
 #include "cli/text/xml_text.h"
 
 #include <algorithm>
@@ -35,12 +36,6 @@ std::string ellipse(MapPoint const& at, Ellipse const& shape) {
     std::string const turn = circle ? "" : "rotate(" + number(-shape.turn) + ')';
     return "<ellipse rx=\"" + number(shape.first) + "\" ry=\"" + number(shape.second) + "\" transform=\"translate(" +
            number(at.x) + ' ' + number(at.y) + ')' + turn + "\"/>\n";
-}
-
-/// How many letters a name has, counting a UTF-8 character as one.
-std::size_t letters(std::string const& name) {
-    return static_cast<std::size_t>(
-        std::count_if(name.begin(), name.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
 bool overlap(MapBox const& a, MapBox const& b) {
@@ -103,7 +98,8 @@ std::string pointLayer(MapPaper& paper, std::vector<LabelledPlace> const& points
         MapPoint const& at = found->point;
         dots += "<circle cx=\"" + number(at.x) + "\" cy=\"" + number(at.y) + "\" r=\"" + number(dotRadius) + "\"/>\n";
         double const left = at.x + 2 * dotRadius, low = at.y - labelHeight / 2;
-        MapBox const box{left, low, left + letterWidth * static_cast<double>(letters(point.name)), low + labelHeight};
+        MapBox const box{left, low, left + letterWidth * static_cast<double>(characterCount(point.name)),
+                         low + labelHeight};
         bool const fits = box.right < paper.width() &&
                           std::none_of(taken.begin(), taken.end(), [&](MapBox const& b) { return overlap(box, b); });
         if (point.name.empty() || !fits)

@@ -8,8 +8,6 @@
 #include <cmath>
 #include <iterator>
 #include <limits>
-#include <memory>
-#include <new>
 #include <utility>
 
 namespace ZrProj::Command {
@@ -19,23 +17,6 @@ constexpr double nowhere = std::numeric_limits<double>::quiet_NaN();
 
 bool isShown(PROJPOINT const& point) {
     return point.x != DBL_MAX && point.y != DBL_MAX && std::isfinite(point.x) && std::isfinite(point.y);
-}
-
-struct FreeChains {
-    void operator()(CPROJCHAIN* chains) const { ProjFreeChains(chains); }
-};
-
-using Cut = bool (CProjector::*)(PROJPOINT const*, unsigned, CPROJCHAIN**);
-
-std::vector<Places> cut(CProjector& projector, Cut method, std::span<PROJPOINT const> places) {
-    CPROJCHAIN* list = nullptr;
-    if (!(projector.*method)(places.data(), static_cast<unsigned>(places.size()), &list))
-        throw std::bad_alloc();
-    std::unique_ptr<CPROJCHAIN, FreeChains> const chains(list);
-    std::vector<Places> result;
-    for (CPROJCHAIN const* chain = list; chain; chain = chain->pNext)
-        result.emplace_back(chain->pPoints, chain->pPoints + chain->nPoints);
-    return result;
 }
 
 /// The ring around half of the plane of longitude and latitude, with a point at each degree.
@@ -85,11 +66,11 @@ std::vector<MapPoint> MapProjection::at(std::span<PROJPOINT const> places) {
 }
 
 std::vector<Places> MapProjection::cutLine(std::span<PROJPOINT const> line) {
-    return line.size() < 2 ? std::vector<Places>{} : cut(m_projector, &CProjector::LLPreclipPolyline, line);
+    return preclipLine(m_projector, line);
 }
 
 std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
-    return ring.size() < 3 ? std::vector<Places>{} : cut(m_projector, &CProjector::LLPreclipPolygon, ring);
+    return preclipRing(m_projector, ring);
 }
 
 /// Where the two halves of the outline meet, and opposite to it: far from meridians where maps end.

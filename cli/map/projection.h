@@ -1,7 +1,7 @@
 // A projection as a drawing uses it: what of lines and areas it shows, and where on the map that is.
 #pragma once
 
-#include <zrproj/zrproj.h>
+#include "cli/projection/preclip.h"
 
 #include <optional>
 #include <span>
@@ -13,9 +13,6 @@ namespace ZrProj::Command {
 struct MapPoint {
     double x, y;
 };
-
-/// Longitudes and latitudes, one after another.
-using Places = std::vector<PROJPOINT>;
 
 class MapProjection {
 public:

@@ -1,5 +1,6 @@
 #include "cli/text/text.h"
 
+#include <algorithm>
 #include <cstddef>
 #include <system_error>
 
@@ -11,6 +12,11 @@ std::string squeezed(std::string_view text) {
         if (isLetter(c) || isDigit(c) || static_cast<unsigned char>(c) >= 0x80)
             result += lowerCase(c);
     return result;
+}
+
+std::size_t characterCount(std::string_view text) {
+    return static_cast<std::size_t>(
+        std::count_if(text.begin(), text.end(), [](char c) { return (static_cast<unsigned char>(c) & 0xC0) != 0x80; }));
 }
 
 std::string systemMessage(int error) {

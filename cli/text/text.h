@@ -1,6 +1,7 @@
 // Small helpers for text.
 #pragma once
 
+#include <cstddef>
 #include <string>
 #include <string_view>
 
@@ -30,6 +31,9 @@ constexpr std::string_view trimmed(std::string_view text) {
 /// The letters and digits of a text, in lower case: what "WGS 84" and "wgs84" have in common. Letters beyond ASCII stay
 /// as they are.
 std::string squeezed(std::string_view text);
+
+/// How many characters a text in UTF-8 has.
+std::size_t characterCount(std::string_view text);
 
 /// What an errno means.
 std::string systemMessage(int error);

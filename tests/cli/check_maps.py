@@ -13,6 +13,7 @@ import xml.etree.ElementTree as xml
 SVG = "{http://www.w3.org/2000/svg}"
 BEYOND = 60  # tenths of a pixel
 ROW = 5  # tenths of a pixel
+STROKE = 4  # tenths of a pixel: half of the edge's, less one for rounding
 LONGEST = 0.4  # of the map's longer side, for one stroke
 
 
@@ -49,11 +50,13 @@ def check_path(points, closed, width, height):
         assert outside or not long, f"a stroke from {x1} {y1} to {x2} {y2} on a map of {width} by {height}"
 
 
-def check_edge(paths, width, height):
-    """The edge of a map that is drawn whole goes all around it."""
+def check_edge(paths, width, height, more):
+    """The edge of a map that is drawn whole goes all around it, and its stroke is not cut off."""
     points = [point for path, _ in paths for point in path]
     for extent, side in (([x for x, _ in points], width), ([y for _, y in points], height)):
-        assert min(extent) < 0.02 * side and max(extent) > 0.98 * side, f"the edge goes from {min(extent)} to {max(extent)}"
+        low, high = min(extent), max(extent)
+        assert low < 0.02 * side and high > 0.98 * side, f"the edge goes from {low} to {high}"
+        assert low - STROKE >= -more and high + STROKE <= side + more, "the edge's stroke is cut off"
 
 
 def check_rectangle(paths, width, height):
@@ -65,7 +68,8 @@ def check_rectangle(paths, width, height):
 
 def check_map(group, rectangle):
     clip = group.find(f"{SVG}clipPath/{SVG}rect")
-    width, height = int(clip.get("width")), int(clip.get("height"))
+    more = -int(clip.get("x"))
+    width, height = int(clip.get("width")) - 2 * more, int(clip.get("height")) - 2 * more
     layers = [list(subpaths(path.get("d"))) for path in group.find(f"{SVG}g[@clip-path]").findall(f"{SVG}path")]
     assert len(layers) >= 3, "sea, land and graticule"
     for layer in layers:
@@ -74,7 +78,7 @@ def check_map(group, rectangle):
     if rectangle:
         check_rectangle(layers[-1], width, height)
     if group.find(f"{SVG}rect") is None:
-        check_edge(layers[-1], width, height)
+        check_edge(layers[-1], width, height, more)
     return filled(layers[1]) / filled(layers[0])
 
 

@@ -54,6 +54,15 @@ check 'a line cut in two loses its heights' 0 \
 check 'what is not cut keeps them, and runs counter-clockwise' 0 \
     '{"type":"Polygon","coordinates":[[[0,0,1],[111321,0,3],[0,110567,2],[0,0,1]]]}' '' "${cut[@]}" \
     <<<'{"type":"Polygon","coordinates":[[[0,0,1],[0,1,2],[1,0,3],[0,0,1]]]}'
+check 'an edge of 360 degrees has no width' 0 "$(feature null)"$'\n{"type":"Polygon","coordinates":[]}' '' "${cut[@]}" \
+    <<<"$(feature '{"type":"Polygon","coordinates":[[[-180,-90],[180,-90],[180,90],[-180,90],[-180,-90]]]}')
+{\"type\":\"Polygon\",\"coordinates\":[[[-180,-90],[180,-90],[180,90],[-180,-90]]]}"
+count=32000 # of holes that are all cut
+holes=$(awk -v n=$count 'BEGIN { printf "[[150,-81],[-150,-81],[-150,81],[150,81],[150,-81]]"
+    for (i = 0; i < n; ++i) { s = -80 + 160 * i / n; t = s + 80 / n
+        printf ",[[179,%.9f],[179,%.9f],[-179,%.9f],[-179,%.9f],[179,%.9f]]", s, t, t, s, s } }')
+holes=$(timeout 15 "$zrproj" "${cut[@]}" <<<"{\"type\":\"Polygon\",\"coordinates\":[$holes]}")
+[[ $holes == '{"type":"MultiPolygon"'* ]] || fail 'many holes in little time' "${holes::100}"
 
 # Not a feature's fault: what follows it is converted.
 bad() { # NAME GEOMETRY REASON

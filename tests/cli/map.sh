@@ -57,6 +57,19 @@ draw few --utm 17N --points - --bounds=-85,40,-74,47 --land none <<<$'lon;lat;la
 grep -q '<text[^>]*>Cities &#60;&#38;&#34;&#62; of the world</text>' "$work/cities.svg" || fail 'title' ''
 [[ $(grep -c '<circle' "$work/cities.svg") == 418 && $(grep -c '<circle' "$work/few.svg") == 1 ]] || fail 'points' ''
 grep -q '>A &#38; B</text>' "$work/few.svg" && ! grep -q far "$work/few.svg" || fail 'names' "$(<"$work/few.svg")"
+# All around, and over the antimeridian.
+extent() { "$zrproj" map --projection miller --bounds="$1" --lon0="${2:-0}" --title '' | sed -n 's/.*viewBox="0 0 \([^"]*\)".*/\1/p'; }
+for bounds in -180,-30,180,30 180,-30,-180,30 0,-30,360,30; do
+    [[ $(extent $bounds) == "$(extent -180,-30,180,30)" ]] || fail "bounds $bounds" "$(extent $bounds)"
+done
+[[ $(extent 120,-30,-120,30 180) == "$(extent -60,-30,60,30)" ]] || fail 'bounds over the antimeridian' "$(extent 120,-30,-120,30 180)"
+
+# A title has the room that its characters need, and is no larger than usual.
+title_size() { "$zrproj" map --projection robinson --size 400 --title "$1" | sed -n 's/.*<text[^>]*font-size="\([0-9]*\)".*/\1/p'; }
+for letter in W é 東; do
+    sizes=$(for count in 20 60; do title_size "$(printf "%${count}s" '' | sed "s/ /$letter/g")"; done)
+    [[ $sizes == $'150\n113' ]] || fail "titles of $letter" "$sizes"
+done
 python3 -c 'import sys, xml.etree.ElementTree as xml; [xml.parse(f) for f in sys.argv[1:]]' "$work"/{cities,few}.svg ||
     fail 'valid XML' ''
 said=$(grep -lE '="[^"]*(nan|inf|[0-9]e[+-]?[0-9]|[0-9]{6})' "$work"/*.svg) && fail 'numbers' "$said"
@@ -71,6 +84,8 @@ check 'no map' 2 '' 'zrproj: Unprojected*no map to draw' map --projection 0
 check 'every zone' 2 '' 'zrproj: --utm auto*' map --utm auto
 check 'nothing there' 2 '' 'zrproj: --bounds: the map shows nothing there' map --projection orthographic --bounds 170,-5,-170,5
 check 'bad bounds' 2 '' 'zrproj: --bounds: "1,2,3"*' map --projection robinson --bounds 1,2,3
+check 'bounds without width' 2 '' 'zrproj: --bounds: the west is the east' map --projection robinson --bounds 0,0,0,10
+check 'bounds without height' 2 '' 'zrproj: --bounds: the south is not below*' map --projection robinson --bounds 0,10,10,10
 check 'bad step' 2 '' 'zrproj: --graticule: "0.01"*' map --projection robinson --graticule 0.01
 check 'no such file' 1 '' 'zrproj: cannot open *: No such file or directory' map --projection robinson --land "$work/none"
 check 'no land' 1 '' 'zrproj: <stdin>:2: "a,b" is not*' map --projection robinson --land - <<<$'1,2\na,b'

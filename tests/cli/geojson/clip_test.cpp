@@ -3,6 +3,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cmath>
 #include <numbers>
 #include <random>
@@ -76,6 +77,49 @@ TEST(GeoJsonClip, HolesOverTheEdgeLeaveWhatIsBetweenThem) {
             for (double y = -85; y < 86; y += 1.37)
                 EXPECT_EQ(isFilled(cut, {x, y}), isFilled(each, {x, y})) << i << ": " << x << ' ' << y;
     }
+}
+
+/// The longest edge along a meridian.
+double longestOn(double lon, Paths const& rings) {
+    double longest = 0;
+    for (Path const& ring : rings)
+        for (std::size_t i = 0; i < ring.points.size(); ++i) {
+            PROJPOINT const a = ring.points[i], b = ring.points[(i + 1) % ring.points.size()];
+            if (std::fabs(a.x - lon) < 1e-8 && std::fabs(b.x - lon) < 1e-8)
+                longest = std::fmax(longest, std::fabs(b.y - a.y));
+        }
+    return longest;
+}
+
+TEST(GeoJsonClip, RingsThatTouchOnTheEdgeAreNotJoinedAlongIt) {
+    Paths const rings{{{{180, -20}, {-160, 0}, {180, 20}, {160, 0}}, {}},
+                      {{{180, -10}, {-170, 0}, {180, 10}, {170, 0}}, {}}};
+    CProjector world = makeMap(ProjTypeSinusoidal, 0);
+    Paths const cut = cutPolygon(world, rings);
+    EXPECT_EQ(cut.size(), 2U); // one on either side
+    for (double const lon : {-180, 180}) {
+        EXPECT_GT(longestOn(lon, cut), 0.5);
+        EXPECT_LT(longestOn(lon, cut), 1.001);
+    }
+}
+
+TEST(GeoJsonClip, NothingIsLeftOfBridges) {
+    PROJDATA record = {};
+    record.Type = ProjTypeOrthographic;
+    record.Ellipsoid = EllipsoidTypeWgs84;
+    record.Lon0 = 90;
+    CProjector hemisphere(&record);
+    Paths const cut =
+        cutPolygon(hemisphere, {{{{-158.4, -19.7}, {-157.8, 19.8}, {180, 40}, {158, 0}, {180, -32.1}}, {}},
+                                {{{180, -9.8}, {-171.9, -2.2}, {180, 8.2}, {171.3, 0}}, {}}});
+    ASSERT_EQ(cut.size(), 1U);
+    for (PROJPOINT const& point : cut[0].points)
+        EXPECT_EQ(std::count_if(cut[0].points.begin(), cut[0].points.end(),
+                                [&](PROJPOINT const& p) {
+                                    return std::fabs(p.x - point.x) < 1e-7 && std::fabs(p.y - point.y) < 1e-7;
+                                }),
+                  1)
+            << point.x << ' ' << point.y;
 }
 
 TEST(GeoJsonClip, ABeltAroundThePoleIsOneRing) {
