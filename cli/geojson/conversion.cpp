@@ -10,6 +10,7 @@
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <iterator>
 #include <limits>
 
 namespace ZrProj::Command {
@@ -259,8 +260,8 @@ void GeoJsonConversion::clipPolygons(GeoObject& geometry) {
     for (Paths const& polygon : polygonsOf(*geometry.coordinates, findGeometryKind(geometry.type)->depth)) {
         Paths rings = cutPolygon(*m_map, polygon);
         project(rings);
-        for (Paths& part : groupRings(std::move(rings)))
-            cut.push_back(std::move(part));
+        auto parts = groupRings(std::move(rings));
+        std::move(parts.begin(), parts.end(), std::back_inserter(cut));
     }
     if (geometry.type == "Polygon" && cut.size() > 1)
         geometry.type = "MultiPolygon";

@@ -98,7 +98,7 @@ public:
 private:
     /// A place on the longest arc that outside() knows; not its middle, through which an edge might well go.
     double reference() const {
-        double best = 0, chosen = area_.referenceBegin, last = area_.referenceBegin;
+        double last = area_.referenceBegin, chosen = last, best = 0;
         auto const consider = [&](double t) {
             double const end = std::clamp(t, area_.referenceBegin, area_.referenceEnd);
             if (end - last > best) {

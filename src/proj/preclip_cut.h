@@ -15,12 +15,13 @@ template <class Area> void cut(Area const& area, Path path, std::vector<Path>& o
         area.settle(path, unrolled);
     auto pieces = piecesOf(area, path, unrolled);
     if (pieces.isWhole) {
-        bool const isBoundary = pieces.isBoundary;
-        if (!pieces.isKept)
-            path = {std::move(pieces.list.front().points), path.isRing, false};
-        bool const isRing = path.isRing;
-        out.push_back(std::move(path));
-        if (isRing && !isBoundary && area.canBeHeld() && unrolled.holds(area.farOutside()))
+        bool const goesAround =
+            path.isRing && !pieces.isBoundary && area.canBeHeld() && unrolled.holds(area.farOutside());
+        if (pieces.isKept)
+            out.push_back(std::move(path));
+        else
+            out.push_back({std::move(pieces.list.front().points), path.isRing, false});
+        if (goesAround)
             out.push_back(outline(area, unrolled.holdsItsLeft()));
         return;
     }

@@ -45,13 +45,12 @@ double turnsOff(double step) {
 
 } // namespace
 
-Unrolled::Unrolled(Path const& path) : isRing_(path.isRing) {
-    auto const& given = path.points;
-    points_.reserve(given.size() + 1);
-    points_.push_back(given.front());
+Unrolled::Unrolled(Path const& path) : given_(path.points), isRing_(path.isRing) {
+    points_.reserve(given_.size() + 1);
+    points_.push_back(given_.front());
     double turned = 0; // 360 times a whole number
-    for (std::size_t i = 1; i < given.size() + (path.isRing ? 1 : 0); ++i) {
-        auto const &from = given[i - 1], &to = given[i % given.size()];
+    for (std::size_t i = 1; i < given_.size() + (path.isRing ? 1 : 0); ++i) {
+        auto const &from = given_[i - 1], &to = given_[i % given_.size()];
         turned += turnsOff(to.x - from.x);
         points_.push_back({to.x + turned, to.y});
         if (path.isRing)
@@ -67,14 +66,22 @@ bool Unrolled::holdsNorthPole() const {
     return std::fabs(mean) < 1e-9 ? turns_ > 0 : mean > 0;
 }
 
+/// By the longitude given, so that a ring's first point, which is its last one too, is in one place.
+double Unrolled::eastOf(double lon, std::size_t i) const {
+    return std::remainder(given_[i % given_.size()].x - lon, 360.0);
+}
+
 bool Unrolled::holds(PROJPOINT const& place) const {
     bool inside = holdsNorthPole();
+    double from = eastOf(place.x, 0);
     for (std::size_t i = 1; i < points_.size(); ++i) {
         auto const &a = points_[i - 1], &b = points_[i];
-        double const west = a.x < b.x ? a.x : b.x, east = a.x < b.x ? b.x : a.x;
-        double const lon = place.x + 360 * std::ceil((west - place.x) / 360);
-        if (lon < east && lon >= west && a.y + (lon - a.x) / (b.x - a.x) * (b.y - a.y) > place.y)
+        double const east = eastOf(place.x, i), step = b.x - a.x;
+        double const to = east + 360 * std::round((from + step - east) / 360); // over the globe's far side
+        double const meridian = 360 * std::ceil(std::fmin(from, to) / 360);    // the place's, or the same again
+        if (meridian < std::fmax(from, to) && a.y + (meridian - from) / (to - from) * (b.y - a.y) > place.y)
             inside = !inside;
+        from = east;
     }
     return inside;
 }

@@ -24,7 +24,8 @@ std::vector<Path> linesOf(std::span<PROJPOINT const> points);
 /// The caller's ring without the points that are no places; nothing where fewer than three points are left.
 std::vector<Path> ringsOf(std::span<PROJPOINT const> points);
 
-/// Longitudes running on over the antimeridian: the short way from point to point is a straight line.
+/// Longitudes running on over the antimeridian: the short way from point to point is a straight line. The path must
+/// outlive it.
 class Unrolled {
 public:
     explicit Unrolled(Path const& path);
@@ -48,6 +49,10 @@ public:
     bool holdsItsLeft() const;
 
 private:
+    /// How far east of a longitude a point of the path is, -180 to 180.
+    double eastOf(double lon, std::size_t i) const;
+
+    std::vector<PROJPOINT> const& given_;
     /// The edges, a ring's last one as well: it ends in the first point, turns of the globe further on.
     std::vector<PROJPOINT> points_;
     bool isRing_;

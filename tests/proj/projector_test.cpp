@@ -47,8 +47,7 @@ TEST(Projector, CopiesDeeplyWithoutTouchingTheSource) {
     EXPECT_TRUE(converts(*copy));
     EXPECT_EQ(source.Result(), 1); // a handle of its own: the source's result stands
     CProjector const none;
-    CProjector copyOfNone(none);
-    EXPECT_FALSE(copyOfNone.IsCreated());
+    EXPECT_FALSE(CProjector(none).IsCreated());
 }
 
 // What the address sanitizer watches: no sharer frees what another still uses.

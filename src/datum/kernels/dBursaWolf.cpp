@@ -36,7 +36,7 @@ struct BursaWolf {
     double a1, e1, oneLessE1;                        // where the points come from
     double oneLessF, e2a;                            // where they go to
 
-    BursaWolf(DATUM2WGS84 const& record, double sign, double factor, Figures from, Figures to)
+    BursaWolf(DATUM2WGS84 const& record, double sign, double factor, Figures const& from, Figures const& to)
         : primeMeridian(sign * record.PrimeMeridian), dX(sign * record.dX), dY(sign * record.dY), dZ(sign * record.dZ),
           rX(sign * radiansOf(record.rX)), rY(sign * radiansOf(record.rY)), rZ(sign * radiansOf(record.rZ)), k(factor),
           a1(from.a), e1(from.e2), oneLessE1(1 - from.e2), oneLessF(1 - to.f), e2a(to.e2 * to.a) {}
