@@ -42,7 +42,7 @@ MapProjection::MapProjection(PROJDATA record) : m_record(record) {
     m_projector.Create(&record);
     m_projector.GetInfo(&m_record);
     if (outline().empty())
-        throw UsageError("with these parameters " + projectionName(record.Type) + " has no map");
+        throw UsageError(noMapText(record));
 }
 
 std::optional<PROJPOINT> MapProjection::shown(PROJPOINT place) {

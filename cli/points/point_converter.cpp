@@ -52,7 +52,7 @@ PointConverter::PointConverter(PROJDATA record) : m_record(underlying(record)), 
     m_projector.GetInfo(&record);
     m_record = underlying(record);
     if (!hasMap(m_projector, m_record))
-        throw UsageError("with these parameters " + projectionName(m_record.Type) + " has no map");
+        throw UsageError(noMapText(m_record));
 }
 
 /// The longitude within 180 degrees of the central one.

@@ -196,6 +196,12 @@ std::string projectionName(ProjType type) {
     return name.data();
 }
 
+std::string noMapText(PROJDATA const& record) {
+    bool const lacksFlag = record.Type == ProjTypeHotineObliqueMercator && record.Alpha != 0 && !record.bUseAlpha;
+    return "with these parameters " + projectionName(record.Type) + " has no map" +
+           (lacksFlag ? "; --alpha counts only with --use-alpha" : "");
+}
+
 std::string ellipsoidName(EllipsoidType type) {
     std::array<char, 64> name{};
     EllipsoidInfo(type, name.data(), nullptr, nullptr);

@@ -36,6 +36,8 @@ void setParameter(PROJDATA& record, Parameter const& parameter, std::string_view
 std::string parameterText(PROJDATA const& record, Parameter const& parameter);
 
 std::string projectionName(ProjType type);
+/// What to say where a record makes no map.
+std::string noMapText(PROJDATA const& record);
 std::string ellipsoidName(EllipsoidType type);
 
 /// Find by number or name, or throw UsageError.
