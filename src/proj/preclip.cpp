@@ -50,10 +50,11 @@ Chains chainOf(std::span<PROJPOINT const> points, bool isClosed, Chains rest) {
     return chain;
 }
 
-Chains chainsOf(std::vector<Path> const& paths, std::span<PROJPOINT const> given) {
+Chains chainsOf(std::vector<Path> paths, std::span<PROJPOINT const> given) {
+    std::ranges::reverse(paths); // each goes in front of those behind it
     Chains chains;
-    for (auto path = paths.rbegin(); path != paths.rend(); ++path)
-        chains = chainOf(path->isAsGiven ? given : path->points, path->isRing, std::move(chains));
+    for (auto const& path : paths)
+        chains = chainOf(path.isAsGiven ? given : path.points, path.isRing, std::move(chains));
     return chains;
 }
 
