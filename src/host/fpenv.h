@@ -10,23 +10,26 @@
 
 namespace ZrProj {
 
-/// Holds the default floating-point environment while it lives.
+/// Holds the default floating-point environment while it lives, but for flags that may be set already.
 class FloatingPointScope {
 public:
     FloatingPointScope(FloatingPointScope const&) = delete;
     FloatingPointScope& operator=(FloatingPointScope const&) = delete;
 
 #if defined(__x86_64__)
-    // All arithmetic is SSE or above, governed by MXCSR alone; the x87 state is never touched.
+    // All arithmetic is SSE or above, governed by MXCSR alone; the x87 state is never touched. Writing MXCSR may take
+    // longer than converting a point, so it is written only where it must change; flags that are set stay meanwhile.
     FloatingPointScope() noexcept : saved_(_mm_getcsr()) {
-        _mm_setcsr(defaultState);
+        if ((saved_ | flags) != (defaultState | flags))
+            _mm_setcsr(defaultState);
     }
     ~FloatingPointScope() {
-        _mm_setcsr(saved_);
+        if (_mm_getcsr() != saved_)
+            _mm_setcsr(saved_);
     }
 
 private:
-    static constexpr unsigned defaultState = 0x1F80;
+    static constexpr unsigned defaultState = 0x1F80, flags = _MM_EXCEPT_MASK;
     unsigned saved_;
 #else
     FloatingPointScope() noexcept {
