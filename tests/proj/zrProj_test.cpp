@@ -8,8 +8,10 @@
 #include <gtest/gtest.h>
 
 #include <algorithm>
+#include <cfenv>
 #include <cfloat>
 #include <cmath>
+#include <cstring>
 #include <limits>
 #include <random>
 #include <thread>
@@ -265,6 +267,25 @@ TEST(Conversion, IsNotHitByTheHostsTraps) {
         untouched = traps.untouched();
     }
     EXPECT_TRUE(untouched);
+}
+
+TEST(Conversion, TheHostsFlagsNeitherMatterNorChange) {
+    Handle const utm(utm17());
+    std::vector<std::vector<PROJPOINT>> results;
+    for (int const flags : {0, FE_INVALID | FE_DIVBYZERO, FE_INEXACT | FE_OVERFLOW, int{FE_ALL_EXCEPT}}) {
+        std::vector<PROJPOINT> points{{-81.5, 45}, {-81.5, 1e300}, {1e-310, 0}, {notANumber, 2}, {-80, 10}};
+        std::feclearexcept(FE_ALL_EXCEPT);
+        std::feraiseexcept(flags);
+        int const before = std::fetestexcept(FE_ALL_EXCEPT);
+        bool const done = ProjForward(utm.handle, points.data(), 5);
+        int const after = std::fetestexcept(FE_ALL_EXCEPT);
+        std::feclearexcept(FE_ALL_EXCEPT);
+        EXPECT_TRUE(done) << flags;
+        EXPECT_EQ(after, before) << flags;
+        results.push_back(points);
+    }
+    for (auto const& points : results)
+        EXPECT_EQ(std::memcmp(points.data(), results[0].data(), points.size() * sizeof(PROJPOINT)), 0);
 }
 
 TEST(Conversion, RunsOnSeveralThreadsAtOnce) {
