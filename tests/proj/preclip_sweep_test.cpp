@@ -38,7 +38,7 @@ struct Shape {
 
 int shapesPerProjection() {
     char const* const asked = std::getenv("ZRPROJ_PRECLIP_SWEEP");
-    return asked ? static_cast<int>(std::strtol(asked, nullptr, 10)) : 400;
+    return asked ? static_cast<int>(std::strtol(asked, nullptr, 10)) : 200;
 }
 
 double stepOf(double from, double to) {
