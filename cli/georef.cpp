@@ -96,10 +96,11 @@ public:
         app.add_option("--columns", m_columns, "Columns of the points, x first: numbers from 1, or names of the header")
             ->type_name("X,Y");
         app.add_option("--precision", m_precision, "Decimals of the result, 0 to 15 (3)")->type_name("N");
+        app.add_flag("--strict", m_strict, "Status 1 also when a point cannot be mapped")->disable_flag_override();
     }
 
     int run(Output& output) override {
-        GeorefJob job{{Direction::Inverse, {}, nullptr, false}, decimals(), m_files};
+        GeorefJob job{{Direction::Inverse, {}, nullptr, false}, decimals(), m_strict, m_files};
         if (!m_columns.empty())
             job.columns.columns = parseColumns(m_columns, false);
         if (job.files.empty())
@@ -124,6 +125,7 @@ private:
     ControlOptions m_controls;
     std::vector<std::string> m_files;
     std::string m_columns, m_precision;
+    bool m_strict = false;
 };
 
 class Georef : public Subcommand {

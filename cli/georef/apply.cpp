@@ -39,7 +39,7 @@ private:
 int applyGeoref(CGeorefTransform& map, GeorefJob const& job, Output& output) {
     Application application(map);
     RowWriter const writer(output, job.decimals, false);
-    return RowStream(application, job.files, job.columns, writer, output).run(false);
+    return RowStream(application, job.files, job.columns, writer, output).run(job.strict);
 }
 
 } // namespace ZrProj::Command

@@ -69,15 +69,16 @@ class WindowArea {
 public:
     struct Spot {
         double lon, lat;
-        double turn; // which copy of the window it is nearest to, in degrees
+        double x;    // the longitude in the window itself, or beside it
+        double turn; // from there to `lon`, turns of the globe in degrees
         bool inside;
     };
 
     explicit WindowArea(formulas::Window const& window);
 
     /// Moves the points on the meridian where the window meets itself to the side that the path comes from, or to the
-    /// side of its first longitude where the path stays there.
-    void settle(Path& path, Unrolled& unrolled) const;
+    /// side of its first longitude where all of the path is there, which is the answer.
+    bool settle(Path& path, Unrolled& unrolled) const;
 
     Spot at(PROJPOINT const& given, double lon) const;
     static bool holds(Spot const& spot) { return spot.inside; }
@@ -174,16 +175,19 @@ private:
 /// All but an ellipse in longitude and latitude; the parameter is the eccentric angle.
 class HoleArea : public CurvedArea {
 public:
-    using Spot = PROJPOINT;
+    struct Spot {
+        double lon, lat;
+        double square; // of the distance from the centre, in units of the half axes
+    };
 
     explicit HoleArea(formulas::Hole const& hole) : hole_(hole) {}
 
     bool canBeHeld() const { return !hole_.isAtCut; }
 
-    static Spot at(PROJPOINT const& given, double lon) { return {lon, given.y}; }
-    bool holds(Spot const& spot) const;
+    Spot at(PROJPOINT const& given, double lon) const;
+    static bool holds(Spot const& spot);
     void crossings(Spot const& a, Spot const& b, Crossings& out) const;
-    bool isOnBoundary(Spot const& spot) const;
+    static bool isOnBoundary(Spot const& spot);
 
     static constexpr std::array<double, 2> sides = {0, 360};
     PROJPOINT onBoundary(double t) const { return onEllipse(t, 1); }
@@ -194,7 +198,7 @@ public:
 
 private:
     /// From the centre, the copy nearest to `lon`, in units of the half axes.
-    PROJPOINT scaled(Spot const& spot, double lon) const;
+    PROJPOINT scaled(PROJPOINT const& point, double lon) const;
     PROJPOINT onEllipse(double t, double size) const;
 
     formulas::Hole hole_;

@@ -12,7 +12,8 @@ namespace ZrProj::preclip {
 template <class Area> void cut(Area const& area, Path path, std::vector<Path>& out) {
     Unrolled unrolled(path);
     if constexpr (requires { area.settle(path, unrolled); })
-        area.settle(path, unrolled);
+        if (area.settle(path, unrolled) && path.isRing)
+            return; // without width
     auto pieces = piecesOf(area, path, unrolled);
     if (pieces.isWhole) {
         bool const goesAround =
@@ -36,16 +37,12 @@ template <class Area> void cut(Area const& area, Path path, std::vector<Path>& o
     }
 }
 
-/// Whether a path is too short for a line, or for a ring, whose last point may be its first one again; or whether a cut
-/// left a ring without width.
+/// Whether a path is too short for a line, or for a ring, whose last point may be its first one again.
 inline bool isSliver(Path const& path) {
     auto const& points = path.points;
-    if (!path.isRing)
-        return points.size() < 2;
     bool const repeats =
-        points.size() > 1 && points.front().x == points.back().x && points.front().y == points.back().y;
-    auto const isOnOneMeridian = [&](PROJPOINT const& point) { return point.x == points.front().x; };
-    return points.size() - (repeats ? 1 : 0) < 3 || (!path.isAsGiven && std::ranges::all_of(points, isOnOneMeridian));
+        path.isRing && points.size() > 1 && points.front().x == points.back().x && points.front().y == points.back().y;
+    return points.size() - (repeats ? 1 : 0) < (path.isRing ? 3U : 2U);
 }
 
 template <class Area> std::vector<Path> cut(Area const& area, std::vector<Path> paths) {

@@ -83,9 +83,10 @@ inline void tidy(std::vector<Piece>& pieces, bool isRing) {
         last.to = pieces.front().to;
         pieces.front() = std::move(last);
         pieces.pop_back();
-    } else if (isRing && pieces.size() == 1 && std::isnan(pieces.front().from) != std::isnan(pieces.front().to)) {
-        pieces.clear(); // a boundary crossed but once: rounding at a touching point
     }
+    auto const isOpen = [](Piece const& piece) { return std::isnan(piece.from) || std::isnan(piece.to); };
+    if (isRing && std::ranges::any_of(pieces, isOpen))
+        pieces.clear(); // a boundary crossed but once: rounding at a touching point
     std::erase_if(pieces, isNothing);
 }
 

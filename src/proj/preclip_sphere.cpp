@@ -110,26 +110,29 @@ double squareOf(PROJPOINT const& p) {
 
 } // namespace
 
-PROJPOINT HoleArea::scaled(Spot const& spot, double lon) const {
+PROJPOINT HoleArea::scaled(PROJPOINT const& point, double lon) const {
     double const turned = 360 * std::round((lon - hole_.lon) / 360);
-    return {(spot.x - hole_.lon - turned) / hole_.halfWidth, (spot.y - hole_.lat) / hole_.halfHeight};
+    return {(point.x - hole_.lon - turned) / hole_.halfWidth, (point.y - hole_.lat) / hole_.halfHeight};
 }
 
-bool HoleArea::holds(Spot const& spot) const {
-    return squareOf(scaled(spot, spot.x)) >= nearlyOnEllipse;
+HoleArea::Spot HoleArea::at(PROJPOINT const& given, double lon) const {
+    return {lon, given.y, squareOf(scaled(given, given.x))};
 }
 
-bool HoleArea::isOnBoundary(Spot const& spot) const {
-    double const square = squareOf(scaled(spot, spot.x));
-    return square >= nearlyOnEllipse && square <= 2 - nearlyOnEllipse;
+bool HoleArea::holds(Spot const& spot) {
+    return spot.square >= nearlyOnEllipse;
+}
+
+bool HoleArea::isOnBoundary(Spot const& spot) {
+    return holds(spot) && spot.square <= 2 - nearlyOnEllipse;
 }
 
 void HoleArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
     double const low = hole_.lat - hole_.halfHeight, high = hole_.lat + hole_.halfHeight;
-    if ((a.y < low && b.y < low) || (a.y > high && b.y > high))
+    if ((a.lat < low && b.lat < low) || (a.lat > high && b.lat > high))
         return;
-    double const lon = (a.x + b.x) / 2;
-    auto const p = scaled(a, lon), q = scaled(b, lon);
+    double const lon = (a.lon + b.lon) / 2;
+    auto const p = scaled({a.lon, a.lat}, lon), q = scaled({b.lon, b.lat}, lon);
     double const dx = q.x - p.x, dy = q.y - p.y, length2 = dx * dx + dy * dy;
     if (length2 == 0)
         return;

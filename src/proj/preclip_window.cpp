@@ -30,9 +30,9 @@ double WindowArea::clampLat(double lat) const {
     return std::clamp(lat, window_.south, window_.north);
 }
 
-void WindowArea::settle(Path& path, Unrolled& unrolled) const {
+bool WindowArea::settle(Path& path, Unrolled& unrolled) const {
     if (!window_.wraps || window_.east - window_.west < 359)
-        return;
+        return false;
     auto const offset = [&](std::size_t i) { return std::remainder(unrolled[i].x - middle_ - 180, 360); };
     auto const isOnSeam = [&](std::size_t i) { return std::fabs(offset(i)) < formulas::lineInset / 2; };
     std::size_t neighbour = 0;
@@ -49,14 +49,15 @@ void WindowArea::settle(Path& path, Unrolled& unrolled) const {
         path.points[i].x = isEastern ? window_.east : window_.west;
         path.isAsGiven = false;
     }
+    return staysOnSeam;
 }
 
 WindowArea::Spot WindowArea::at(PROJPOINT const& given, double lon) const {
-    // Half open, so that a point on the seam is in the same copy however often the path has wound around.
-    double const turn = 360 * std::floor((lon - middle_) / 360 + 0.5), x = lon - turn;
+    double const x = given.x - 360 * std::floor((given.x - middle_) / 360 + 0.5),
+                 turn = 360 * std::round((lon - x) / 360);
     bool const inside = x >= window_.west - margin && x <= window_.east + margin && given.y >= window_.south &&
                         given.y <= window_.north;
-    return {lon, given.y, turn, inside};
+    return {lon, given.y, x, turn, inside};
 }
 
 bool WindowArea::isBesideEdge(double lon) const {
@@ -64,13 +65,11 @@ bool WindowArea::isBesideEdge(double lon) const {
 }
 
 PROJPOINT WindowArea::shown(Spot const& spot, PROJPOINT const&) const {
-    double const lon = spot.lon - spot.turn;
-    return {isBesideEdge(lon) ? clampLon(lon) : lon, spot.lat};
+    return {isBesideEdge(spot.x) ? clampLon(spot.x) : spot.x, spot.lat};
 }
 
 bool WindowArea::keepsAsGiven(Spot const& spot, PROJPOINT const& given) const {
-    double const lon = spot.lon - spot.turn;
-    return !isBesideEdge(lon) && (window_.wraps || given.x == lon);
+    return !isBesideEdge(spot.x) && (window_.wraps || given.x == spot.x);
 }
 
 void WindowArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {

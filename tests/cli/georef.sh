@@ -57,6 +57,11 @@ check 'columns by option' 0 '5.0;5.0;x' '' georef apply "$work/map.points" --con
     --precision 1 <<<'15;25;x'
 check 'points of a table' 1 $'id,x,y,target_x,target_y\na,1,2,11.000,22.000\nb,,4,*,*\nc,2,2,12.000,22.000' \
     '<stdin>:3: *'$'\n''zrproj: 1 line could not be read' georef apply "$work/map.points" <<<$'id,x,y\na,1,2\nb,,4\nc,2,2'
+for strict in 0 1; do
+    ((strict)) && flag=(--strict) || flag=()
+    check 'a point beyond' "$strict" '* *' 'zrproj: 1 point not converted: the formulas have no result*' \
+        georef apply "$samples/scanned_map.csv" --method second "${flag[@]}" <<<'1e200 1e200'
+done
 
 plot=$work/plot.svg
 "$zrproj" georef fit "$samples/scanned_map_wrong.csv" --method second --plot "$plot" >/dev/null || fail 'plot' "status $?"

@@ -8,6 +8,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cfloat>
 #include <cmath>
 #include <cstring>
@@ -213,6 +214,28 @@ TEST(Preclip, RingsThatTouchAnObliqueCut) {
         ASSERT_EQ(twice.size(), 1u);
         EXPECT_TRUE(isSame(once[0].points, twice[0].points));
     }
+}
+
+// A ring around the globe whose first point is as near to a window's edge as rounding: it is on the same side at the
+// end.
+TEST(Preclip, RingsThatBeginAtAWindowsEdge) {
+    Points const ring{{-90.000000000001, -75}, {-60, 45}, {-180, 45}, {60, 30}, {60, -75}};
+    for (auto const* words : {"type=11 ellipsoid=47", "type=16 ellipsoid=47", "type=17 ellipsoid=47 lon0=-45"})
+        for (std::size_t first = 0; first < ring.size(); ++first) {
+            auto turned = ring;
+            std::rotate(turned.begin(), turned.begin() + std::ptrdiff_t(first), turned.end());
+            auto const chains = preclip(words, area, turned);
+            EXPECT_FALSE(chains.empty()) << words;
+            for (auto const& chain : chains)
+                EXPECT_LT(chain.points.size(), 1000u);
+        }
+    EXPECT_FALSE(
+        preclip(
+            "type=16 ellipsoid=48", area,
+            {{90.000000000001, -14.999999999}, {60, -90}, {-1e-12, 60}, {-135.000000001, -90}, {-179.999999999, 45}})
+            .empty());
+    auto const line = preclip(sinusoidal, Kind::line, {{0.1, 0}, {120, 0}, {-120, 0}, {0.1, 1}});
+    EXPECT_EQ(line.back().points.back().x, 0.1); // once around, and the same
 }
 
 // A ring that meets the edge in few places, one of them where half of the edge lies to either side.

@@ -18,6 +18,10 @@ void* operator new(std::size_t size) {
     throw std::bad_alloc();
 }
 
+void* operator new[](std::size_t size) {
+    return operator new(size);
+}
+
 /// Does not fail: who calls it can do without.
 void* operator new(std::size_t size, std::nothrow_t const&) noexcept {
     return std::malloc(size > 0 ? size : 1);
@@ -28,6 +32,14 @@ void operator delete(void* memory) noexcept {
 }
 
 void operator delete(void* memory, std::size_t) noexcept {
+    std::free(memory);
+}
+
+void operator delete[](void* memory) noexcept {
+    std::free(memory);
+}
+
+void operator delete[](void* memory, std::size_t) noexcept {
     std::free(memory);
 }
 
