@@ -53,8 +53,8 @@ bool WindowArea::settle(Path& path, Unrolled& unrolled) const {
 }
 
 WindowArea::Spot WindowArea::at(PROJPOINT const& given, double lon) const {
-    double const x = given.x - 360 * std::floor((given.x - middle_) / 360 + 0.5),
-                 turn = 360 * std::round((lon - x) / 360);
+    double const x = given.x - 360 * std::floor((given.x - middle_) / 360 + 0.5);
+    double const turn = 360 * std::round((lon - x) / 360);
     bool const inside = x >= window_.west - margin && x <= window_.east + margin && given.y >= window_.south &&
                         given.y <= window_.north;
     return {lon, given.y, x, turn, inside};
