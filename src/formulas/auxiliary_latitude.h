@@ -1,11 +1,9 @@
 // Auxiliary latitudes of an ellipsoid, and back: conformal, authalic and rectifying.
 //
 // Source    Karney (2024), On auxiliary latitudes, Survey Review 56, for the idea: a latitude that is an odd function
-// of
-//           the geodetic one differs from it by a rapidly falling series in sin 2 phi, sin 4 phi, ...
-// Departs   the coefficients are not expansions in the flattening but Fourier sums of the exact definitions (Snyder
-// 1987,
-//           pp. 15-17), worked out when a projection is made ready. They hold for flattenings up to 0.2.
+//           of the geodetic one differs from it by a rapidly falling series in sin 2 phi, sin 4 phi, ...
+// Departs   The coefficients are not expansions in the flattening but Fourier sums of the exact definitions (Snyder
+//           1987, pp. 15-17), worked out when a projection is made ready. They hold for flattenings up to 0.2.
 // Accuracy  6e-16 rad either way (measured by the tests), for flattenings up to 0.2. A sphere has no terms.
 #pragma once
 

@@ -3,17 +3,16 @@
 // An area is a struct with
 //
 //     Spot                          a point of a path as the area sees it
-//     Spot at(given, lon)           `lon` is its longitude as the path runs on, turns of the globe away from the given
-//     one;
-//                                   a place is the same to the area however often the path has wound around
-//     bool holds(Spot)
+//     Spot at(given, lon)           `lon` is the point's unwrapped longitude along the path, whole turns away from the
+//                                   given one; what the area sees does not depend on how often the path has wound
+//     bool holds(Spot)              whether the area contains it
 //     PROJPOINT shown(Spot, given)  what becomes of a point of the path that it holds
 //     void crossings(a, b, out)     where the edge from a to b goes out of the area or comes in, in order
 //     bool keepsAsGiven(spot, given)  whether shown(spot, given) may be the point as the caller gave it
 //     bool isOnBoundary(Spot)       where boundaries are curves: whether a cut may have put it there
 //     sides                         the boundary, a closed curve, by a parameter in degrees: where its sides begin, and
 //                                   its end
-//     PROJPOINT onBoundary(t)
+//     PROJPOINT onBoundary(t)       the boundary's point at the parameter
 //     boundaryIsBeside              whether that lies a little inside of where paths are cut
 //     bool isFollowed(from, to)     whether the straight edge between two points of it is near enough to it
 //     referenceBegin, referenceEnd  a part of the boundary, and

@@ -3,16 +3,18 @@
 // Source    NIMA TR 8350.2, 3rd ed. (2000), section 7.2.5 and appendix, for the seven parameters with small rotations;
 //           Bowring (1976), Survey Review 23 (181), pp. 323-327, for the way back from geocentric coordinates.
 // Departs   Bowring's reduced latitude is that of the point's direction, and depends on no latitude: there is nothing
-// to
-//           iterate. Its sine and cosine are taken without the angle.
+//           to iterate. Its sine and cosine are taken without the angle.
 // Accuracy  of the evaluation 1e-12 degrees (measured by the tests). From WGS 84 the signs are turned and the matrix is
 //           not inverted: the way there and back misses by the squares of rotations and scale, decimetres for rotations
 //           of ten seconds.
 // Domain    all; longitudes come out within -180 to 180.
 //
-// phi, lambda, N   latitude, longitude, radius of curvature in the prime vertical        X, Y, Z   geocentric
-// coordinates a, f, e2         figures of an ellipsoid        p, r   distance from the axis, from the centre        u
-// reduced latitude
+// phi, lambda   latitude, longitude
+// N             radius of curvature in the prime vertical
+// X, Y, Z       geocentric coordinates
+// a, f, e2      semi-major axis, flattening and eccentricity squared of an ellipsoid
+// p, r          distance from the axis, from the centre
+// u             reduced latitude
 #include "datum/kernels/driver.h"
 
 namespace ZrProj::datum::ZRPROJ_LEVEL {

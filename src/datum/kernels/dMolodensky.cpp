@@ -1,8 +1,7 @@
 // Molodensky: three shifts and the difference of two ellipsoids, applied to longitude and latitude directly.
 //
 // Source    NIMA TR 8350.2, 3rd ed. (2000), Department of Defense World Geodetic System 1984, section 7.2.4, the
-// standard
-//           (not abridged) formulas, with heights of 0; the change of height is left out.
+//           standard (not abridged) formulas, with heights of 0; the change of height is left out.
 // Departs   multiplied out, so that one root and one division are left.
 // Accuracy  of the evaluation 1e-12 degrees where a point moves by less than a thousand degrees, which is all but the
 //           last metres before a pole (measured by the tests). Of the method: metres, since it takes shifts between
