@@ -1,0 +1,504 @@
+// The library for C, and for whatever can call C: coordinate systems, transforms between them, control points, clipping
+// and side files, as functions on handles. Plain C99 and C++11.
+//
+//     zrproj_parameters utm = {sizeof utm, 4, 47};            // Universal Transverse Mercator, WGS 84
+//     utm.lon0 = -81;                                          // zone 17
+//     zrproj_system *map, *geographic;
+//     zrproj_transform* transform;
+//     if (zrproj_system_create_from_parameters(&utm, &map) != ZRPROJ_OK)
+//         puts(zrproj_message());
+//     zrproj_system_geographic(map, &geographic);
+//     zrproj_transform_create(geographic, map, NULL, &transform);
+//     double point[] = {-79.38, 43.65};                        // longitude, latitude
+//     unsigned char reason;
+//     zrproj_transform_points(transform, 0, point, point + 1, 16, 1, &reason);
+//
+// What holds for all of it:
+//
+// - Angles are degrees, x comes before y, longitude before latitude. Structures are zeroed, and their `size` set,
+// before
+//   they are filled; they may grow at their end.
+// - A handle never changes after its creation, and any number of threads may use it at once. The destroy functions
+//   ignore null; nothing else may be using the handle by then.
+// - Functions that can fail return a status. Outputs are written on success only; those that receive a handle hold null
+//   after a failure. A null pointer where it is not said to be allowed is ZRPROJ_BAD_ARGUMENT, memory that runs out is
+//   ZRPROJ_NO_MEMORY, and neither is listed again below.
+// - Texts that come out as pointers are UTF-8, closed by a null, and live as long as the library, unless said
+// otherwise.
+// - Entries of a list are asked for one by one, 0 first; ZRPROJ_UNKNOWN is the answer past the last.
+// - Nothing is thrown, the caller's floating-point environment and locale are neither changed nor of any influence.
+#ifndef ZRPROJ_C_H
+#define ZRPROJ_C_H
+
+#include "api.h"
+
+#include <stddef.h>
+
+#ifdef __cplusplus
+extern "C" {
+#endif
+
+/// What became of a call.
+typedef enum zrproj_status {
+    ZRPROJ_OK = 0,
+    ZRPROJ_BAD_ARGUMENT,   ///< null, a count that cannot be, a number that is not finite
+    ZRPROJ_BAD_DEFINITION, ///< the definition makes no sense; the message says where it stops making sense
+    ZRPROJ_UNKNOWN,        ///< well formed, but not in the list
+    ZRPROJ_UNSUPPORTED,    ///< known, but cannot be computed or said; the message says which part of it and why
+    ZRPROJ_NO_PATH,        ///< no way from one datum to the other; the message says why
+    ZRPROJ_FILE,           ///< could not be read or written, or is damaged; the message says where
+    ZRPROJ_NOT_SOLVABLE,   ///< too few control points, collinear, alike
+    ZRPROJ_NO_MEMORY
+} zrproj_status;
+
+/// A status in words, "bad argument" say; "" for a number that is none.
+ZRPROJ_API char const* zrproj_status_name(zrproj_status status);
+
+/// What this thread's last failure was, one line; after a success "", or what was noticed on the way. Every function
+/// that returns a status sets it. The text is good until the thread's next call of such a function.
+ZRPROJ_API char const* zrproj_message(void);
+
+/// The version of the library, "0.1.0" say.
+ZRPROJ_API char const* zrproj_version(void);
+
+// ---- Catalogues: what the numbers of parameters mean.
+
+/// What a parameter's value is.
+typedef enum zrproj_kind {
+    ZRPROJ_KIND_FACTOR = 0, ///< a number above 0, or a flattening
+    ZRPROJ_KIND_DEGREES,
+    ZRPROJ_KIND_METRES,
+    ZRPROJ_KIND_FLAG,       ///< 0 or 1
+    ZRPROJ_KIND_PROJECTION, ///< a number of zrproj_projection_entry
+    ZRPROJ_KIND_ELLIPSOID,  ///< a number of zrproj_ellipsoid_entry
+    ZRPROJ_KIND_ZONE        ///< a number of zrproj_state_plane_entry
+} zrproj_kind;
+
+/// The n-th projection type: its number, its key ("lambert-conformal-conic", for options and file names) and its name.
+/// Outputs may be null, here and in all catalogues.
+ZRPROJ_API zrproj_status zrproj_projection_entry(size_t n, int* type, char const** key, char const** name);
+
+/// Finds a projection type by its key or its name, letter case ignored. ZRPROJ_UNKNOWN where there is none.
+ZRPROJ_API zrproj_status zrproj_projection_find(char const* name, int* type);
+
+/// The n-th parameter that a type uses, in the order in which a user interface presents them. ZRPROJ_UNKNOWN also for
+/// a number that is no type.
+ZRPROJ_API zrproj_status zrproj_projection_parameter(int type, size_t n, int* parameter);
+
+/// The n-th parameter that differs from 0 in a picture of the type that shows it well, and its value. The others are 0,
+/// the scale factors 1. ZRPROJ_UNKNOWN also for a number that is no type.
+ZRPROJ_API zrproj_status zrproj_projection_picture(int type, size_t n, int* parameter, double* value);
+
+/// The n-th parameter of the catalogue: its number, its key ("lat0", a field of zrproj_parameters), its name ("Central
+/// Latitude") and what its value is.
+ZRPROJ_API zrproj_status zrproj_parameter_entry(size_t n, int* parameter, char const** key, char const** name,
+                                                zrproj_kind* kind);
+
+/// The n-th ellipsoid of the catalogue: its number, name, semi-major axis in metres and flattening. Number 0, which
+/// comes first, stands for the caller's own and has neither.
+ZRPROJ_API zrproj_status zrproj_ellipsoid_entry(size_t n, int* ellipsoid, char const** name, double* radius,
+                                                double* flattening);
+
+/// Finds an ellipsoid by its name, letter case ignored. ZRPROJ_UNKNOWN where there is none.
+ZRPROJ_API zrproj_status zrproj_ellipsoid_find(char const* name, int* ellipsoid);
+
+/// The n-th datum of the catalogue: its number, its name, its ellipsoid and the name of the method that carries it to
+/// WGS 84 ("Molodensky").
+ZRPROJ_API zrproj_status zrproj_datum_entry(size_t n, int* datum, char const** name, int* ellipsoid,
+                                            char const** method);
+
+/// Finds a datum by its name, letter case ignored. ZRPROJ_UNKNOWN where there is none.
+ZRPROJ_API zrproj_status zrproj_datum_find(char const* name, int* datum);
+
+/// The n-th State Plane zone: its number, its name and its USGS code, 0 where it has none.
+ZRPROJ_API zrproj_status zrproj_state_plane_entry(size_t n, int* zone, char const** name, int* usgs);
+
+/// Finds a State Plane zone by its name, letter case ignored. ZRPROJ_UNKNOWN where there is none.
+ZRPROJ_API zrproj_status zrproj_state_plane_find(char const* name, int* zone);
+
+/// The n-th method of fitting control points: its number, its key ("thin-plate"), its name and how many control points
+/// it needs at least.
+ZRPROJ_API zrproj_status zrproj_fit_method_entry(size_t n, int* method, char const** key, char const** name,
+                                                 size_t* needed);
+
+/// Finds a method of fitting by its key or its name, letter case ignored. ZRPROJ_UNKNOWN where there is none.
+ZRPROJ_API zrproj_status zrproj_fit_method_find(char const* name, int* method);
+
+// ---- Systems.
+
+/// How a datum of the caller's own is carried to WGS 84.
+typedef struct zrproj_shift {
+    int method;            ///< 0: the datum is not told; 2: seven parameters (Bursa-Wolf); 3: three (Molodensky)
+    double dx, dy, dz;     ///< metres
+    double rx, ry, rz;     ///< rotations in arcseconds, within 3600 either way
+    double scale;          ///< parts per million on top of 1
+    double prime_meridian; ///< degrees east of Greenwich, within 180 either way
+} zrproj_shift;
+
+/// A coordinate system by numbers: a projection with its parameters, and the datum. Zero it, set `size`, then set what
+/// the type uses (zrproj_projection_parameter). A factor of 0 counts as 1, and 0.9996 for the k0 of type 4, UTM.
+typedef struct zrproj_parameters {
+    size_t size;             ///< sizeof(zrproj_parameters)
+    int type;                ///< projection; 0 is geographic, longitude and latitude
+    int ellipsoid;           ///< 0: radius and flattening, or where these are 0 the datum's ellipsoid
+    int zone;                ///< State Plane zone, types 9 and 10 only
+    int datum;               ///< of the catalogue, 1 to 236; 0: the caller's own, by `shift`; 237: not told
+    int south;               ///< not 0: southern hemisphere (UTM)
+    int use_alpha;           ///< not 0: azimuth instead of two points (Hotine)
+    int rotate;              ///< not 0: turn u, v to x, y (Hotine)
+    int u_offset;            ///< not 0: measure u from the centre (Hotine)
+    double scale;            ///< map scale, after the false origin: 3937/1200.0 gives US survey feet
+    double x0, y0;           ///< false easting and northing, metres; of UTM they are known
+    double lat0, lon0;       ///< centre, degrees; latitudes within 90, longitudes within 360 either way
+    double lat1, lat2, lat3; ///< standard parallels, degrees
+    double lon1, lon2, lon3; ///< meridians, degrees
+    double k0;               ///< scale factor at the centre
+    double alpha;            ///< azimuth, degrees, within 360 either way
+    double radius;           ///< semi-major axis, metres, above 0
+    double flattening;       ///< at least 0, below 1; exactly 0 is a sphere
+    zrproj_shift shift;      ///< of datum 0
+} zrproj_parameters;
+
+/// The field of a parameter, by its number: flags and numbers of catalogues as doubles. ZRPROJ_UNKNOWN for a number
+/// that is no parameter.
+ZRPROJ_API zrproj_status zrproj_parameters_get(zrproj_parameters const* parameters, int parameter, double* value);
+
+/// Sets the field of a parameter, by its number. The value is not checked, but ZRPROJ_BAD_ARGUMENT is the answer for
+/// one that the field cannot hold; ZRPROJ_UNKNOWN for a number that is no parameter.
+ZRPROJ_API zrproj_status zrproj_parameters_set(zrproj_parameters* parameters, int parameter, double value);
+
+/// A coordinate system.
+typedef struct zrproj_system zrproj_system;
+
+/// Makes a system of parameters. ZRPROJ_BAD_DEFINITION, with the reason as message, for parameters that make no
+/// projection or datum: a type that is none, an angle out of its range or not finite, a cone that is none, a zone
+/// without a definition, no ellipsoid at all. ZRPROJ_UNSUPPORTED for a projection that with these parameters shows
+/// nothing.
+ZRPROJ_API zrproj_status zrproj_system_create_from_parameters(zrproj_parameters const* parameters,
+                                                              zrproj_system** system);
+
+ZRPROJ_API void zrproj_system_destroy(zrproj_system* system);
+
+/// The parameters that a system stands for, completed: radius, flattening and scale factors, the false origin of a UTM
+/// zone. `parameters->size` must be set.
+ZRPROJ_API zrproj_status zrproj_system_parameters(zrproj_system const* system, zrproj_parameters* parameters);
+
+/// The system of longitudes and latitudes that a system is based on, of the same figure and datum, as a handle of its
+/// own.
+ZRPROJ_API zrproj_status zrproj_system_geographic(zrproj_system const* system, zrproj_system** geographic);
+
+// ---- Transforms.
+
+/// The way from one system to another.
+typedef struct zrproj_transform zrproj_transform;
+
+/// How a transform works; all zero but `size`: the defaults.
+typedef struct zrproj_options {
+    size_t size;       ///< sizeof(zrproj_options)
+    char const* grids; ///< folders to look for grids in, ':' between them (';' on Windows); may be null
+    int threads;       ///< 0 or 1: the calling thread only; n: up to n; -1: as many as there are processors
+    int refuse_rough;  ///< not 0: ZRPROJ_NO_PATH instead of a way that loses more than 1 m
+} zrproj_options;
+
+/// Makes the way from one system to another; both may be destroyed afterwards. `options` may be null for the defaults.
+/// ZRPROJ_BAD_ARGUMENT for options of no known size or threads below -1. ZRPROJ_NO_PATH where the systems lie on
+/// different datums or figures.
+ZRPROJ_API zrproj_status zrproj_transform_create(zrproj_system const* from, zrproj_system const* to,
+                                                 zrproj_options const* options, zrproj_transform** transform);
+
+ZRPROJ_API void zrproj_transform_destroy(zrproj_transform* transform);
+
+/// What the transform does, one line a step, and the accuracy of the datum's step in metres: NaN where nobody states
+/// one, 0 where there is no such step. Up to `size` bytes are written with the final null; `*length` is what the whole
+/// text takes without it. Too short a buffer: cut, ZRPROJ_BAD_ARGUMENT. `buffer` may be null where `size` is 0, and
+/// `length` and `accuracy` may be null.
+ZRPROJ_API zrproj_status zrproj_transform_describe(zrproj_transform const* transform, char* buffer, size_t size,
+                                                   size_t* length, double* accuracy);
+
+/// What became of a point. Below 16 the point has a result.
+typedef enum zrproj_reason {
+    ZRPROJ_CONVERTED = 0,
+    ZRPROJ_FAR = 1,          ///< computed, but farther out than the method's accuracy is stated for: in the Transverse
+                             ///< Mercator family on an ellipsoid, more than 10 degrees from the central meridian
+    ZRPROJ_OUT_OF_AREA = 2,  ///< computed, but outside the datum shift's area
+    ZRPROJ_NOT_FINITE = 16,  ///< came in infinite, NaN or already marked (DBL_MAX)
+    ZRPROJ_BEYOND_POLE = 17, ///< a latitude above 90 degrees either way
+    ZRPROJ_NOT_SHOWN = 18,   ///< a place that the projection does not show
+    ZRPROJ_OFF_THE_MAP = 19, ///< map coordinates where no place is
+    ZRPROJ_OFF_THE_GRID = 20 ///< a place that a grid which must be used does not cover
+} zrproj_reason;
+
+/// A reason in words, "not shown" say; "" for a number that is none.
+ZRPROJ_API char const* zrproj_reason_name(zrproj_reason reason);
+
+/// Converts `count` points in place. `x` is longitude or easting, `y` latitude or northing (always in this order), in
+/// the units of the system. Each next number is `stride` bytes on: 8 for two arrays, 16 for pairs of x and y.
+///
+/// A point without a result becomes NaN, NaN; that alone is no failure. `reasons` may be null, or receives a
+/// zrproj_reason for each point, one after the other. `backwards` not 0: from `to` to `from`. A point's result depends
+/// neither on the array's layout nor on its place in it or on the number of threads, to the bit. Longitudes may be
+/// given in any turn of the globe, and come out from -180 to 180.
+///
+/// A count of 0 does nothing, whatever the pointers. ZRPROJ_BAD_ARGUMENT, points as they were, for null pointers, a
+/// stride that is not a multiple of 8 or, with more than one point, 0, and for a count that no memory can hold.
+ZRPROJ_API zrproj_status zrproj_transform_points(zrproj_transform const* transform, int backwards, double* x, double* y,
+                                                 ptrdiff_t stride, size_t count, unsigned char* reasons);
+
+// ---- Control points.
+
+/// A map of the plane onto itself, from an image's coordinates to a map's say, by control points or coefficients.
+typedef struct zrproj_fit zrproj_fit;
+
+/// Fits a method (zrproj_fit_method_entry) to control points: `count` pairs of x and y in source coordinates, and the
+/// same points in target coordinates. Least squares where there are more points than the method needs. The pairs are
+/// copied.
+///
+/// ZRPROJ_UNKNOWN for a number that is no method; ZRPROJ_BAD_ARGUMENT for a coordinate that is not finite;
+/// ZRPROJ_NOT_SOLVABLE where the points determine no such map, with what is wrong with them as message.
+ZRPROJ_API zrproj_status zrproj_fit_create(int method, double const* source, double const* target, size_t count,
+                                           zrproj_fit** fit);
+
+/// Makes the map of six coefficients a to f: X = a x + b y + c, Y = d x + e y + f. ZRPROJ_BAD_ARGUMENT for one that is
+/// not finite.
+ZRPROJ_API zrproj_status zrproj_fit_create_affine(double const coefficients[6], zrproj_fit** fit);
+
+ZRPROJ_API void zrproj_fit_destroy(zrproj_fit* fit);
+
+/// Maps `count` points in place from source to target coordinates. Layout, NaN, reasons and failures as for
+/// zrproj_transform_points; the reasons are ZRPROJ_CONVERTED, ZRPROJ_NOT_FINITE, and ZRPROJ_OFF_THE_MAP where the
+/// result is not finite.
+ZRPROJ_API zrproj_status zrproj_fit_points(zrproj_fit const* fit, double* x, double* y, ptrdiff_t stride, size_t count,
+                                           unsigned char* reasons);
+
+/// The n-th term of a similarity, a polynomial or six coefficients, "x^2 y" say, and its coefficients for X and for Y
+/// in source coordinates as they are. Methods that meet every control point have no terms. Outputs may be null; `term`
+/// lives as long as the library.
+ZRPROJ_API zrproj_status zrproj_fit_coefficient(zrproj_fit const* fit, size_t n, char const** term, double* x,
+                                                double* y);
+
+/// How well a fit meets its control points, and which of them do not belong.
+typedef struct zrproj_analysis zrproj_analysis;
+
+/// Looks into a fit; the fit may be destroyed afterwards. ZRPROJ_UNSUPPORTED for one of six coefficients.
+///
+/// A least-squares fit is looked into by Baarda's data snooping: a point stands out when the chance that any of them is
+/// so far off is below 1 percent, each taken against the spread of the others. A method that meets every point leaves
+/// out each in turn, up to 150 points (more take too long): a point stands out when it then lies 12 times the others'
+/// median away. Points that stand out are left aside one by one, up to a third of them. Where the points are too few
+/// for the method to tell, but enough for an affine fit, that one judges.
+ZRPROJ_API zrproj_status zrproj_analysis_create(zrproj_fit const* fit, zrproj_analysis** analysis);
+
+ZRPROJ_API void zrproj_analysis_destroy(zrproj_analysis* analysis);
+
+/// The whole of an analysis. What cannot be told is NaN.
+typedef struct zrproj_fit_summary {
+    size_t size;                        ///< sizeof(zrproj_fit_summary)
+    size_t count;                       ///< of control points
+    double mean, rms;                   ///< of the residuals' lengths
+    double left_out_mean, left_out_rms; ///< of the leave-one-out residuals' lengths
+    size_t outliers;                    ///< how many points stand out
+    double rms_without;                 ///< of the fit without them, leave-one-out for methods that meet every point
+    size_t worst;                       ///< the first of them, else the point with the greatest leave-one-out residual
+    double worst_residual, worst_left_out; ///< its lengths, by the judge
+    int judge;                             ///< the method whose residuals tell which points stand out
+    size_t fewest_to_tell;                 ///< control points that the method itself needs to tell
+    int looked;                            ///< 0: too many points to look for outliers
+} zrproj_fit_summary;
+
+/// `summary->size` must be set.
+ZRPROJ_API zrproj_status zrproj_analysis_summary(zrproj_analysis const* analysis, zrproj_fit_summary* summary);
+
+/// What a fit makes of one of its control points, in target units. What cannot be told is NaN.
+typedef struct zrproj_residual {
+    size_t size;     ///< sizeof(zrproj_residual)
+    double dx, dy;   ///< where the fit puts the point, less where it is given
+    double length;   ///< of dx, dy
+    double left_out; ///< the length once more, by a fit to all the other points
+    double leverage; ///< how much of its own fit the point makes, 0 to 1; of least-squares methods
+    int stands_out;  ///< 0, or 1 for the first point that was found to stand out, 2 for the next, ...
+} zrproj_residual;
+
+/// The n-th control point's residual. `residual->size` must be set.
+ZRPROJ_API zrproj_status zrproj_analysis_residual(zrproj_analysis const* analysis, size_t n, zrproj_residual* residual);
+
+// ---- Clipping.
+
+/// What a map shows of lines and areas: pieces, each a line or a ring of longitudes and latitudes.
+typedef struct zrproj_pieces zrproj_pieces;
+
+/// Cuts a line at the edges of a projected system's map: `count` pairs of longitude and latitude in degrees, at least
+/// 2. Edges are straight in that plane and go the short way around the globe; the line breaks at a point that is no
+/// place. Every point of the pieces is shown by the map, and no piece goes over an edge of it. A line of which nothing
+/// is cut comes back unchanged; no pieces at all is no failure.
+///
+/// ZRPROJ_UNSUPPORTED for a geographic system, which has no edges.
+ZRPROJ_API zrproj_status zrproj_clip_line(zrproj_system const* system, double const* points, size_t count,
+                                          zrproj_pieces** pieces);
+
+/// Cuts an area, given by the ring around it, at least 3 pairs; a first pair that is repeated at the end is tolerated.
+/// The pieces are rings, closed along the map's edges with points a degree apart at most; one inside another is a hole
+/// in it. The ring's sides, windings around a pole and failures are those of the line.
+ZRPROJ_API zrproj_status zrproj_clip_ring(zrproj_system const* system, double const* points, size_t count,
+                                          zrproj_pieces** pieces);
+
+/// The n-th piece: its `count` pairs of longitude and latitude, which live as long as `pieces`, and whether it is a
+/// ring, whose last point joins the first. Outputs may be null.
+ZRPROJ_API zrproj_status zrproj_pieces_entry(zrproj_pieces const* pieces, size_t n, double const** points,
+                                             size_t* count, int* closed);
+
+/// Frees all of the pieces.
+ZRPROJ_API void zrproj_pieces_destroy(zrproj_pieces* pieces);
+
+// ---- What files say of a map or an image.
+
+/// A kind of file beside an image, in the order in which they count.
+typedef enum zrproj_side_file {
+    ZRPROJ_REFERENCE_FILE = 0, ///< projection, datum and georeference: "map.tif.zrr"
+    ZRPROJ_RSF_FILE,           ///< control points: "map.RSF"
+    ZRPROJ_WORLD_FILE          ///< six coefficients: "map.tfW"
+} zrproj_side_file;
+
+/// The side files of an image that are there.
+typedef struct zrproj_side_files zrproj_side_files;
+
+/// Looks for the side files of an image, which need not exist itself. Names that differ in the case of their extension
+/// are found after the exact ones.
+ZRPROJ_API zrproj_status zrproj_side_files_create(char const* image, zrproj_side_files** files);
+
+/// The n-th file, in the order in which they count; `path` lives as long as `files`. Outputs may be null.
+ZRPROJ_API zrproj_status zrproj_side_files_entry(zrproj_side_files const* files, size_t n, zrproj_side_file* kind,
+                                                 char const** path);
+
+ZRPROJ_API void zrproj_side_files_destroy(zrproj_side_files* files);
+
+/// The kind of a file by its name: "zrr", "rsf", and "wld" or what becomes of an image's extension ("tfw", "tifw").
+/// ZRPROJ_UNKNOWN for any other.
+ZRPROJ_API zrproj_status zrproj_side_file_kind(char const* path, zrproj_side_file* kind);
+
+/// The name of an image's side file of a kind, as it is written. Buffer and length as for zrproj_transform_describe.
+ZRPROJ_API zrproj_status zrproj_side_file_name(char const* image, zrproj_side_file kind, char* buffer, size_t size,
+                                               size_t* length);
+
+/// A tag of a TIFF file: its number, its type (3 short, 12 double, 2 text, ...) and `count` values of that type, in the
+/// processor's own byte order.
+typedef struct zrproj_tag {
+    unsigned short id, type;
+    unsigned int count;
+    void const* data;
+} zrproj_tag;
+
+/// How an image lies on a map: by control points and a method to fit them by, or by coefficients.
+typedef struct zrproj_georeference {
+    size_t size;                   ///< sizeof(zrproj_georeference)
+    int method;                    ///< of zrproj_fit_method_entry; 5: the coefficients
+    size_t count;                  ///< of control points, 0 with method 5
+    double const *source, *target; ///< `count` pairs of x and y each
+    double coefficients[6];        ///< as for zrproj_fit_create_affine, 0 with any other method
+} zrproj_georeference;
+
+/// What files say of a map: a system and a georeference, either of which may be missing. Image coordinates count from
+/// the upper left corner of the first pixel; world files, which count from its centre, are shifted by half a pixel when
+/// they are read and when they are written.
+typedef struct zrproj_description zrproj_description;
+
+/// Reads one side file of whatever name. ZRPROJ_FILE, with the reason as message, where it cannot be read, is of
+/// another kind or damaged.
+ZRPROJ_API zrproj_status zrproj_description_read(char const* path, zrproj_side_file kind,
+                                                 zrproj_description** description);
+
+/// All that is known of an image: from its reference file, its RSF file, its world file and its GeoTIFF tags (`count`
+/// of them, may be 0), in this order, each part from the first that has it. Coefficients of a reference file, which are
+/// but one number, yield to a later source. A source that is damaged is passed over, and the message tells of it.
+ZRPROJ_API zrproj_status zrproj_description_of_image(char const* image, zrproj_tag const* tags, size_t count,
+                                                     zrproj_description** description);
+
+/// What GeoTIFF tags say. What no record can say exactly is left out, and the message tells why. ZRPROJ_FILE for
+/// damaged tags.
+ZRPROJ_API zrproj_status zrproj_description_of_tags(zrproj_tag const* tags, size_t count,
+                                                    zrproj_description** description);
+
+/// Puts a description together of a system's parameters, where type 999 stands for a datum alone, and a georeference;
+/// either may be null. Nothing is fitted, and the pairs are copied. ZRPROJ_BAD_DEFINITION for parameters that make no
+/// system, ZRPROJ_UNKNOWN for a number that is no method, ZRPROJ_BAD_ARGUMENT for a coordinate or coefficient that is
+/// not finite.
+ZRPROJ_API zrproj_status zrproj_description_create(zrproj_parameters const* parameters,
+                                                   zrproj_georeference const* georeference,
+                                                   zrproj_description** description);
+
+ZRPROJ_API void zrproj_description_destroy(zrproj_description* description);
+
+/// The system, as it is told: `type` 999 where only the datum is, `datum` 237 where it is not. ZRPROJ_UNKNOWN where
+/// nothing is told of it. `parameters->size` must be set; zrproj_system_create_from_parameters completes and checks.
+ZRPROJ_API zrproj_status zrproj_description_parameters(zrproj_description const* description,
+                                                       zrproj_parameters* parameters);
+
+/// The georeference; its pairs live as long as the description. `georeference->size` must be set. ZRPROJ_UNKNOWN where
+/// there is none.
+ZRPROJ_API zrproj_status zrproj_description_georeference(zrproj_description const* description,
+                                                         zrproj_georeference* georeference);
+
+/// The georeference as a map of points. ZRPROJ_UNKNOWN where there is none; otherwise fails as zrproj_fit_create does.
+ZRPROJ_API zrproj_status zrproj_description_fit(zrproj_description const* description, zrproj_fit** fit);
+
+/// Writes a side file of whatever name, in place of one that is there, which stays as it is until the new one is whole.
+/// The message tells what the format cannot carry. ZRPROJ_UNSUPPORTED where it can carry nothing of the description,
+/// and for a world file of control points that make no affine fit; ZRPROJ_FILE where writing fails.
+ZRPROJ_API zrproj_status zrproj_description_write(zrproj_description const* description, char const* path,
+                                                  zrproj_side_file kind);
+
+/// The GeoTIFF tags that say what a description says.
+typedef struct zrproj_tags zrproj_tags;
+
+/// ZRPROJ_UNSUPPORTED, with the reason as message, where tags cannot say it exactly.
+ZRPROJ_API zrproj_status zrproj_tags_create(zrproj_description const* description, zrproj_tags** tags);
+
+/// The n-th tag, in ascending order; its data lives as long as `tags`.
+ZRPROJ_API zrproj_status zrproj_tags_entry(zrproj_tags const* tags, size_t n, zrproj_tag* tag);
+
+ZRPROJ_API void zrproj_tags_destroy(zrproj_tags* tags);
+
+// ---- Zones, angles, grids.
+
+/// The UTM zone of a place in degrees, 1 to 60: six degrees of longitude each, without the exceptions around Norway and
+/// Svalbard; `*south` is 1 below the equator. Outputs may be null. ZRPROJ_BAD_ARGUMENT for a coordinate that is not
+/// finite or a latitude beyond 90.
+ZRPROJ_API zrproj_status zrproj_utm_zone(double longitude, double latitude, int* zone, int* south);
+
+/// The central meridian of a UTM zone in degrees, for zrproj_parameters' lon0. ZRPROJ_BAD_ARGUMENT outside 1 to 60.
+ZRPROJ_API zrproj_status zrproj_utm_meridian(int zone, double* longitude);
+
+/// Reads a UTM zone: "17N", "17 s", "Zone 17N", "UTM 17N"; a number alone is in the north. Outputs may be null.
+/// ZRPROJ_UNKNOWN for any other text, numbers outside 1 to 60 and other letters (33U is a grid square's band).
+ZRPROJ_API zrproj_status zrproj_utm_read(char const* text, int* zone, int* south);
+
+/// Reads an angle in degrees: "-36.8699", "-36d52.194", "-36d52'11.6315". ZRPROJ_BAD_DEFINITION for any other text.
+ZRPROJ_API zrproj_status zrproj_angle_read(char const* text, double* degrees);
+
+/// Writes an angle: in degrees (`parts` 1), degrees and minutes (2), or degrees, minutes and seconds (3), with 0 to 12
+/// decimals on the last part. Minutes and seconds are never written as 60. Buffer and length as for
+/// zrproj_transform_describe. ZRPROJ_BAD_ARGUMENT also for an angle that is not finite and for other parts or decimals.
+ZRPROJ_API zrproj_status zrproj_angle_write(double degrees, int parts, int decimals, char* buffer, size_t size,
+                                            size_t* length);
+
+/// What a grid of datum shifts covers, in degrees.
+typedef struct zrproj_grid {
+    size_t size;                     ///< sizeof(zrproj_grid)
+    int columns, rows;               ///< of its nodes
+    double west, south, east, north; ///< where the outermost nodes lie
+    double dx, dy;                   ///< between two nodes
+} zrproj_grid;
+
+/// Reads the header of a NADCON grid: by the path of either of its files, or by its name without an extension, which is
+/// looked for as it stands and then in the directory of the running program ("conus", "prvi"). `grid->size` must be
+/// set. ZRPROJ_FILE, with the reason as message, where it cannot be read or is no grid.
+ZRPROJ_API zrproj_status zrproj_grid_read(char const* name, zrproj_grid* grid);
+
+/// Whether a grid shifts a place: points up to two columns west of it are, points south of it are not.
+/// ZRPROJ_BAD_ARGUMENT for a coordinate that is not finite.
+ZRPROJ_API zrproj_status zrproj_grid_covers(zrproj_grid const* grid, double longitude, double latitude, int* covers);
+
+#ifdef __cplusplus
+}
+#endif
+
+#endif
