@@ -4,8 +4,8 @@
 // and TIFFSetField do it). The tags are those of OGC GeoTIFF 1.1: 33550 pixel scale, 33922 tie points, 34264
 // transformation matrix, 34735 key directory, 34736 and 34737 its numbers and texts.
 //
-// What the tags cannot say exactly in records, and the records in tags, is left out and never replaced by something
-// near.
+// What cannot be said exactly on the other side, in records or in tags, is left out or refused and never replaced by
+// something near.
 #ifndef ZRPROJ_GEOTIFF_H
 #define ZRPROJ_GEOTIFF_H
 
@@ -19,57 +19,68 @@
 
 namespace ZrProj {
 
-/// Reads GeoTIFF tags into records. Outputs may be null; those that are not are reset first: `*data` to zeros with type
-/// 999 (undefined), `*datum` to 237 (none), `*params` to zeros, `*georef` to zeros with method 12 (none), `*flags` to
-/// 0.
+/// Reads GeoTIFF tags into records.
 ///
-/// The flags tell what was read: 1 a projection, 2 a datum, 4 a georeference by coefficients, 8 one by control points
-/// (free them with RefFreeControls), 16 that the tags are in order and held something. A part that the tags do not
-/// have, or that no record says exactly (ZrProjExplainGeoTIFF tells why), stays reset with its flag clear.
+/// Outputs may be null; those that are not are reset first: `*data` to zeros with type 999 (undefined), `*datum` to 237
+/// (none), `*params` to zeros, `*georef` to zeros with method 12 (none), `*flags` to 0.
+///
+/// The flags, RefFileFlag's, tell what was read: 1 a projection, 2 a datum, 4 a georeference by coefficients, 8 one by
+/// control points (free them with RefFreeControls), 16 that the tags are in order and held something. A part that the
+/// tags do not have, or that no record says exactly (ZrProjExplainGeoTIFF tells why), stays reset with its flag clear.
 ///
 /// - Projected coordinates are those of the file: with a unit of length other than the metre, Scale is how many of that
 ///   unit make a metre, and the false origin is in metres. A scale factor that a type has no K0 for goes into Scale,
 ///   too, and the false origin is divided by it.
-/// - `*datum` is found by its POSC code, or by its very name in the citation; the parameters of a transformation to WGS
-/// 84
-///   give a user-defined datum (0). `*params` then holds the datum's parameters where it has any.
+/// - `*datum` is found by its POSC code, or by its very name in the citation; the parameters of a transformation to
+///   WGS 84 give a user-defined datum (0). `*params` then holds the datum's parameters where it has any.
 /// - The georeference maps pixels to projected coordinates (or degrees), a pixel's coordinates being those of its upper
 ///   left corner, whichever way the file counts. Three or more tie points without a pixel scale are control points,
 ///   with method 1 (affine).
 ///
-/// False, outputs reset, when a tag is damaged (a key that points outside, a number that is none), or memory runs out.
+/// Returns false, with the outputs reset, when a tag is damaged (a key that points outside, a number that is none) and
+/// when memory runs out.
 ZRPROJ_API bool ZrProjGetGeoTIFF(ZrBitmapTagList const& tags, PROJDATA* data, DatumType* datum, DATUM2WGS84* params,
                                  GEOREF* georef, std::uint32_t* flags);
 
-/// Why ZrProjGetGeoTIFF leaves parts unread: a sentence a line, "" when there is nothing to say. At most `size` bytes,
-/// the closing null among them, are written. False for a null buffer or a size below 1.
+/// Explains why ZrProjGetGeoTIFF leaves parts of the tags unread or refuses them.
+///
+/// Writes a sentence a line to `message`, "" when there is nothing to say, and no more than `size` bytes, the closing
+/// null among them: a longer text is cut. Returns false, with nothing written, for a null buffer or a size below 1, and
+/// false, with "" written, when memory runs out.
 ZRPROJ_API bool ZrProjExplainGeoTIFF(ZrBitmapTagList const& tags, char* message, int size);
 
-/// Makes the tags that say what the records say, in ascending order, at most six. A null `data` or type 999, a datum of
-/// 237, and a null `georef` or method 12 are left out. `params` is needed for a user-defined datum (0) only.
+/// Makes the tags that say what the records say, in ascending order, at most six.
 ///
-/// The tags say pixel-is-area; a georeference that pixel scale and tie point cannot say is written as a matrix, a
-/// Helmert system as the matrix that it is, as are control points of an affine fit that meets them but for rounding to
-/// 15 digits, other control points as tie points (their method is not told).
+/// A null `data` or type 999, a datum of 237, and a null `georef` or method 12 are left out. `params` is needed for a
+/// user-defined datum (0) only. The records are not changed.
+///
+/// The tags say pixel-is-area. A georeference that pixel scale and tie point cannot say is written as a matrix, a
+/// Helmert system as the matrix that it is. Control points of an affine fit that meets them but for rounding to 15
+/// digits become a matrix, too; other control points become tie points, and their method is not told.
 ///
 /// On success `*tags` is an array of `*count` tags, to be freed with ZrProjDiscardGeoTIFFTags; null and 0 when there
-/// was nothing to write. False, with null and 0, for null `tags` or `count`, when the records cannot be said in tags
-/// exactly (ZrProjExplainGeoTIFFTags tells why), and when memory runs out.
+/// was nothing to write. Returns false, with null and 0, for null `tags` or `count`, when the records cannot be said in
+/// tags exactly (ZrProjExplainGeoTIFFTags tells why), and when memory runs out.
 ZRPROJ_API bool ZrProjBuildGeoTIFFTags(PROJDATA const* data, DatumType datum, DATUM2WGS84 const* params,
                                        GEOREF const* georef, ZrBitmapTag** tags, int* count);
 
-/// Frees what ZrProjBuildGeoTIFFTags made; null is ignored.
+/// Frees the `count` tags that ZrProjBuildGeoTIFFTags made. Null is ignored.
 ZRPROJ_API void ZrProjDiscardGeoTIFFTags(ZrBitmapTag* tags, int count);
 
-/// Why ZrProjBuildGeoTIFFTags refuses the records; "" when it does not. The buffer as for ZrProjExplainGeoTIFF.
+/// Explains why ZrProjBuildGeoTIFFTags refuses the records: one sentence, "" when it does not refuse them. The buffer
+/// and the failures are those of ZrProjExplainGeoTIFF.
 ZRPROJ_API bool ZrProjExplainGeoTIFFTags(PROJDATA const* data, DatumType datum, DATUM2WGS84 const* params,
                                          GEOREF const* georef, char* message, int size);
 
-/// Everything that is known of an image: looks at its reference file, its RSF file, its world file and its tags (which
-/// may be null), in this order, and fills each of projection, datum and georeference from the first that has it. Known
-/// coefficients of a reference file, which are but one number, yield to a later source. Outputs and flags as for
-/// ZrProjGetGeoTIFF. False for a null or empty name, and when a source that exists could not be read; what the others
-/// say is then there all the same.
+/// Gathers everything that is known of an image from its reference file, its RSF file, its world file and its tags,
+/// which may be null.
+///
+/// Each of projection, datum and georeference comes from the first of them, in this order, that has it. Known
+/// coefficients of a reference file, which are but one number, yield to a later source. Outputs and flags are those of
+/// ZrProjGetGeoTIFF; flag 16 tells that one of the sources could be read.
+///
+/// Returns false, with the outputs reset, for a null or empty name. Returns false also when a source that exists could
+/// not be read; what the others say is then there all the same.
 ZRPROJ_API bool ZrProjGetBitmapGeoParams(char const* imageFileName, ZrBitmapTagList const* tags, PROJDATA* data,
                                          DatumType* datum, DATUM2WGS84* params, GEOREF* georef, std::uint32_t* flags);
 

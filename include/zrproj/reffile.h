@@ -28,7 +28,7 @@
 
 namespace ZrProj {
 
-/// What a side file told, a bit each.
+/// What a side file told, a bit each: the values of the flags that the readers of side files and tags set.
 enum RefFileFlag : std::uint32_t {
     RefFileFlagProjection = 1,   ///< a projection: the record's type is not 999
     RefFileFlagDatum = 2,        ///< a datum: it is not 237
@@ -37,10 +37,11 @@ enum RefFileFlag : std::uint32_t {
     RefFileFlagRead = 16,        ///< there was a file, of a version that is known
 };
 
-/// Writes a reference file, in place of one that is there. Any record may be null, and is then left out, as is a
-/// projection of type 999, datum 237 (the datum goes with its parameters: one without the other is left out) and
-/// georeference method 12. Only what a type or method uses is written; a catalogue ellipsoid's radius and flattening
-/// are the catalogue's. The records are not changed.
+/// Writes a reference file, in place of one that is there.
+///
+/// Any record may be null, and is then left out, as is a projection of type 999, datum 237 (the datum goes with its
+/// parameters: one without the other is left out) and georeference method 12. Only what a type or method uses is
+/// written; a catalogue ellipsoid's radius and flattening are the catalogue's. The records are not changed.
 ///
 /// Of method 5 the format keeps one coefficient, the first; RefCoeffToControls makes control points, which keep all.
 ///
@@ -49,11 +50,13 @@ enum RefFileFlag : std::uint32_t {
 ZRPROJ_API bool ZrProjRefFileWriteEx(char const* fileName, PROJDATA const* projection, DatumType datum,
                                      DATUM2WGS84 const* datumParameters, GEOREF const* georef);
 
-/// ZrProjRefFileWriteEx without a georeference.
+/// Writes a reference file without a georeference; the rest is as with ZrProjRefFileWriteEx.
 ZRPROJ_API bool ZrProjRefFileWrite(char const* fileName, PROJDATA const* projection, DatumType datum,
                                    DATUM2WGS84 const* datumParameters);
 
-/// Reads a reference file into the outputs that are not null. They are reset first: a zero record with type 999, datum
+/// Reads a reference file into the outputs that are not null.
+///
+/// They are reset first: a zero record with type 999, datum
 /// 237 with zero parameters, a zero record with method 12 and null arrays, flags 0. The datum is read only where both
 /// of its outputs are given. What the georeference held before is not freed; its new controls are the caller's, for
 /// RefFreeControls.
@@ -69,18 +72,21 @@ ZRPROJ_API bool ZrProjRefFileWrite(char const* fileName, PROJDATA const* project
 ZRPROJ_API bool ZrProjRefFileReadEx(char const* fileName, PROJDATA* projection, DatumType* datum,
                                     DATUM2WGS84* datumParameters, GEOREF* georef, std::uint32_t* flags);
 
-/// ZrProjRefFileReadEx without a georeference and flags.
+/// Reads a reference file without its georeference, and without telling what it held; the rest is as with
+/// ZrProjRefFileReadEx.
 ZRPROJ_API bool ZrProjRefFileRead(char const* fileName, PROJDATA* projection, DatumType* datum,
                                   DATUM2WGS84* datumParameters);
 
-/// Deletes the reference file of a name. True when it is gone or was never there; false for a null or empty name, and
-/// when it cannot be deleted or is no plain file.
+/// Deletes the reference file of a name. Returns true when it is gone or was never there, and false for a null or empty
+/// name and when it cannot be deleted or is no plain file.
 ZRPROJ_API bool ZrProjRefFileDelete(char const* fileName);
 
-/// Deletes every side file of a map: its reference file (whatever comes of that), its RSF file, and its world files;
-/// for "map.tif" these are "map.tif.zrr", "map.RSF", "map.WLD", "map.tifW" and "map.tfW". Only plain files are deleted,
-/// and never the map itself, unless its name is that of its own reference file ("map.zrr"). False for a null or empty
-/// name, and at the first file that is there and cannot be deleted.
+/// Deletes every side file of a map: its reference file, its RSF file, and its world files. For "map.tif" these are
+/// "map.tif.zrr", "map.RSF", "map.WLD", "map.tifW" and "map.tfW".
+///
+/// Only plain files are deleted, and never the map itself, unless its name is that of its own reference file
+/// ("map.zrr"). Returns false for a null or empty name, and at the first file but the reference file that is there and
+/// cannot be deleted; the files after it stay.
 ZRPROJ_API bool ZrProjRefFilesDelete(char const* mapFileName);
 
 } // namespace ZrProj
