@@ -8,7 +8,7 @@
 #include "formulas/longitude.h"
 #include "formulas/outline.h"
 
-#include <zrproj/projection.h>
+#include "formulas/parameters.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 
@@ -26,8 +26,8 @@ struct ConcentricArcs {
     double top, bottom; // how far north of it the map begins and ends
     double origin = 0;  // how far north of it the parallel of origin lies
 
-    ConcentricArcs(PROJDATA const& work, double mirror, double radius, double nearPole, double farPole)
-        : a(work.MajorRadius), lambda0(work.Lon0), side(mirror), rho(radius), top(nearPole), bottom(farPole) {}
+    ConcentricArcs(Parameters const& given, double mirror, double radius, double nearPole, double farPole)
+        : a(given.a), lambda0(given.lon0), side(mirror), rho(radius), top(nearPole), bottom(farPole) {}
 
     template <class R> Xy<R> toMap(R theta, R radius, R north) const {
         auto const half = sinCos(0.5 * theta);

@@ -4,8 +4,6 @@
 #include "formulas/longitude.h"
 #include "formulas/outline.h"
 
-#include <zrproj/projection.h>
-
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 
 /// A point of the map: its longitude, and how far it lies north of the equator, at most as far as the map ends.

@@ -1,7 +1,7 @@
 // Runs a formula over an array of points: everything that lies between the caller's numbers and the formula's, for a
 // register full of points at a time.
 //
-// A formula is a struct of constants, made from a record, with two templates over the number type,
+// A formula is a struct of constants, made from parameters, with two templates over the number type,
 //
 //     template <class R> Xy<R> forward(LonLat<R> p) const;      // radians to ellipsoid units
 //     template <class R> LonLat<R> inverse(Xy<R> p) const;
@@ -147,6 +147,9 @@ Outcome convertArray(Converter const& converter, PROJPOINT* points, int count) n
         convertBlock<P, Direction>(converter, formula, points, count < blockPoints ? count : blockPoints, outcome);
     return outcome;
 }
+
+/// A formula's operations: specialised, for its own Method, at the end of each formula's source.
+template <Method method> Formula formula() noexcept;
 
 /// Makes `formula` what the converter runs.
 template <class P> void hold(Converter& converter, P const& formula) {

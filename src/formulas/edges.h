@@ -4,6 +4,7 @@
 
 #include "formulas/elementary.h"
 #include "formulas/map_edges.h"
+#include "formulas/parameters.h"
 
 #include <zrproj/projection.h>
 
@@ -23,12 +24,12 @@ template <class... Angles> bool areLatitudes(Angles... angles) {
 }
 
 /// The in-range test of a projection that shows the whole globe.
-inline bool isAnywhere(PROJDATA const&, PROJPOINT const&) noexcept {
+inline bool isAnywhere(ParametersInDegrees const&, PROJPOINT const&) noexcept {
     return true;
 }
 
 /// The split test of a projection that has no edge along a meridian.
-inline bool neverSplit(PROJDATA const&, PROJPOINT const*, unsigned, double* out1, double* out2) noexcept {
+inline bool neverSplit(ParametersInDegrees const&, PROJPOINT const*, unsigned, double* out1, double* out2) noexcept {
     *out1 = *out2 = 0;
     return false;
 }
@@ -49,10 +50,10 @@ inline bool splitAtOppositeMeridian(double lon0, PROJPOINT const* points, unsign
     return *out1 != 0;
 }
 
-/// The same about the record's Lon0.
-inline bool splitOppositeToLon0(PROJDATA const& record, PROJPOINT const* points, unsigned count, double* out1,
+/// The same about lon0.
+inline bool splitOppositeToLon0(ParametersInDegrees const& given, PROJPOINT const* points, unsigned count, double* out1,
                                 double* out2) noexcept {
-    return splitAtOppositeMeridian(record.Lon0, points, count, out1, out2);
+    return splitAtOppositeMeridian(given.lon0, points, count, out1, out2);
 }
 
 /// The longitudes within `halfWidth` of a central meridian.
@@ -61,9 +62,9 @@ inline Window windowAbout(double lon0, double halfWidth) {
     return {.present = true, .west = middle - reach, .east = middle + reach};
 }
 
-/// The edges of a map that ends at the meridian opposite to the record's Lon0.
-inline MapEdges edgesOppositeToLon0(PROJDATA const& record) noexcept {
-    return {.window = windowAbout(record.Lon0, 180)};
+/// The edges of a map that ends at the meridian opposite to lon0.
+inline MapEdges edgesOppositeToLon0(ParametersInDegrees const& given) noexcept {
+    return {.window = windowAbout(given.lon0, 180)};
 }
 
 /// The edges of a map that shows all but a place, or all but what lies within `halfWidth` of it on its parallel.

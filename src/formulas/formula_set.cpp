@@ -1,38 +1,14 @@
-#include "formulas/formula_set.h"
-
+// The set of a processor level's formulas. A formula without a source is an undefined symbol to the linker.
+#include "formulas/driver.h"
 #include "formulas/levels.h"
+
+#include <utility>
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 
-constinit FormulaSet const formulaSet = [] {
-    FormulaSet set{};
-    set.byType[ProjTypeMercator] = &mercator;
-    set.byType[ProjTypeAlbersEqualAreaConic] = &albers;
-    set.byType[ProjTypeMillerCylindrical] = &miller;
-    set.byType[ProjTypeUniversalTransverseMercator] = &transverseMercator;
-    set.byType[ProjTypeLambertConformalConic] = &lambertConformalConic;
-    set.byType[ProjTypeStereographic] = &stereographic;
-    set.byType[ProjTypeOrthographic] = &orthographic;
-    set.byType[ProjTypeMollweide] = &mollweide;
-    set.byType[ProjTypePolyconic] = &polyconic;
-    set.byType[ProjTypeHotineObliqueMercator] = &hotine;
-    set.byType[ProjTypeEquidistantCylindrical] = &equidistantCylindrical;
-    set.byType[ProjTypeRobinson] = &robinson;
-    set.byType[ProjTypeVanDerGrinten] = &vanDerGrinten;
-    set.byType[ProjTypeCassini] = &cassini;
-    set.byType[ProjTypeTransverseMercator] = &transverseMercator;
-    set.byType[ProjTypeGaussKruger] = &transverseMercator;
-    set.byType[ProjTypeSinusoidal] = &sinusoidal;
-    set.byType[ProjTypeLambertAzimuthalEqualArea] = &lambertAzimuthal;
-    set.byType[ProjTypeBonne] = &bonne;
-    set.byType[ProjTypeRobinsonSterling] = &robinsonSterling;
-    set.byType[ProjTypeEckertIV] = &eckertIV;
-    set.byType[ProjTypeEckertVI] = &eckertVI;
-    set.byType[ProjTypeObliqueMercator] = &obliqueMercator;
-    set.byType[ProjTypeEquidistantConic] = &equidistantConic;
-    set.byType[ProjTypeGnomonic] = &gnomonic;
-    set.byType[ProjTypeAzimuthalEquidistant] = &azimuthalEquidistant;
-    return set;
-}();
+constinit FormulaSet const formulaSet = []<std::size_t... method>(std::index_sequence<method...>) {
+    return FormulaSet{{formula<Method{method}>...}};
+}
+(std::make_index_sequence<methodCount>());
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -3,6 +3,8 @@
 
 #include "formulas/converter.h"
 
+#include <optional>
+
 namespace ZrProj::formulas {
 
 namespace scalar {
@@ -27,7 +29,7 @@ bool isAvailable(Level level) noexcept;
 Level levelInUse() noexcept;
 void useLevel(Level level) noexcept;
 
-/// The formula of a projection type at the level in use; null where the type has none.
-Formula const* formulaOf(ProjType type) noexcept;
+/// A formula at the level in use; nothing for Method::none.
+std::optional<Formula> formulaOf(Method method) noexcept;
 
 } // namespace ZrProj::formulas

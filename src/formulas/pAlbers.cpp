@@ -13,7 +13,6 @@
 #include "formulas/cone.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/power_series.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -59,19 +58,19 @@ struct AlbersEqualArea {
     AreaFromPole area;
     Cone cone; // its parallel of reference is the pole
 
-    AlbersEqualArea(PROJDATA const& work, double side, double phi1, double phi2)
-        : area(work.Flattening), cone(coneOf(work, side, phi1 > phi2 ? phi1 : phi2, phi1 > phi2 ? phi2 : phi1)) {
+    AlbersEqualArea(Parameters const& given, double side, double phi1, double phi2)
+        : area(given.f), cone(coneOf(given, side, phi1 > phi2 ? phi1 : phi2, phi1 > phi2 ? phi2 : phi1)) {
         cone.bottom = northOf(2 * area.pole);
-        cone.origin = northOf(area.of(sinCos(side * work.Lat0)));
+        cone.origin = northOf(area.of(sinCos(side * given.lat0)));
     }
 
     /// The parallel nearer to the pole tells best how wide the pole is.
-    Cone coneOf(PROJDATA const& work, double side, double nearer, double other) const {
-        double const e2 = work.Flattening * (2 - work.Flattening), n = coneConstant(nearer, other, e2);
+    Cone coneOf(Parameters const& given, double side, double nearer, double other) const {
+        double const e2 = given.f * (2 - given.f), n = coneConstant(nearer, other, e2);
         auto const at = sinCos(nearer);
         double const m2 = at.cos * at.cos / (1 - e2 * at.sin * at.sin), square = m2 - n * area.of(at);
         double const rho = square > 0 ? std::sqrt(square) / n : 0; // (14-3) at the pole
-        return {{work, side, rho, 0, 0}, n};
+        return {{given, side, rho, 0, 0}, n};
     }
 
     template <class R> R radiusOf(R u) const { return sqrt(cone.rho * cone.rho + u * (1 / cone.n)); } // (14-3)
@@ -92,18 +91,20 @@ struct AlbersEqualArea {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0, work.Lat1, work.Lat2);
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest && areLatitudes(given.lat0, given.lat1, given.lat2);
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    double const side = sideOf(work.Lat1, work.Lat2);
-    if (hasMap(work))
-        hold(converter, AlbersEqualArea(work, side, side * work.Lat1, side * work.Lat2));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    double const side = sideOf(given.lat1, given.lat2);
+    if (hasMap(given))
+        hold(converter, AlbersEqualArea(given, side, side * given.lat1, side * given.lat2));
 }
 
 } // namespace
 
-constinit Formula const albers{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::albers>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

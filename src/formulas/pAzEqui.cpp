@@ -14,7 +14,6 @@
 #include "formulas/centred_frame.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/geodesic.h"
 #include "formulas/longitude.h"
 #include "formulas/meridian.h"
@@ -41,8 +40,8 @@ struct Spherical {
     double radius, lambda0;
     CentredFrame frame;
 
-    explicit Spherical(PROJDATA const& work)
-        : radius(work.MajorRadius), lambda0(work.Lon0), frame{sinCos(work.Lat1).sin, sinCos(work.Lat1).cos} {}
+    explicit Spherical(Parameters const& given)
+        : radius(given.a), lambda0(given.lon0), frame{sinCos(given.lat1).sin, sinCos(given.lat1).cos} {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const place = frame.place(sinCos(p.lat), longitudeFrom(lambda0, p.lon));
@@ -63,9 +62,8 @@ struct Polar {
     Meridian meridian;
     double radius, lambda0, north; // radius: what a radian of mu is long; north: 1 or -1, which pole it is
 
-    explicit Polar(PROJDATA const& work)
-        : meridian(work.Flattening), radius(work.MajorRadius * meridian.radius), lambda0(work.Lon0),
-          north(work.Lat1 > 0 ? 1 : -1) {}
+    explicit Polar(Parameters const& given)
+        : meridian(given.f), radius(given.a * meridian.radius), lambda0(given.lon0), north(given.lat1 > 0 ? 1 : -1) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         R const phi = north * p.lat;
@@ -94,9 +92,8 @@ struct Ellipsoidal {
     SinCos<double> beta1;
     double focus; // the size of the astroid about the antipode, as an arc
 
-    explicit Ellipsoidal(PROJDATA const& work)
-        : series(work.Flattening), f(work.Flattening), b(work.MajorRadius * (1 - f)), lambda0(work.Lon0),
-          beta1(series.reduced(work.Lat1)),
+    explicit Ellipsoidal(Parameters const& given)
+        : series(given.f), f(given.f), b(given.a * (1 - f)), lambda0(given.lon0), beta1(series.reduced(given.lat1)),
           focus(f * pi * beta1.cos * beta1.cos * (1 - 0.25 * f * beta1.sin * beta1.sin)) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
@@ -180,25 +177,27 @@ private:
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (!areLatitudes(work.Lat1) || work.Flattening > GeodesicSeries::flattest)
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (!areLatitudes(given.lat1) || given.f > GeodesicSeries::flattest)
         return;
-    if (work.Flattening == 0)
-        hold(converter, Spherical(work));
-    else if (std::fabs(work.Lat1) == halfPi)
-        hold(converter, Polar(work));
+    if (given.f == 0)
+        hold(converter, Spherical(given));
+    else if (std::fabs(given.lat1) == halfPi)
+        hold(converter, Polar(given));
     else
-        hold(converter, Ellipsoidal(work));
+        hold(converter, Ellipsoidal(given));
 }
 
 /// The antipode; on an ellipsoid it is torn along its parallel, over as much as the astroid about it.
-MapEdges edges(PROJDATA const& record) noexcept {
-    double const torn = 180 * record.Flattening * std::cos(record.Lat1 * degree) * 1.03;
-    return edgesAround(record.Lon0 + 180, -record.Lat1, torn);
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    double const torn = 180 * given.f * std::cos(given.lat1 * degree) * 1.03;
+    return edgesAround(given.lon0 + 180, -given.lat1, torn);
 }
 
 } // namespace
 
-constinit Formula const azimuthalEquidistant{prepare, isAnywhere, neverSplit, edges};
+template <> Formula formula<Method::azimuthalEquidistant>() noexcept {
+    return {prepare, isAnywhere, neverSplit, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -12,7 +12,6 @@
 #include "formulas/cone.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/meridian.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -23,12 +22,12 @@ struct Bonne {
     double m1; // M of the standard parallel
     ConcentricArcs arcs;
 
-    Bonne(PROJDATA const& work, double side, double phi1)
-        : meridian(work.Flattening), m1(meridian.distance(phi1)), arcs(arcsOf(work, side, phi1)) {}
+    Bonne(Parameters const& given, double side, double phi1)
+        : meridian(given.f), m1(meridian.distance(phi1)), arcs(arcsOf(given, side, phi1)) {}
 
-    ConcentricArcs arcsOf(PROJDATA const& work, double side, double phi1) const {
+    ConcentricArcs arcsOf(Parameters const& given, double side, double phi1) const {
         double const rho = meridian.parallel(phi1) / sin(phi1), quadrant = meridian.quadrant();
-        return {work, side, rho, quadrant - m1, -quadrant - m1};
+        return {given, side, rho, quadrant - m1, -quadrant - m1};
     }
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
@@ -48,20 +47,22 @@ struct Bonne {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat1);
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest && areLatitudes(given.lat1);
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
+void prepare(Converter& converter, Parameters const& given) noexcept {
     // Nearer to the equator than this, the arcs' curvature no longer changes a coordinate.
     constexpr double straight = 1e-20;
-    double const side = sideOf(work.Lat1, 0), phi1 = side * work.Lat1;
-    if (hasMap(work))
-        hold(converter, Bonne(work, side, phi1 > straight ? phi1 : straight));
+    double const side = sideOf(given.lat1, 0), phi1 = side * given.lat1;
+    if (hasMap(given))
+        hold(converter, Bonne(given, side, phi1 > straight ? phi1 : straight));
 }
 
 } // namespace
 
-constinit Formula const bonne{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::bonne>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -16,7 +16,6 @@
 #include "formulas/cassini_series.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/geodesic.h"
 #include "formulas/longitude.h"
 #include "formulas/world.h"
@@ -35,7 +34,7 @@ template <class R> Condition<R> isBetweenSeams(R foot) {
 struct Spherical {
     double radius, phi0, lambda0;
 
-    explicit Spherical(PROJDATA const& work) : radius(work.MajorRadius), phi0(work.Lat0), lambda0(work.Lon0) {}
+    explicit Spherical(Parameters const& given) : radius(given.a), phi0(given.lat0), lambda0(given.lon0) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const phi = sinCos(p.lat), lambda = sinCos(longitudeFrom(lambda0, p.lon));
@@ -81,10 +80,9 @@ struct Ellipsoidal {
     double f, a, b, y0, lambda0; // y0: the northing of Lat0 from the equator
     double focus;                // the size of the astroid on the equator, as an arc
 
-    explicit Ellipsoidal(PROJDATA const& work)
-        : series(work.Flattening), meridian(work.Flattening / (2 - work.Flattening)), close(work.Flattening),
-          f(work.Flattening), a(work.MajorRadius), b(a * (1 - f)), y0(a * close.meridian.distance(work.Lat0)),
-          lambda0(work.Lon0), focus(f * halfPi) {}
+    explicit Ellipsoidal(Parameters const& given)
+        : series(given.f), meridian(given.f / (2 - given.f)), close(given.f), f(given.f), a(given.a), b(a * (1 - f)),
+          y0(a * close.meridian.distance(given.lat0)), lambda0(given.lon0), focus(f * halfPi) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         R const lambda = longitudeFrom(lambda0, p.lon), east = abs(lambda);
@@ -165,32 +163,34 @@ private:
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (!areLatitudes(work.Lat0) || work.Flattening > GeodesicSeries::flattest)
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (!areLatitudes(given.lat0) || given.f > GeodesicSeries::flattest)
         return;
-    if (work.Flattening == 0)
-        hold(converter, Spherical(work));
+    if (given.f == 0)
+        hold(converter, Spherical(given));
     else
-        hold(converter, Ellipsoidal(work));
+        hold(converter, Ellipsoidal(given));
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    return std::fabs(longitudeDifference(given.lon0, point.x)) < 90;
 }
 
 /// A quarter turn from the central meridian, and on an ellipsoid on the equator a little before, where it is torn.
-MapEdges edges(PROJDATA const& record) noexcept {
-    MapEdges ends{.window = windowAbout(record.Lon0, 90)};
-    double const torn = 90 * record.Flattening * 1.01;
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    MapEdges ends{.window = windowAbout(given.lon0, 90)};
+    double const torn = 90 * given.f * 1.01;
     if (torn > 0) {
-        ends.hole = {true, record.Lon0 + 90, 0, torn + placeInset, placeInset, true};
-        ends.otherHole = {true, record.Lon0 - 90, 0, torn + placeInset, placeInset, true};
+        ends.hole = {true, given.lon0 + 90, 0, torn + placeInset, placeInset, true};
+        ends.otherHole = {true, given.lon0 - 90, 0, torn + placeInset, placeInset, true};
     }
     return ends;
 }
 
 } // namespace
 
-constinit Formula const cassini{prepare, inProjection, splitOppositeToLon0, edges};
+template <> Formula formula<Method::cassini>() noexcept {
+    return {prepare, inProjection, splitOppositeToLon0, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -8,7 +8,6 @@
 // phi, lambda   latitude, longitude from the central meridian          theta   parametric latitude
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -26,8 +25,7 @@ constexpr double thetaFit[] = {
 struct EckertIV {
     double height, lambda0; // of the upper half, the radius of the semicircles
 
-    explicit EckertIV(PROJDATA const& work)
-        : height(2 * work.MajorRadius * std::sqrt(pi / (4 + pi))), lambda0(work.Lon0) {}
+    explicit EckertIV(Parameters const& given) : height(2 * given.a * std::sqrt(pi / (4 + pi))), lambda0(given.lon0) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const theta = sinCos(p.lat * polynomial(p.lat * p.lat, thetaFit));
@@ -47,12 +45,14 @@ struct EckertIV {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    hold(converter, EckertIV(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    hold(converter, EckertIV(given));
 }
 
 } // namespace
 
-constinit Formula const eckertIV{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::eckertIV>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -9,7 +9,6 @@
 #include "formulas/arc_plus_sine.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -18,7 +17,7 @@ namespace {
 struct EckertVI {
     double unit, lambda0; // map units a radian of longitude on the poles' lines
 
-    explicit EckertVI(PROJDATA const& work) : unit(work.MajorRadius / std::sqrt(2 + pi)), lambda0(work.Lon0) {}
+    explicit EckertVI(Parameters const& given) : unit(given.a / std::sqrt(2 + pi)), lambda0(given.lon0) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         constexpr double pole = 1 + halfPi;
@@ -38,12 +37,14 @@ struct EckertVI {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    hold(converter, EckertVI(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    hold(converter, EckertVI(given));
 }
 
 } // namespace
 
-constinit Formula const eckertVI{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::eckertVI>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

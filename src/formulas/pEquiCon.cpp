@@ -11,7 +11,6 @@
 #include "formulas/cone.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/meridian.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -35,15 +34,15 @@ struct EquidistantConic {
     double m1; // M of the first standard parallel, to which distances refer
     Cone cone;
 
-    EquidistantConic(PROJDATA const& work, double side, double phi1, double phi2)
-        : meridian(work.Flattening), m1(meridian.distance(phi1)),
-          cone(coneOf(work, side, phi1, coneConstant(phi1, phi2, meridian))) {
-        cone.origin = meridian.distance(side * work.Lat0) - m1;
+    EquidistantConic(Parameters const& given, double side, double phi1, double phi2)
+        : meridian(given.f), m1(meridian.distance(phi1)),
+          cone(coneOf(given, side, phi1, coneConstant(phi1, phi2, meridian))) {
+        cone.origin = meridian.distance(side * given.lat0) - m1;
     }
 
-    Cone coneOf(PROJDATA const& work, double side, double phi1, double n) const {
+    Cone coneOf(Parameters const& given, double side, double phi1, double n) const {
         double const quadrant = meridian.quadrant();
-        return {{work, side, meridian.parallel(phi1) / n, quadrant - m1, -quadrant - m1}, n};
+        return {{given, side, meridian.parallel(phi1) / n, quadrant - m1, -quadrant - m1}, n};
     }
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
@@ -58,18 +57,20 @@ struct EquidistantConic {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0, work.Lat1, work.Lat2);
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest && areLatitudes(given.lat0, given.lat1, given.lat2);
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    double const side = sideOf(work.Lat1, work.Lat2);
-    if (hasMap(work))
-        hold(converter, EquidistantConic(work, side, side * work.Lat1, side * work.Lat2));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    double const side = sideOf(given.lat1, given.lat2);
+    if (hasMap(given))
+        hold(converter, EquidistantConic(given, side, side * given.lat1, side * given.lat2));
 }
 
 } // namespace
 
-constinit Formula const equidistantConic{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::equidistantConic>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

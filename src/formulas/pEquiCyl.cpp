@@ -9,7 +9,6 @@
 #include "formulas/cylinder.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/meridian.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -20,9 +19,9 @@ struct EquidistantCylindrical {
     double a;
     Cylinder cylinder;
 
-    explicit EquidistantCylindrical(PROJDATA const& work)
-        : meridian(work.Flattening),
-          a(work.MajorRadius), cylinder{a, work.Lon0, a * meridian.parallel(work.Lat1), a * meridian.quadrant(), 0} {}
+    explicit EquidistantCylindrical(Parameters const& given)
+        : meridian(given.f),
+          a(given.a), cylinder{a, given.lon0, a * meridian.parallel(given.lat1), a * meridian.quadrant(), 0} {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         return cylinder.toMap(p.lon, a * meridian.distance(p.lat, sinCos(p.lat)));
@@ -34,17 +33,19 @@ struct EquidistantCylindrical {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest && std::fabs(work.Lat1) < halfPi;
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest && std::fabs(given.lat1) < halfPi;
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work))
-        hold(converter, EquidistantCylindrical(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (hasMap(given))
+        hold(converter, EquidistantCylindrical(given));
 }
 
 } // namespace
 
-constinit Formula const equidistantCylindrical{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::equidistantCylindrical>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

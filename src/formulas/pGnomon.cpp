@@ -9,7 +9,6 @@
 #include "formulas/centred_frame.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/longitude.h"
 #include "formulas/outline.h"
 
@@ -20,8 +19,8 @@ struct Gnomonic {
     double radius, lambda0;
     CentredFrame centre;
 
-    explicit Gnomonic(PROJDATA const& work)
-        : radius(work.MajorRadius), lambda0(work.Lon0), centre{std::sin(work.Lat1), std::cos(work.Lat1)} {}
+    explicit Gnomonic(Parameters const& given)
+        : radius(given.a), lambda0(given.lon0), centre{std::sin(given.lat1), std::cos(given.lat1)} {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const at = centre.place(sinCos(p.lat), longitudeFrom(lambda0, p.lon));
@@ -40,21 +39,23 @@ struct Gnomonic {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (areLatitudes(work.Lat1))
-        hold(converter, Gnomonic(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (areLatitudes(given.lat1))
+        hold(converter, Gnomonic(given));
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return placeInDegrees(record.Lat1, record.Lon0, point).up > 4 * edge;
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    return placeInDegrees(given.lat1, given.lon0, point).up > 4 * edge;
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    return {.horizon = {true, record.Lon0, record.Lat1}};
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    return {.horizon = {true, given.lon0, given.lat1}};
 }
 
 } // namespace
 
-constinit Formula const gnomonic{prepare, inProjection, neverSplit, edges};
+template <> Formula formula<Method::gnomonic>() noexcept {
+    return {prepare, inProjection, neverSplit, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -17,8 +17,6 @@
 // lambda0, gamma0 where the line crosses the equator of that sphere, and its azimuth there; D is that of (9-14)
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/flag.h"
-#include "formulas/formula_set.h"
 #include "formulas/isometric_latitude.h"
 #include "formulas/longitude.h"
 #include "formulas/oblique_cylinder.h"
@@ -65,9 +63,9 @@ struct Line {
     double heading() const { return cosAlpha < 0 ? -1 : 1; } // north or south
 };
 
-Line lineOfAzimuth(LineSphere const& sphere, PROJDATA const& work) {
-    double const cosine = std::cos(work.Alpha), lambdac = work.Lon1 != 0 ? work.Lon1 : work.Lon0;
-    Line line{0, std::sin(work.Alpha), std::fabs(cosine) < edge ? 0 : cosine, true};
+Line lineOfAzimuth(LineSphere const& sphere, Parameters const& given) {
+    double const cosine = std::cos(given.azimuth), lambdac = given.lon1 != 0 ? given.lon1 : given.lon0;
+    Line line{0, std::sin(given.azimuth), std::fabs(cosine) < edge ? 0 : cosine, true};
     double const toCentre =
         std::atan2(line.heading() * sphere.tangent * line.sinAlpha, std::fabs(line.cosAlpha) * sphere.D);
     line.lambda0 = lambdac - toCentre / sphere.B; // (9-38)
@@ -75,18 +73,18 @@ Line lineOfAzimuth(LineSphere const& sphere, PROJDATA const& work) {
 }
 
 /// The line through two points, heading north, from the crossing of the equator nearer to them.
-Line lineOfPoints(LineSphere const& sphere, PROJDATA const& work) {
-    double const q1 = sphere.isometricOn(work.Lat1), q2 = sphere.isometricOn(work.Lat2);
+Line lineOfPoints(LineSphere const& sphere, Parameters const& given) {
+    double const q1 = sphere.isometricOn(given.lat1), q2 = sphere.isometricOn(given.lat2);
     double const c1 = 1 / std::cosh(q1), c2 = 1 / std::cosh(q2), s1 = std::tanh(q1), s2 = std::tanh(q2);
     // The line's pole: the cross product of the points, which lie at the longitudes -L and L from the middle.
-    double const half = std::remainder(work.Lon2 - work.Lon1, 2 * pi) / 2, L = sphere.B * half;
+    double const half = std::remainder(given.lon2 - given.lon1, 2 * pi) / 2, L = sphere.B * half;
     double const x = -(c1 * s2 + s1 * c2) * std::sin(L), y = (s1 * c2 - c1 * s2) * std::cos(L);
     double const z = c1 * c2 * std::sin(2 * L), length = std::sqrt(x * x + y * y + z * z);
     double const side = y > 0 || (y == 0 && z < 0) ? -1 : 1; // of the line's two poles, the one to the left
-    Line line{work.Lon1 + half + std::atan2(side * x, -side * y) / sphere.B, sphere.D * side * z / length, 0, true};
+    Line line{given.lon1 + half + std::atan2(side * x, -side * y) / sphere.B, sphere.D * side * z / length, 0, true};
     double const square = (1 - line.sinAlpha) * (1 + line.sinAlpha); // (9-24)
     line.cosAlpha = square > 0 ? std::sqrt(square) : 0;
-    line.defined = length > edge && std::fabs(line.sinAlpha) <= 1 + edge && areLatitudes(work.Lat1, work.Lat2);
+    line.defined = length > edge && std::fabs(line.sinAlpha) <= 1 + edge && areLatitudes(given.lat1, given.lat2);
     return line;
 }
 
@@ -109,12 +107,12 @@ struct Setting {
     ObliqueCylinder cylinder;
     bool defined;
 
-    explicit Setting(PROJDATA const& work)
-        : sphere(work.Flattening, work.Lat0),
-          line(isSet<&PROJDATA::bUseAlpha>(work) ? lineOfAzimuth(sphere, work) : lineOfPoints(sphere, work)),
+    explicit Setting(Parameters const& given)
+        : sphere(given.f, given.lat0),
+          line(given.useAzimuth ? lineOfAzimuth(sphere, given) : lineOfPoints(sphere, given)),
           cylinder{{line.sinAlpha / sphere.D, // gamma0, (9-37)
                     line.heading() * std::hypot(sphere.tangent, line.cosAlpha) / sphere.D}},
-          defined(line.defined && areLatitudes(work.Lat0) && work.Flattening <= AuxiliaryLatitude::flattest) {}
+          defined(line.defined && areLatitudes(given.lat0) && given.f <= AuxiliaryLatitude::flattest) {}
 
     /// u of the centre over A / B, (9-39).
     double centre() const { return std::atan2(line.heading() * sphere.tangent, std::fabs(line.cosAlpha)); }
@@ -128,11 +126,11 @@ struct Hotine {
     ObliqueCylinder cylinder;
     IsometricLatitude isometricLatitude;
 
-    Hotine(PROJDATA const& work, Setting const& at)
+    Hotine(Parameters const& given, Setting const& at)
         : B(at.sphere.B), logE(at.sphere.logE), lambda0(at.line.lambda0), seam(seamOf(at.sphere)),
-          size(work.MajorRadius * work.K0 * at.sphere.size), origin(isSet<&PROJDATA::bUOffset>(work) ? at.centre() : 0),
-          cylinder(at.cylinder), isometricLatitude(work.Flattening) {
-        if (isSet<&PROJDATA::bRotate>(work)) { // (9-33), (9-34)
+          size(given.a * given.k0 * at.sphere.size), origin(given.offsetByU ? at.centre() : 0), cylinder(at.cylinder),
+          isometricLatitude(given.f) {
+        if (given.rotate) { // (9-33), (9-34)
             xu = ya = at.line.sinAlpha;
             yu = at.line.cosAlpha;
             xa = -yu;
@@ -160,25 +158,14 @@ struct Hotine {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    Setting const setting(work);
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    Setting const setting(given);
     if (setting.defined)
-        hold(converter, Hotine(work, setting));
+        hold(converter, Hotine(given, setting));
 }
 
-PROJDATA inRadians(PROJDATA record) {
-    record.Lat0 *= degree;
-    record.Lon0 *= degree;
-    record.Lat1 *= degree;
-    record.Lon1 *= degree;
-    record.Lat2 *= degree;
-    record.Lon2 *= degree;
-    record.Alpha *= degree;
-    return record;
-}
-
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    Setting const at(inRadians(record));
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    Setting const at(inRadians(given));
     double const lambda = point.x * degree, phi = point.y * degree;
     double const L = at.sphere.B * longitudeFrom(at.line.lambda0, lambda);
     auto const onSphere = mercatorLatitude(at.sphere.isometricOn(phi));
@@ -187,17 +174,17 @@ bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
     return !covered && std::hypot(p.east, p.north) > 4 * edge;
 }
 
-bool offsetSplitObject(PROJDATA const& record, PROJPOINT const* points, unsigned count, double* out1,
+bool offsetSplitObject(ParametersInDegrees const& given, PROJPOINT const* points, unsigned count, double* out1,
                        double* out2) noexcept {
-    if (!isSet<&PROJDATA::bUseAlpha>(record))
-        return neverSplit(record, points, count, out1, out2);
-    return splitAtOppositeMeridian(record.Lon1 != 0 ? record.Lon1 : record.Lon0, points, count, out1, out2);
+    if (!given.useAzimuth)
+        return neverSplit(given, points, count, out1, out2);
+    return splitAtOppositeMeridian(given.lon1 != 0 ? given.lon1 : given.lon0, points, count, out1, out2);
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    Setting const at(inRadians(record));
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    Setting const at(inRadians(given));
     LineSphere const& sphere = at.sphere;
-    IsometricLatitude const isometricLatitude(record.Flattening);
+    IsometricLatitude const isometricLatitude(given.f);
     auto const latitude = [&](SinCos<double> chi) {
         return isometricLatitude.geodetic((isometric(chi) - sphere.logE) / sphere.B);
     };
@@ -214,6 +201,8 @@ MapEdges edges(PROJDATA const& record) noexcept {
 
 } // namespace
 
-constinit Formula const hotine{prepare, inProjection, offsetSplitObject, edges};
+template <> Formula formula<Method::hotine>() noexcept {
+    return {prepare, inProjection, offsetSplitObject, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -11,7 +11,6 @@
 #include "formulas/centred_frame.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/longitude.h"
 #include "formulas/outline.h"
 
@@ -23,15 +22,15 @@ struct LambertAzimuthal {
     CentredFrame centre;          // latitude beta1
     AuxiliaryLatitude authalic;
 
-    explicit LambertAzimuthal(PROJDATA const& work) : lambda0(work.Lon0), authalic(authalicLatitude(work.Flattening)) {
-        double const f = work.Flattening, Rq = std::sqrt(authalicQ(f) / 2); // (3-13)
-        auto const phi1 = sinCos(double{work.Lat1});
+    explicit LambertAzimuthal(Parameters const& given) : lambda0(given.lon0), authalic(authalicLatitude(given.f)) {
+        double const f = given.f, Rq = std::sqrt(authalicQ(f) / 2); // (3-13)
+        auto const phi1 = sinCos(given.lat1);
         auto const turn = sinCos(authalic.auxiliary(0.0, phi1));                                // of beta1 - phi1
         double const cosines = turn.cos - phi1.sin * (turn.sin / phi1.cos);                     // cos beta1 / cos phi1
         double const D = 1 / (std::sqrt(1 - f * (2 - f) * phi1.sin * phi1.sin) * Rq * cosines); // (24-20)
         centre = {phi1.sin * turn.cos + phi1.cos * turn.sin, phi1.cos * cosines};
-        xSize = work.MajorRadius * Rq * D;
-        ySize = work.MajorRadius * Rq / D;
+        xSize = given.a * Rq * D;
+        ySize = given.a * Rq / D;
     }
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
@@ -53,25 +52,27 @@ struct LambertAzimuthal {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat1);
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest && areLatitudes(given.lat1);
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work))
-        hold(converter, LambertAzimuthal(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (hasMap(given))
+        hold(converter, LambertAzimuthal(given));
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return isClearOfAntipode(record.Lat1, record.Lon0, point);
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    return isClearOfAntipode(given.lat1, given.lon0, point);
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    return edgesAroundAntipode(record.Lon0, record.Lat1);
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    return edgesAroundAntipode(given.lon0, given.lat1);
 }
 
 } // namespace
 
-constinit Formula const lambertAzimuthal{prepare, inProjection, neverSplit, edges};
+template <> Formula formula<Method::lambertAzimuthal>() noexcept {
+    return {prepare, inProjection, neverSplit, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

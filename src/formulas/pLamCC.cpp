@@ -13,7 +13,6 @@
 #include "formulas/cone.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/isometric_latitude.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -39,20 +38,20 @@ struct LambertConformalConic {
     double psiRef; // of the standard parallel nearer to the equator, to which radii refer
     double end;    // how far north the last latitude before the pole lies; between it and the pole is no latitude
 
-    LambertConformalConic(PROJDATA const& work, double side, double phi1, double phi2)
-        : isometric(work.Flattening), cone(coneOf(work, side, phi1, phi2)),
-          psiRef(isometric.of(sinCos(nearer(phi1, phi2)))), end(northOf(isometric.last)) {
+    LambertConformalConic(Parameters const& given, double side, double phi1, double phi2)
+        : isometric(given.f), cone(coneOf(given, side, phi1, phi2)), psiRef(isometric.of(sinCos(nearer(phi1, phi2)))),
+          end(northOf(isometric.last)) {
         cone.bottom = northOf(-isometric.last);
-        cone.origin = abs(work.Lat0) == halfPi ? cone.top : northOf(isometric.of(sinCos(side * work.Lat0)));
+        cone.origin = abs(given.lat0) == halfPi ? cone.top : northOf(isometric.of(sinCos(side * given.lat0)));
     }
 
     static double nearer(double phi1, double phi2) { return abs(phi1) < abs(phi2) ? phi1 : phi2; }
 
-    static Cone coneOf(PROJDATA const& work, double side, double phi1, double phi2) {
-        double const e2 = work.Flattening * (2 - work.Flattening), n = coneConstant(phi1, phi2, e2);
+    static Cone coneOf(Parameters const& given, double side, double phi1, double phi2) {
+        double const e2 = given.f * (2 - given.f), n = coneConstant(phi1, phi2, e2);
         auto const at = sinCos(nearer(phi1, phi2));
         double const rho = at.cos / std::sqrt(1 - e2 * at.sin * at.sin) / n; // (14-15), (15-7), (15-10)
-        return {{work, side, rho, rho, 0}, n};
+        return {{given, side, rho, rho, 0}, n};
     }
 
     /// How far north of the parallel of reference, along the meridian.
@@ -75,26 +74,25 @@ struct LambertConformalConic {
 };
 
 /// Whether there is a cone, and its other pole is not asked for as the origin.
-bool hasMap(PROJDATA const& work) {
-    double const side = sideOf(work.Lat1, work.Lat2);
-    return work.Flattening <= AuxiliaryLatitude::flattest && work.Lat1 + work.Lat2 != 0 &&
-           std::fabs(work.Lat1) < halfPi && std::fabs(work.Lat2) < halfPi && areLatitudes(work.Lat0) &&
-           side * work.Lat0 != -halfPi;
+bool hasMap(Parameters const& given) {
+    double const side = sideOf(given.lat1, given.lat2);
+    return given.f <= AuxiliaryLatitude::flattest && given.lat1 + given.lat2 != 0 && std::fabs(given.lat1) < halfPi &&
+           std::fabs(given.lat2) < halfPi && areLatitudes(given.lat0) && side * given.lat0 != -halfPi;
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    double const side = sideOf(work.Lat1, work.Lat2);
-    if (hasMap(work))
-        hold(converter, LambertConformalConic(work, side, side * work.Lat1, side * work.Lat2));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    double const side = sideOf(given.lat1, given.lat2);
+    if (hasMap(given))
+        hold(converter, LambertConformalConic(given, side, side * given.lat1, side * given.lat2));
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return sideOf(record.Lat1, record.Lat2) * point.y > -90;
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    return sideOf(given.lat1, given.lat2) * point.y > -90;
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    MapEdges ends = edgesOppositeToLon0(record);
-    if (sideOf(record.Lat1, record.Lat2) > 0)
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    MapEdges ends = edgesOppositeToLon0(given);
+    if (sideOf(given.lat1, given.lat2) > 0)
         ends.window.south = placeInset - 90;
     else
         ends.window.north = 90 - placeInset;
@@ -103,6 +101,8 @@ MapEdges edges(PROJDATA const& record) noexcept {
 
 } // namespace
 
-constinit Formula const lambertConformalConic{prepare, inProjection, splitOppositeToLon0, edges};
+template <> Formula formula<Method::lambertConformalConic>() noexcept {
+    return {prepare, inProjection, splitOppositeToLon0, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

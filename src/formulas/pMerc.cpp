@@ -9,7 +9,6 @@
 #include "formulas/cylinder.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/isometric_latitude.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -20,9 +19,9 @@ struct Mercator {
     double a;
     Cylinder cylinder;
 
-    explicit Mercator(PROJDATA const& work)
-        : isometric(work.Flattening),
-          a(work.MajorRadius), cylinder{a, work.Lon0, a, a * isometric.last, a * isometric.of(sinCos(work.Lat0))} {}
+    explicit Mercator(Parameters const& given)
+        : isometric(given.f),
+          a(given.a), cylinder{a, given.lon0, a, a * isometric.last, a * isometric.of(sinCos(given.lat0))} {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const map = cylinder.toMap(p.lon, a * isometric.of(sinCos(p.lat))); // (7-6), (7-7)
@@ -35,21 +34,21 @@ struct Mercator {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0);
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest && areLatitudes(given.lat0);
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work))
-        hold(converter, Mercator(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (hasMap(given))
+        hold(converter, Mercator(given));
 }
 
-bool inProjection(PROJDATA const&, PROJPOINT const& point) noexcept {
+bool inProjection(ParametersInDegrees const&, PROJPOINT const& point) noexcept {
     return std::fabs(point.y) < 90;
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    MapEdges ends = edgesOppositeToLon0(record);
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    MapEdges ends = edgesOppositeToLon0(given);
     ends.window.north = 90 - placeInset;
     ends.window.south = -ends.window.north;
     return ends;
@@ -57,6 +56,8 @@ MapEdges edges(PROJDATA const& record) noexcept {
 
 } // namespace
 
-constinit Formula const mercator{prepare, inProjection, splitOppositeToLon0, edges};
+template <> Formula formula<Method::mercator>() noexcept {
+    return {prepare, inProjection, splitOppositeToLon0, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -9,7 +9,6 @@
 #include "formulas/cylinder.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
@@ -18,9 +17,8 @@ struct Miller {
     double stretch; // 5 R / 4
     Cylinder cylinder;
 
-    explicit Miller(PROJDATA const& work)
-        : stretch(1.25 * work.MajorRadius), cylinder{work.MajorRadius, work.Lon0, work.MajorRadius, northOf(halfPi),
-                                                     0} {}
+    explicit Miller(Parameters const& given)
+        : stretch(1.25 * given.a), cylinder{given.a, given.lon0, given.a, northOf(halfPi), 0} {}
 
     template <class R> R northOf(R phi) const { return stretch * isometric(sinCos(0.8 * phi)); }
 
@@ -35,12 +33,14 @@ struct Miller {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    hold(converter, Miller(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    hold(converter, Miller(given));
 }
 
 } // namespace
 
-constinit Formula const miller{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::miller>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -10,7 +10,6 @@
 #include "formulas/arc_plus_sine.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -19,8 +18,8 @@ namespace {
 struct Mollweide {
     double halfHeight, halfWidth, lambda0;
 
-    explicit Mollweide(PROJDATA const& work)
-        : halfHeight(std::numbers::sqrt2 * work.MajorRadius), halfWidth(2 * halfHeight), lambda0(work.Lon0) {}
+    explicit Mollweide(Parameters const& given)
+        : halfHeight(std::numbers::sqrt2 * given.a), halfWidth(2 * halfHeight), lambda0(given.lon0) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         R const lambda = longitudeFrom(lambda0, p.lon);
@@ -43,12 +42,14 @@ struct Mollweide {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    hold(converter, Mollweide(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    hold(converter, Mollweide(given));
 }
 
 } // namespace
 
-constinit Formula const mollweide{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::mollweide>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -11,7 +11,6 @@
 // x             along the line, from where it crosses the equator eastwards        k0   scale on the line
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/longitude.h"
 #include "formulas/oblique_cylinder.h"
 
@@ -42,8 +41,8 @@ struct ObliqueMercator {
     double radius, lambdap; // radius R k0
     ObliqueCylinder cylinder;
 
-    ObliqueMercator(PROJDATA const& work, NorthernPole const& pole)
-        : radius(work.MajorRadius * work.K0), lambdap(pole.lambda), cylinder{{pole.sin, pole.cos}} {}
+    ObliqueMercator(Parameters const& given, NorthernPole const& pole)
+        : radius(given.a * given.k0), lambdap(pole.lambda), cylinder{{pole.sin, pole.cos}} {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const map = cylinder.forward(sinCos(p.lat), longitudeFrom(lambdap, p.lon));
@@ -58,31 +57,33 @@ struct ObliqueMercator {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    NorthernPole const pole({work.Lon1, work.Lat1}, {work.Lon2, work.Lat2});
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    NorthernPole const pole({given.lon1, given.lat1}, {given.lon2, given.lat2});
     if (pole.defined)
-        hold(converter, ObliqueMercator(work, pole));
+        hold(converter, ObliqueMercator(given, pole));
 }
 
-NorthernPole poleOf(PROJDATA const& record) {
-    return {{record.Lon1 * degree, record.Lat1 * degree}, {record.Lon2 * degree, record.Lat2 * degree}};
+NorthernPole poleOf(ParametersInDegrees const& given) {
+    return {{given.lon1 * degree, given.lat1 * degree}, {given.lon2 * degree, given.lat2 * degree}};
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    NorthernPole const pole = poleOf(record);
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    NorthernPole const pole = poleOf(given);
     double const theta = longitudeFrom(pole.lambda, point.x * degree);
     auto const p = CentredFrame{pole.sin, pole.cos}.place(sinCos(point.y * degree), theta);
     return std::hypot(p.east, p.north) > 4 * edge;
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    NorthernPole const pole = poleOf(record);
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    NorthernPole const pole = poleOf(given);
     ObliqueCut const cut{.present = true, .lon0 = pole.lambda * radian, .sinPole = pole.sin, .cosPole = pole.cos};
     return edgesOf(cut, [](SinCos<double> phi) { return std::atan2(phi.sin, phi.cos); });
 }
 
 } // namespace
 
-constinit Formula const obliqueMercator{prepare, inProjection, neverSplit, edges};
+template <> Formula formula<Method::obliqueMercator>() noexcept {
+    return {prepare, inProjection, neverSplit, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

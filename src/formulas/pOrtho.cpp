@@ -13,7 +13,6 @@
 #include "formulas/centred_frame.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/longitude.h"
 #include "formulas/outline.h"
 
@@ -27,9 +26,9 @@ struct Orthographic {
     double polar;               // a^2 / b^2
     double squareU, slopeU, N2; // the quadratic equation's coefficients: of U^2; of U N; of N^2
 
-    explicit Orthographic(PROJDATA const& work)
-        : a(work.MajorRadius), lambda0(work.Lon0),
-          e2(work.Flattening * (2 - work.Flattening)), centre{std::sin(work.Lat0), std::cos(work.Lat0)} {
+    explicit Orthographic(Parameters const& given)
+        : a(given.a), lambda0(given.lon0),
+          e2(given.f * (2 - given.f)), centre{std::sin(given.lat0), std::cos(given.lat0)} {
         double const s = centre.sin1, c = centre.cos1;
         shift = e2 * s * c / std::sqrt(1 - e2 * s * s);
         polar = 1 / (1 - e2);
@@ -57,21 +56,23 @@ struct Orthographic {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (areLatitudes(work.Lat0))
-        hold(converter, Orthographic(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (areLatitudes(given.lat0))
+        hold(converter, Orthographic(given));
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return placeInDegrees(record.Lat0, record.Lon0, point).up > -edge / 2;
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    return placeInDegrees(given.lat0, given.lon0, point).up > -edge / 2;
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    return {.horizon = {true, record.Lon0, record.Lat0}};
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    return {.horizon = {true, given.lon0, given.lat0}};
 }
 
 } // namespace
 
-constinit Formula const orthographic{prepare, inProjection, neverSplit, edges};
+template <> Formula formula<Method::orthographic>() noexcept {
+    return {prepare, inProjection, neverSplit, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

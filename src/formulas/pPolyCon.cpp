@@ -10,7 +10,6 @@
 // m             radius of a parallel, N cos phi          E   lambda sin phi, the angle about the centre of the arc
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/longitude.h"
 #include "formulas/meridian.h"
 
@@ -21,8 +20,8 @@ struct Polyconic {
     Meridian meridian;
     double a, lambda0, m0; // m0: M0 / a
 
-    explicit Polyconic(PROJDATA const& work)
-        : meridian(work.Flattening), a(work.MajorRadius), lambda0(work.Lon0), m0(meridian.distance(work.Lat0)) {}
+    explicit Polyconic(Parameters const& given)
+        : meridian(given.f), a(given.a), lambda0(given.lon0), m0(meridian.distance(given.lat0)) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const phi = sinCos(p.lat);
@@ -74,25 +73,27 @@ struct Polyconic {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0);
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest && areLatitudes(given.lat0);
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work))
-        hold(converter, Polyconic(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (hasMap(given))
+        hold(converter, Polyconic(given));
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return std::fabs(longitudeDifference(record.Lon0, point.x)) < 90;
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    return std::fabs(longitudeDifference(given.lon0, point.x)) < 90;
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    return {.window = windowAbout(record.Lon0, 90)};
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    return {.window = windowAbout(given.lon0, 90)};
 }
 
 } // namespace
 
-constinit Formula const polyconic{prepare, inProjection, splitOppositeToLon0, edges};
+template <> Formula formula<Method::polyconic>() noexcept {
+    return {prepare, inProjection, splitOppositeToLon0, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

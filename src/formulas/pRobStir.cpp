@@ -7,7 +7,6 @@
 // Domain    the globe, as a sphere of the semi-major axis; the inverse up to the outline.
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/robinson.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -27,12 +26,14 @@ constexpr RobinsonCubics differences = [] {
     return cubics;
 }();
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    hold(converter, RobinsonMap<differences>(work.MajorRadius, work.Lon0));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    hold(converter, RobinsonMap<differences>(given.a, given.lon0));
 }
 
 } // namespace
 
-constinit Formula const robinsonSterling{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::robinsonSterling>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -4,10 +4,9 @@
 //           Systems 17, pp. 301-305, for Robinson's table; the curve through it is ours, since he drew it by hand.
 // Departs   one cubic spline through the table mirrored to -90..90 degrees, third derivative continuous at +-85.
 // Accuracy  5e-8 m, beside the poles 1e-6 m; round trip 1e-12 degrees or 2e-8 m.
-// Domain    the globe, as a sphere of the semi-major axis, about Greenwich; the inverse up to the outline.
+// Domain    the globe, as a sphere of the semi-major axis; the inverse up to the outline.
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/robinson.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -64,21 +63,14 @@ constexpr RobinsonCubics spline = [] {
     return cubics;
 }();
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    hold(converter, RobinsonMap<spline>(work.MajorRadius, 0));
-}
-
-bool splitOppositeToGreenwich(PROJDATA const&, PROJPOINT const* points, unsigned count, double* out1,
-                              double* out2) noexcept {
-    return splitAtOppositeMeridian(0, points, count, out1, out2);
-}
-
-MapEdges edges(PROJDATA const&) noexcept {
-    return {.window = windowAbout(0, 180)};
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    hold(converter, RobinsonMap<spline>(given.a, given.lon0));
 }
 
 } // namespace
 
-constinit Formula const robinson{prepare, isAnywhere, splitOppositeToGreenwich, edges};
+template <> Formula formula<Method::robinson>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

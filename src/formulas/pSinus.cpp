@@ -8,7 +8,6 @@
 // phi, lambda   latitude, longitude          M   meridian distance          m   radius of a parallel
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/longitude.h"
 #include "formulas/meridian.h"
 
@@ -19,7 +18,7 @@ struct Sinusoidal {
     Meridian meridian;
     double a, lambda0;
 
-    explicit Sinusoidal(PROJDATA const& work) : meridian(work.Flattening), a(work.MajorRadius), lambda0(work.Lon0) {}
+    explicit Sinusoidal(Parameters const& given) : meridian(given.f), a(given.a), lambda0(given.lon0) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const phi = sinCos(p.lat);
@@ -38,17 +37,19 @@ struct Sinusoidal {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest;
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest;
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work))
-        hold(converter, Sinusoidal(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (hasMap(given))
+        hold(converter, Sinusoidal(given));
 }
 
 } // namespace
 
-constinit Formula const sinusoidal{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::sinusoidal>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

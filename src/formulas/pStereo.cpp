@@ -12,7 +12,6 @@
 #include "formulas/centred_frame.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/longitude.h"
 #include "formulas/outline.h"
 
@@ -31,10 +30,10 @@ struct Stereographic {
     CentredFrame centre;  // latitude chi1
     AuxiliaryLatitude conformal;
 
-    explicit Stereographic(PROJDATA const& work)
-        : lambda0(work.Lon0), size(2 * work.MajorRadius * work.K0 * conformalScale(work.Flattening, work.Lat0)),
-          conformal(conformalLatitude(work.Flattening)) {
-        auto const chi1 = sinCos(conformal.auxiliary(double{work.Lat0}, sinCos(double{work.Lat0})));
+    explicit Stereographic(Parameters const& given)
+        : lambda0(given.lon0), size(2 * given.a * given.k0 * conformalScale(given.f, given.lat0)),
+          conformal(conformalLatitude(given.f)) {
+        auto const chi1 = sinCos(conformal.auxiliary(given.lat0, sinCos(given.lat0)));
         centre = {chi1.sin, chi1.cos};
     }
 
@@ -57,25 +56,27 @@ struct Stereographic {
     }
 };
 
-bool hasMap(PROJDATA const& work) {
-    return work.Flattening <= AuxiliaryLatitude::flattest && areLatitudes(work.Lat0);
+bool hasMap(Parameters const& given) {
+    return given.f <= AuxiliaryLatitude::flattest && areLatitudes(given.lat0);
 }
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (hasMap(work))
-        hold(converter, Stereographic(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (hasMap(given))
+        hold(converter, Stereographic(given));
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return isClearOfAntipode(record.Lat0, record.Lon0, point);
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    return isClearOfAntipode(given.lat0, given.lon0, point);
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    return edgesAroundAntipode(record.Lon0, record.Lat0);
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    return edgesAroundAntipode(given.lon0, given.lat0);
 }
 
 } // namespace
 
-constinit Formula const stereographic{prepare, inProjection, neverSplit, edges};
+template <> Formula formula<Method::stereographic>() noexcept {
+    return {prepare, inProjection, neverSplit, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

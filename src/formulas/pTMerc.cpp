@@ -14,7 +14,6 @@
 #include "formulas/driver.h"
 #include "formulas/edges.h"
 #include "formulas/elementary.h"
-#include "formulas/formula_set.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
@@ -44,10 +43,10 @@ struct Ellipsoidal {
     double perMetre, muPerM, n1PerW; // 1 / (a k0), 1 / a0 of the series, 1 / (1 - e2)
     double f2, f4, f6, f8;           // footpoint latitude: coefficients of sin 2 mu to sin 8 mu in (3-26)
 
-    explicit Ellipsoidal(PROJDATA const& work)
-        : a(work.MajorRadius), k0(work.K0), lambda0(work.Lon0), e2(work.Flattening * (2 - work.Flattening)),
-          ep2(e2 / (1 - e2)), series(e2), m0(series.distance(work.Lat0, sinCos(work.Lat0))), perMetre(1 / (a * k0)),
-          muPerM(1 / series.a0), n1PerW(1 / (1 - e2)) {
+    explicit Ellipsoidal(Parameters const& given)
+        : a(given.a), k0(given.k0), lambda0(given.lon0), e2(given.f * (2 - given.f)), ep2(e2 / (1 - e2)), series(e2),
+          m0(series.distance(given.lat0, sinCos(given.lat0))), perMetre(1 / (a * k0)), muPerM(1 / series.a0),
+          n1PerW(1 / (1 - e2)) {
         double const root = std::sqrt(1 - e2), e1 = (1 - root) / (1 + root);
         f2 = 3 * e1 / 2 - 27 * e1 * e1 * e1 / 32;
         f4 = 21 * e1 * e1 / 16 - 55 * e1 * e1 * e1 * e1 / 32;
@@ -101,8 +100,7 @@ struct Ellipsoidal {
 struct Spherical {
     double radius, phi0, lambda0; // radius R k0
 
-    explicit Spherical(PROJDATA const& work)
-        : radius(work.MajorRadius * work.K0), phi0(work.Lat0), lambda0(work.Lon0) {}
+    explicit Spherical(Parameters const& given) : radius(given.a * given.k0), phi0(given.lat0), lambda0(given.lon0) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         R const theta = p.lon - lambda0;
@@ -127,24 +125,26 @@ struct Spherical {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    if (work.Flattening == 0)
-        hold(converter, Spherical(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    if (given.f == 0)
+        hold(converter, Spherical(given));
     else
-        hold(converter, Ellipsoidal(work));
+        hold(converter, Ellipsoidal(given));
 }
 
-bool inProjection(PROJDATA const& record, PROJPOINT const& point) noexcept {
-    return record.Lon0 - 45 < point.x && point.x < record.Lon0 + 45;
+bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
+    return given.lon0 - 45 < point.x && point.x < given.lon0 + 45;
 }
 
-MapEdges edges(PROJDATA const& record) noexcept {
-    double const west = std::fmax(record.Lon0 - 45, -360), east = std::fmin(record.Lon0 + 45, 360);
+MapEdges edges(ParametersInDegrees const& given) noexcept {
+    double const west = std::fmax(given.lon0 - 45, -360), east = std::fmin(given.lon0 + 45, 360);
     return {.window = {.present = true, .wraps = false, .west = west + lineInset, .east = east - lineInset}};
 }
 
 } // namespace
 
-constinit Formula const transverseMercator{prepare, inProjection, splitOppositeToLon0, edges};
+template <> Formula formula<Method::transverseMercator>() noexcept {
+    return {prepare, inProjection, splitOppositeToLon0, edges};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

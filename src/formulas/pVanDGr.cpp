@@ -11,7 +11,6 @@
 // rho, alpha    modulus and argument of w, tan(alpha / 2) = u; the south is mirrored
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/formula_set.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
@@ -20,7 +19,7 @@ namespace {
 struct VanDerGrinten {
     double radius, lambda0;
 
-    explicit VanDerGrinten(PROJDATA const& work) : radius(pi * work.MajorRadius), lambda0(work.Lon0) {}
+    explicit VanDerGrinten(Parameters const& given) : radius(pi * given.a), lambda0(given.lon0) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         R const lambda = longitudeFrom(lambda0, p.lon);
@@ -68,12 +67,14 @@ struct VanDerGrinten {
     }
 };
 
-void prepare(Converter& converter, PROJDATA const& work) noexcept {
-    hold(converter, VanDerGrinten(work));
+void prepare(Converter& converter, Parameters const& given) noexcept {
+    hold(converter, VanDerGrinten(given));
 }
 
 } // namespace
 
-constinit Formula const vanDerGrinten{prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+template <> Formula formula<Method::vanDerGrinten>() noexcept {
+    return {prepare, isAnywhere, splitOppositeToLon0, edgesOppositeToLon0};
+}
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

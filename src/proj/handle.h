@@ -5,15 +5,16 @@
 
 #include <atomic>
 #include <cstddef>
+#include <optional>
 
 namespace ZrProj {
 
 /// A handle's block. The handle is the address of `record`, which is what callers may know of it.
 struct ProjectionBlock {
     std::atomic<int> owners{1};
-    formulas::Formula const* formula = nullptr; // null: the type does not convert
-    formulas::Converter converter;              // ready for `record`, where there is a formula
-    PROJDATA area{};                            // the record that in-range and split tests look at
+    std::optional<formulas::Formula> formula; // nothing: the type does not convert
+    formulas::Converter converter;            // ready for `record`, where there is a formula
+    formulas::ParametersInDegrees area;       // what in-range and split tests and the map's edges go by
     PROJDATA record{};
 
     static ProjectionBlock& of(void* handle) {

@@ -49,10 +49,10 @@ void useLevel(Level level) noexcept {
     chosen.store(level, std::memory_order_relaxed);
 }
 
-Formula const* formulaOf(ProjType type) noexcept {
-    if (type < 0 || type > ProjTypeAzimuthalEquidistant)
-        return nullptr;
-    return formulaSetOf(levelInUse())->byType[type];
+std::optional<Formula> formulaOf(Method method) noexcept {
+    if (method == Method::none)
+        return {};
+    return formulaSetOf(levelInUse())->byMethod[static_cast<std::size_t>(method)]();
 }
 
 } // namespace ZrProj::formulas

@@ -1,6 +1,10 @@
 // The projection types: one row a type, in ProjType order, with the name and the capability bits that callers are told.
-// What a type computes is in formulas/, reached through formulas::formulaOf.
+// The formula that computes a type is reached through formulas::formulaOf.
 #pragma once
+
+#include "formulas/method.h"
+
+#include <zrproj/projection.h>
 
 #include <array>
 
@@ -9,41 +13,52 @@ namespace ZrProj {
 struct MethodRow {
     char const* name;
     unsigned bits; // capability bits, for callers only
+    formulas::Method method =
+        formulas::Method::none; // what computes it; none for a State Plane type, whose zones have types of their own
 };
 
 // clang-format off
-inline constexpr std::array methodTable{
-    MethodRow{"Unprojected Lat/Long",                0x00},
-    MethodRow{"Mercator",                            0x2F},
-    MethodRow{"Albers Equal Area Conic",             0x2F},
-    MethodRow{"Miller Cylindrical",                  0x2F},
-    MethodRow{"Universal Transverse Mercator (UTM)", 0x1B},
-    MethodRow{"Lambert Conformal Conic",             0x2F},
-    MethodRow{"Stereographic",                       0x1B},
-    MethodRow{"Orthographic",                        0x1B},
-    MethodRow{"Mollweide",                           0x3F},
-    MethodRow{"State Plane 1927",                    0x3B},
-    MethodRow{"State Plane 1983",                    0x3B},
-    MethodRow{"Polyconic",                           0x1B},
-    MethodRow{"Hotine Oblique Mercator",             0x03},
-    MethodRow{"Equidistant Cylindrical",             0x2F},
-    MethodRow{"Robinson",                            0x3F},
-    MethodRow{"Van Der Grinten",                     0x3F},
-    MethodRow{"Cassini",                             0x3B},
-    MethodRow{"Transverse Mercator",                 0x1B},
-    MethodRow{"Gauss-Kruger / Gauss Conformal",      0x1B},
-    MethodRow{"Sinusoidal",                          0x3F},
-    MethodRow{"Lambert Azimuthal Equal Area",        0x3B},
-    MethodRow{"Bonne",                               0x1B},
-    MethodRow{"Robinson-Sterling",                   0x3F},
-    MethodRow{"Eckert IV",                           0x3F},
-    MethodRow{"Eckert VI",                           0x3F},
-    MethodRow{"Oblique Mercator",                    0x03},
-    MethodRow{"Equidistant Conic",                   0x2F},
-    MethodRow{"Gnomonic",                            0x1B},
-    MethodRow{"Azimuthal Equidistant",               0x3F},
-};
+inline constexpr std::array methodTable = [] {
+    using formulas::Method;
+    return std::array{
+        MethodRow{"Unprojected Lat/Long",                0x00, Method::none},
+        MethodRow{"Mercator",                            0x2F, Method::mercator},
+        MethodRow{"Albers Equal Area Conic",             0x2F, Method::albers},
+        MethodRow{"Miller Cylindrical",                  0x2F, Method::miller},
+        MethodRow{"Universal Transverse Mercator (UTM)", 0x1B, Method::transverseMercator},
+        MethodRow{"Lambert Conformal Conic",             0x2F, Method::lambertConformalConic},
+        MethodRow{"Stereographic",                       0x1B, Method::stereographic},
+        MethodRow{"Orthographic",                        0x1B, Method::orthographic},
+        MethodRow{"Mollweide",                           0x3F, Method::mollweide},
+        MethodRow{"State Plane 1927",                    0x3B, Method::none},
+        MethodRow{"State Plane 1983",                    0x3B, Method::none},
+        MethodRow{"Polyconic",                           0x1B, Method::polyconic},
+        MethodRow{"Hotine Oblique Mercator",             0x03, Method::hotine},
+        MethodRow{"Equidistant Cylindrical",             0x2F, Method::equidistantCylindrical},
+        MethodRow{"Robinson",                            0x3F, Method::robinson},
+        MethodRow{"Van Der Grinten",                     0x3F, Method::vanDerGrinten},
+        MethodRow{"Cassini",                             0x3B, Method::cassini},
+        MethodRow{"Transverse Mercator",                 0x1B, Method::transverseMercator},
+        MethodRow{"Gauss-Kruger / Gauss Conformal",      0x1B, Method::transverseMercator},
+        MethodRow{"Sinusoidal",                          0x3F, Method::sinusoidal},
+        MethodRow{"Lambert Azimuthal Equal Area",        0x3B, Method::lambertAzimuthal},
+        MethodRow{"Bonne",                               0x1B, Method::bonne},
+        MethodRow{"Robinson-Sterling",                   0x3F, Method::robinsonSterling},
+        MethodRow{"Eckert IV",                           0x3F, Method::eckertIV},
+        MethodRow{"Eckert VI",                           0x3F, Method::eckertVI},
+        MethodRow{"Oblique Mercator",                    0x03, Method::obliqueMercator},
+        MethodRow{"Equidistant Conic",                   0x2F, Method::equidistantConic},
+        MethodRow{"Gnomonic",                            0x1B, Method::gnomonic},
+        MethodRow{"Azimuthal Equidistant",               0x3F, Method::azimuthalEquidistant},
+    };
+}();
 // clang-format on
 static_assert(methodTable.size() == 29);
+
+/// What computes a type; none for an undefined one.
+constexpr formulas::Method methodOf(ProjType type) {
+    return type >= 0 && type < static_cast<int>(methodTable.size()) ? methodTable[static_cast<std::size_t>(type)].method
+                                                                    : formulas::Method::none;
+}
 
 } // namespace ZrProj

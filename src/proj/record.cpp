@@ -1,6 +1,5 @@
 #include "proj/record.h"
 
-#include "formulas/converter.h"
 #include "frame/log.h"
 
 namespace ZrProj {
@@ -30,19 +29,21 @@ void logNumbers(PROJDATA const& r) {
 
 } // namespace
 
-PROJDATA withRadians(PROJDATA const& record) noexcept {
-    auto const radians = [](double degrees) { return degrees * formulas::degree; };
-    PROJDATA work = record;
-    work.Lat0 = radians(record.Lat0);
-    work.Lon0 = radians(record.Lon0);
-    work.Lat1 = radians(record.Lat1);
-    work.Lat2 = radians(record.Lat2);
-    work.Lat3 = radians(record.Lat3);
-    work.Lon1 = radians(record.Lon1);
-    work.Lon2 = radians(record.Lon2);
-    work.Lon3 = radians(record.Lon3);
-    work.Alpha = radians(record.Alpha);
-    return work;
+formulas::ParametersInDegrees parametersOf(PROJDATA const& record) noexcept {
+    return {.a = record.MajorRadius,
+            .f = record.Flattening,
+            .lat0 = record.Lat0,
+            .lon0 = record.Type == ProjTypeRobinson ? 0 : record.Lon0, // the type is about Greenwich, whatever is there
+            .lat1 = record.Lat1,
+            .lon1 = record.Lon1,
+            .lat2 = record.Lat2,
+            .lon2 = record.Lon2,
+            .k0 = record.K0,
+            .azimuth = record.Alpha,
+            .rectifiedAngle = record.Alpha,
+            .useAzimuth = flagByte<&PROJDATA::bUseAlpha>(record) != 0,
+            .rotate = flagByte<&PROJDATA::bRotate>(record) != 0,
+            .offsetByU = flagByte<&PROJDATA::bUOffset>(record) != 0};
 }
 
 void logRecord(PROJDATA const* record) noexcept {

@@ -1,5 +1,7 @@
-// What several sources do with a PROJDATA: read its flags, turn its angles, and write it to the log.
+// What several sources do with a PROJDATA: read its flags, take its parameters, and write it to the log.
 #pragma once
+
+#include "formulas/parameters.h"
 
 #include <zrproj/projection.h>
 
@@ -15,8 +17,8 @@ template <bool PROJDATA::*flag> unsigned char flagByte(PROJDATA const& record) {
     return byte;
 }
 
-/// The record with its angles in radians, as formulas take it.
-PROJDATA withRadians(PROJDATA const& record) noexcept;
+/// What a formula is made from, as the record says it.
+formulas::ParametersInDegrees parametersOf(PROJDATA const& record) noexcept;
 
 /// Writes every field to the log, a line each; nothing while the log is off or for null.
 void logRecord(PROJDATA const* record) noexcept;

@@ -4,6 +4,7 @@
 #include "frame/log.h"
 #include "host/fpenv.h"
 #include "proj/handle.h"
+#include "proj/method_table.h"
 #include "proj/record.h"
 
 #include <cfloat>
@@ -69,21 +70,22 @@ void completeScales(PROJDATA& record) noexcept {
 /// the record's other fields for conversions, without them for the tests.
 void prepare(ProjectionBlock& block) noexcept {
     PROJDATA work = block.record;
-    block.area = block.record;
+    PROJDATA area = block.record;
     if (isStatePlane(work.Type)) {
         ProjGetStateZoneParams(&work);
-        block.area = PROJDATA{};
-        block.area.Type = block.record.Type;
-        block.area.Zone = block.record.Zone;
-        ProjGetStateZoneParams(&block.area);
+        area = PROJDATA{};
+        area.Type = block.record.Type;
+        area.Zone = block.record.Zone;
+        ProjGetStateZoneParams(&area);
     }
-    block.formula = formulas::formulaOf(work.Type);
+    block.area = parametersOf(area);
+    block.formula = formulas::formulaOf(methodOf(work.Type));
     if (block.formula) {
         block.converter.xOrg = work.xOrg;
         block.converter.yOrg = work.yOrg;
         block.converter.scale = work.Scale;
         block.converter.fullTurn = std::fabs(work.Lon0) == 180 ? std::nextafter(360, 0) : 360;
-        block.formula->prepare(block.converter, withRadians(work));
+        block.formula->prepare(block.converter, inRadians(parametersOf(work)));
     }
 }
 
