@@ -16,9 +16,6 @@
 namespace ZrProj::Command {
 namespace {
 
-constexpr int projectionId = 1, centralLongitudeId = 6, southId = 14, zoneId = 15, ellipsoidId = 20, radiusId = 21,
-              flatteningId = 22;
-
 char const* placeholder(Quantity quantity) {
     switch (quantity) {
     case Quantity::Longitude:
@@ -37,9 +34,9 @@ char const* placeholder(Quantity quantity) {
 
 std::string description(Parameter const& parameter) {
     switch (parameter.id) {
-    case zoneId:
+    case ProjParamZone:
         return "State Plane zone, by name, USGS code or POSC code, for the State Plane projections";
-    case ellipsoidId:
+    case ProjParamEllipsoid:
         return "Ellipsoid, by name or number; that of --datum, else WGS 84, where not given";
     default:
         return parameter.name;
@@ -102,7 +99,7 @@ void ProjectionOptions::addTo(CLI::App& app) {
 
 void ProjectionOptions::addParametersTo(CLI::App& app) {
     for (Value& value : m_values) {
-        if (value.id == projectionId)
+        if (value.id == ProjParamType)
             continue;
         Parameter const& parameter = Command::parameter(value.id);
         bool const two = parameter.option != parameter.longOption;
@@ -129,7 +126,7 @@ std::optional<int> ProjectionOptions::year() const {
 }
 
 void ProjectionOptions::startFromUtm(ProjectionChoice& choice) const {
-    for (int id : {centralLongitudeId, southId})
+    for (int id : {ProjParamLon0, ProjParamSouth})
         if (given(id))
             throw UsageError(parameter(id).option + " has no place beside --utm, which tells it");
     choice.zonePerPoint = squeezed(m_utm) == "auto";
@@ -140,15 +137,15 @@ void ProjectionOptions::startFromUtm(ProjectionChoice& choice) const {
 }
 
 ProjType ProjectionOptions::givenProjection() const {
-    if (!given(projectionId))
+    if (!given(ProjParamType))
         throw UsageError("no projection; give --utm, --state-plane, --projection or --like");
-    return findProjection(value(projectionId).text);
+    return findProjection(value(ProjParamType).text);
 }
 
 /// Sets the projection's type, and what a zone tells of it.
 void ProjectionOptions::startFrom(ProjectionChoice& choice) const {
     bool const utm = m_utmOption->count() > 0, statePlane = m_statePlaneOption->count() > 0;
-    if (utm + statePlane + given(projectionId) > 1)
+    if (utm + statePlane + given(ProjParamType) > 1)
         throw UsageError("more than one projection; give one of --utm, --state-plane and --projection");
     auto const zoneYear = year();
     if (zoneYear && !statePlane)
@@ -158,12 +155,12 @@ void ProjectionOptions::startFrom(ProjectionChoice& choice) const {
     choice.record.Type = statePlane ? ProjTypeStatePlane1983 : givenProjection();
     if (!isStatePlane(choice.record.Type))
         return;
-    if (statePlane == given(zoneId))
+    if (statePlane == given(ProjParamZone))
         throw UsageError(statePlane ? "--state-zone has no place beside --state-plane, which tells it"
                                     : "the projection needs --state-zone");
     auto const impliedYear = choice.record.Type == ProjTypeStatePlane1927 ? 1927 : 1983;
-    StatePlaneZone const zone =
-        statePlane ? findStatePlaneZone(m_statePlane, zoneYear) : findStatePlaneZone(value(zoneId).text, impliedYear);
+    StatePlaneZone const zone = statePlane ? findStatePlaneZone(m_statePlane, zoneYear)
+                                           : findStatePlaneZone(value(ProjParamZone).text, impliedYear);
     choice.record.Type = zone.type;
     choice.record.Zone = zone.zone;
 }
@@ -171,7 +168,7 @@ void ProjectionOptions::startFrom(ProjectionChoice& choice) const {
 void ProjectionOptions::refuseUnused(ProjType type) const {
     std::vector<int> const used = usedParameters(type);
     for (Value const& value : m_values)
-        if (value.id != projectionId && given(value.id) && std::find(used.begin(), used.end(), value.id) == used.end())
+        if (value.id != ProjParamType && given(value.id) && std::find(used.begin(), used.end(), value.id) == used.end())
             throw UsageError(parameter(value.id).option + " is not used by " + projectionName(type) +
                              ", which uses: " + usedOptions(type));
 }
@@ -181,23 +178,23 @@ void ProjectionOptions::setEllipsoid(PROJDATA& record, Figure const& standard) c
     record.Ellipsoid = standard.ellipsoid;
     record.MajorRadius = standard.radius;
     record.Flattening = standard.flattening;
-    if (given(flatteningId) && !given(radiusId))
+    if (given(ProjParamFlattening) && !given(ProjParamMajorRadius))
         throw UsageError("--flattening goes with --radius");
-    if (given(radiusId) && given(ellipsoidId))
+    if (given(ProjParamMajorRadius) && given(ProjParamEllipsoid))
         throw UsageError("--radius has no place beside --ellipsoid, which tells it");
-    if (given(radiusId)) {
+    if (given(ProjParamMajorRadius)) {
         record.Ellipsoid = EllipsoidTypeUserDefined;
         record.Flattening = 0;
     }
-    if (given(ellipsoidId))
-        record.Ellipsoid = findEllipsoid(value(ellipsoidId).text);
-    if (given(ellipsoidId) && record.Ellipsoid == EllipsoidTypeUserDefined)
+    if (given(ProjParamEllipsoid))
+        record.Ellipsoid = findEllipsoid(value(ProjParamEllipsoid).text);
+    if (given(ProjParamEllipsoid) && record.Ellipsoid == EllipsoidTypeUserDefined)
         throw UsageError("an ellipsoid of your own is given by --radius and --flattening");
 }
 
 void ProjectionOptions::setValues(PROJDATA& record) const {
     for (Value const& value : m_values) {
-        bool const elsewhere = value.id == projectionId || value.id == zoneId || value.id == ellipsoidId;
+        bool const elsewhere = value.id == ProjParamType || value.id == ProjParamZone || value.id == ProjParamEllipsoid;
         if (!elsewhere && given(value.id))
             setParameter(record, parameter(value.id), value.text);
     }

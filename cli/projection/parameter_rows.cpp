@@ -6,8 +6,6 @@
 namespace ZrProj::Command {
 namespace {
 
-constexpr int falseEastingId = 3, falseNorthingId = 4;
-
 /// An angle in degrees, minutes and seconds, "" for one of whole degrees.
 std::string anglePartsText(PROJDATA const& record, Parameter const& parameter) {
     bool const isAngle = parameter.quantity == Quantity::Longitude || parameter.quantity == Quantity::Latitude ||
@@ -25,7 +23,7 @@ std::string anglePartsText(PROJDATA const& record, Parameter const& parameter) {
 std::vector<int> shownParameters(ProjType type) {
     std::vector<int> result = usedParameters(type);
     if (type == ProjTypeUniversalTransverseMercator)
-        result.insert(result.end(), {falseEastingId, falseNorthingId});
+        result.insert(result.end(), {ProjParamXOrg, ProjParamYOrg});
     return result;
 }
 

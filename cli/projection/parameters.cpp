@@ -16,34 +16,34 @@ namespace ZrProj::Command {
 namespace {
 
 struct ParameterRow {
-    int id;
+    ProjParam id;
     Quantity quantity;
     std::string_view shortOption; // "" where the long one is short enough
 };
 
 constexpr std::array parameterRows{
-    ParameterRow{1, Quantity::Projection, ""},
-    ParameterRow{2, Quantity::Factor, ""},
-    ParameterRow{3, Quantity::Metres, "--x0"},
-    ParameterRow{4, Quantity::Metres, "--y0"},
-    ParameterRow{5, Quantity::Latitude, "--lat0"},
-    ParameterRow{6, Quantity::Longitude, "--lon0"},
-    ParameterRow{7, Quantity::Latitude, "--lat1"},
-    ParameterRow{8, Quantity::Latitude, "--lat2"},
-    ParameterRow{9, Quantity::Latitude, "--lat3"},
-    ParameterRow{10, Quantity::Longitude, "--lon1"},
-    ParameterRow{11, Quantity::Longitude, "--lon2"},
-    ParameterRow{12, Quantity::Longitude, "--lon3"},
-    ParameterRow{13, Quantity::Factor, "--k0"},
-    ParameterRow{14, Quantity::Flag, "--south"},
-    ParameterRow{15, Quantity::Zone, ""},
-    ParameterRow{16, Quantity::Flag, "--use-alpha"},
-    ParameterRow{17, Quantity::Azimuth, ""},
-    ParameterRow{18, Quantity::Flag, "--rotate"},
-    ParameterRow{19, Quantity::Flag, "--u-offset"},
-    ParameterRow{20, Quantity::Ellipsoid, ""},
-    ParameterRow{21, Quantity::Metres, "--radius"},
-    ParameterRow{22, Quantity::Flattening, "--flattening"},
+    ParameterRow{ProjParamType,        Quantity::Projection, ""},
+    ParameterRow{ProjParamScale,       Quantity::Factor,     ""},
+    ParameterRow{ProjParamXOrg,        Quantity::Metres,     "--x0"},
+    ParameterRow{ProjParamYOrg,        Quantity::Metres,     "--y0"},
+    ParameterRow{ProjParamLat0,        Quantity::Latitude,   "--lat0"},
+    ParameterRow{ProjParamLon0,        Quantity::Longitude,  "--lon0"},
+    ParameterRow{ProjParamLat1,        Quantity::Latitude,   "--lat1"},
+    ParameterRow{ProjParamLat2,        Quantity::Latitude,   "--lat2"},
+    ParameterRow{ProjParamLat3,        Quantity::Latitude,   "--lat3"},
+    ParameterRow{ProjParamLon1,        Quantity::Longitude,  "--lon1"},
+    ParameterRow{ProjParamLon2,        Quantity::Longitude,  "--lon2"},
+    ParameterRow{ProjParamLon3,        Quantity::Longitude,  "--lon3"},
+    ParameterRow{ProjParamK0,          Quantity::Factor,     "--k0"},
+    ParameterRow{ProjParamSouth,       Quantity::Flag,       "--south"},
+    ParameterRow{ProjParamZone,        Quantity::Zone,       ""},
+    ParameterRow{ProjParamUseAlpha,    Quantity::Flag,       "--use-alpha"},
+    ParameterRow{ProjParamAlpha,       Quantity::Azimuth,    ""},
+    ParameterRow{ProjParamRotate,      Quantity::Flag,       "--rotate"},
+    ParameterRow{ProjParamUOffset,     Quantity::Flag,       "--u-offset"},
+    ParameterRow{ProjParamEllipsoid,   Quantity::Ellipsoid,  ""},
+    ParameterRow{ProjParamMajorRadius, Quantity::Metres,     "--radius"},
+    ParameterRow{ProjParamFlattening,  Quantity::Flattening, "--flattening"},
 };
 
 /// "2nd Standard Parallel" is "--2nd-standard-parallel"; what stands in brackets is left out.
@@ -156,7 +156,7 @@ std::vector<int> usedParameters(ProjType type) {
         int const id = ProjEnumParam(type, i);
         result.push_back(id);
         if (parameter(id).quantity == Quantity::Ellipsoid)
-            result.insert(result.end(), {21, 22});
+            result.insert(result.end(), {ProjParamMajorRadius, ProjParamFlattening});
     }
     return result;
 }

@@ -13,7 +13,8 @@
 namespace ZrProj::docs {
 namespace {
 
-constexpr std::array common{20, 2, 3, 4}; // ellipsoid, scale, false origin: nearly every type has them
+// Nearly every type has these.
+constexpr std::array<int, 4> common{ProjParamEllipsoid, ProjParamScale, ProjParamXOrg, ProjParamYOrg};
 
 std::string parameterName(int parameter) {
     char name[64];

@@ -72,40 +72,40 @@ constexpr std::array fields{
 static_assert(fields.size() == 23);
 
 struct Meaning {
-    int parameter;
+    ProjParam parameter;
     std::vector<ProjType> types; // none: whatever the type; the first row that fits counts
     char const* text;
 };
 
 std::vector<Meaning> const meanings{
-    {2,  {},                                                                              "map scale, applied after the false origin; 0 counts as 1"},
-    {3,  {},                                                                              "added to x, in the ellipsoid's unit"},
-    {4,  {},                                                                              "added to y, in the ellipsoid's unit"},
-    {5,  {ProjTypeStereographic, ProjTypeOrthographic},                                   "latitude of the centre, degrees"},
-    {5,  {ProjTypeHotineObliqueMercator},                                                 "latitude of the centre, a point of the line, degrees"},
-    {5,  {},                                                                              "latitude where y is 0 on the central meridian, degrees"},
-    {6,  {ProjTypeStereographic, ProjTypeOrthographic, ProjTypeLambertAzimuthalEqualArea, ProjTypeGnomonic, ProjTypeAzimuthalEquidistant}, "longitude of the centre, degrees"},
-    {6,  {ProjTypeHotineObliqueMercator},                                                 "by azimuth: longitude of the centre where `Lon1` is 0, degrees"},
-    {6,  {},                                                                              "central meridian, degrees"},
-    {7,  {ProjTypeLambertAzimuthalEqualArea, ProjTypeGnomonic, ProjTypeAzimuthalEquidistant}, "latitude of the centre, degrees"},
-    {7,  {ProjTypeObliqueMercator, ProjTypeHotineObliqueMercator},                        "latitude of the line's first point, degrees"},
-    {7,  {ProjTypeBonne},                                                                 "latitude that is true to scale, and where y is 0 on the central meridian, degrees"},
-    {7,  {},                                                                              "latitude that is true to scale, degrees"},
-    {8,  {ProjTypeObliqueMercator, ProjTypeHotineObliqueMercator},                        "latitude of the line's second point, degrees"},
-    {8,  {},                                                                              "the other latitude that is true to scale, degrees"},
-    {10, {ProjTypeHotineObliqueMercator},                                                 "longitude of the line's first point; by azimuth: of the centre; degrees"},
-    {10, {},                                                                              "longitude of the line's first point, degrees"},
-    {11, {},                                                                              "longitude of the line's second point, degrees"},
-    {13, {ProjTypeUniversalTransverseMercator},                                           "scale along the central meridian; 0 counts as 0.9996"},
-    {13, {ProjTypeTransverseMercator, ProjTypeGaussKruger},                               "scale along the central meridian; 0 counts as 1"},
-    {13, {ProjTypeStereographic},                                                         "scale at the centre; 0 counts as 1"},
-    {13, {},                                                                              "scale along the line; 0 counts as 1"},
-    {14, {},                                                                              "whether the false northing is that of the south, 10 000 km"},
-    {16, {},                                                                              "whether the line is given by its azimuth at the centre, not by two points"},
-    {17, {},                                                                              "azimuth of the line at the centre, degrees from north to east"},
-    {18, {},                                                                              "whether x and y are turned to east and north, not along the line and across it"},
-    {19, {},                                                                              "whether the way along the line counts from the centre, not from the equator"},
-    {20, {},                                                                              "the ellipsoid; 0: `MajorRadius` and `Flattening` are the caller's"},
+    {ProjParamScale,     {},                                                                                                                               "map scale, applied after the false origin; 0 counts as 1"},
+    {ProjParamXOrg,      {},                                                                                                                               "added to x, in the ellipsoid's unit"},
+    {ProjParamYOrg,      {},                                                                                                                               "added to y, in the ellipsoid's unit"},
+    {ProjParamLat0,      {ProjTypeStereographic, ProjTypeOrthographic},                                                                                    "latitude of the centre, degrees"},
+    {ProjParamLat0,      {ProjTypeHotineObliqueMercator},                                                                                                  "latitude of the centre, a point of the line, degrees"},
+    {ProjParamLat0,      {},                                                                                                                               "latitude where y is 0 on the central meridian, degrees"},
+    {ProjParamLon0,      {ProjTypeStereographic, ProjTypeOrthographic, ProjTypeLambertAzimuthalEqualArea, ProjTypeGnomonic, ProjTypeAzimuthalEquidistant}, "longitude of the centre, degrees"},
+    {ProjParamLon0,      {ProjTypeHotineObliqueMercator},                                                                                                  "by azimuth: longitude of the centre where `Lon1` is 0, degrees"},
+    {ProjParamLon0,      {},                                                                                                                               "central meridian, degrees"},
+    {ProjParamLat1,      {ProjTypeLambertAzimuthalEqualArea, ProjTypeGnomonic, ProjTypeAzimuthalEquidistant},                                              "latitude of the centre, degrees"},
+    {ProjParamLat1,      {ProjTypeObliqueMercator, ProjTypeHotineObliqueMercator},                                                                         "latitude of the line's first point, degrees"},
+    {ProjParamLat1,      {ProjTypeBonne},                                                                                                                  "latitude that is true to scale, and where y is 0 on the central meridian, degrees"},
+    {ProjParamLat1,      {},                                                                                                                               "latitude that is true to scale, degrees"},
+    {ProjParamLat2,      {ProjTypeObliqueMercator, ProjTypeHotineObliqueMercator},                                                                         "latitude of the line's second point, degrees"},
+    {ProjParamLat2,      {},                                                                                                                               "the other latitude that is true to scale, degrees"},
+    {ProjParamLon1,      {ProjTypeHotineObliqueMercator},                                                                                                  "longitude of the line's first point; by azimuth: of the centre; degrees"},
+    {ProjParamLon1,      {},                                                                                                                               "longitude of the line's first point, degrees"},
+    {ProjParamLon2,      {},                                                                                                                               "longitude of the line's second point, degrees"},
+    {ProjParamK0,        {ProjTypeUniversalTransverseMercator},                                                                                            "scale along the central meridian; 0 counts as 0.9996"},
+    {ProjParamK0,        {ProjTypeTransverseMercator, ProjTypeGaussKruger},                                                                                "scale along the central meridian; 0 counts as 1"},
+    {ProjParamK0,        {ProjTypeStereographic},                                                                                                          "scale at the centre; 0 counts as 1"},
+    {ProjParamK0,        {},                                                                                                                               "scale along the line; 0 counts as 1"},
+    {ProjParamSouth,     {},                                                                                                                               "whether the false northing is that of the south, 10 000 km"},
+    {ProjParamUseAlpha,  {},                                                                                                                               "whether the line is given by its azimuth at the centre, not by two points"},
+    {ProjParamAlpha,     {},                                                                                                                               "azimuth of the line at the centre, degrees from north to east"},
+    {ProjParamRotate,    {},                                                                                                                               "whether x and y are turned to east and north, not along the line and across it"},
+    {ProjParamUOffset,   {},                                                                                                                               "whether the way along the line counts from the centre, not from the equator"},
+    {ProjParamEllipsoid, {},                                                                                                                               "the ellipsoid; 0: `MajorRadius` and `Flattening` are the caller's"},
 };
 // clang-format on
 

@@ -61,6 +61,33 @@ enum ProjType : std::int32_t {
     ProjTypeUndefined = 999,                 ///< no projection; such a record passes its check and converts nothing
 };
 
+/// A parameter of a projection, 1 to 22: the field of PROJDATA that holds its value.
+enum ProjParam : std::int32_t {
+    ProjParamNone = 0,         ///< no parameter
+    ProjParamType = 1,         ///< Type
+    ProjParamScale = 2,        ///< Scale
+    ProjParamXOrg = 3,         ///< xOrg
+    ProjParamYOrg = 4,         ///< yOrg
+    ProjParamLat0 = 5,         ///< Lat0
+    ProjParamLon0 = 6,         ///< Lon0
+    ProjParamLat1 = 7,         ///< Lat1
+    ProjParamLat2 = 8,         ///< Lat2
+    ProjParamLat3 = 9,         ///< Lat3
+    ProjParamLon1 = 10,        ///< Lon1
+    ProjParamLon2 = 11,        ///< Lon2
+    ProjParamLon3 = 12,        ///< Lon3
+    ProjParamK0 = 13,          ///< K0
+    ProjParamSouth = 14,       ///< bSouth
+    ProjParamZone = 15,        ///< Zone
+    ProjParamUseAlpha = 16,    ///< bUseAlpha
+    ProjParamAlpha = 17,       ///< Alpha
+    ProjParamRotate = 18,      ///< bRotate
+    ProjParamUOffset = 19,     ///< bUOffset
+    ProjParamEllipsoid = 20,   ///< Ellipsoid
+    ProjParamMajorRadius = 21, ///< MajorRadius
+    ProjParamFlattening = 22,  ///< Flattening
+};
+
 /// The kind of value that a parameter has, and with it the type of the field in PROJDATA.
 enum ProjDataType : std::int32_t {
     ProjDataTypeDouble = 0,     ///< a double
@@ -121,7 +148,7 @@ ZRPROJ_API unsigned ProjGetProjectionInfo(ProjType type, char* name);
 /// Tells how many parameters a type uses. Returns -1 for a number that is no type.
 ZRPROJ_API int ProjNumParams(ProjType type);
 
-/// Gives the identifier (1 to 22) of a type's parameter at `index`, in the order in which a user interface presents
+/// Gives the identifier (a ProjParam) of a type's parameter at `index`, in the order in which a user interface presents
 /// them. Returns 0, which is no parameter, for a number that is no type and for an index outside 0 to
 /// ProjNumParams(type) - 1.
 ZRPROJ_API int ProjEnumParam(ProjType type, int index);

@@ -10,9 +10,6 @@
 
 namespace ZrProj::GeoTIFF {
 
-/// The identifiers of the record's parameters that a method's parameters go to.
-enum class Latitude : int { MustBeZero = 0, Lat0 = 5, Lat1 = 7 };
-enum class Longitude : int { MustBeZero = 0, Lon0 = 6 };
 /// Where the scale factor goes: K0; into Scale, there being no K0; or it has none.
 enum class ScaleFactor { MustBeOne, K0, Folded };
 /// Which keys name the origin: those of the natural origin, of the centre, or of the false origin.
@@ -21,8 +18,7 @@ enum class Origin { Natural, Centre, False };
 struct Method {
     Transformation transformation;
     ProjType type;
-    Latitude latitude;
-    Longitude longitude;
+    ProjParam latitude, longitude; // of the origin in the record; none: must be 0
     int parallels;
     ScaleFactor scale;
     Origin origin;
@@ -31,27 +27,27 @@ struct Method {
 // Equivalents (one parallel of a Lambert cone, a parallel of true scale) are put into these parameters first.
 // clang-format off
 inline constexpr std::array methodTable{
-    Method{transverseMercator,        ProjTypeTransverseMercator,        Latitude::Lat0,       Longitude::Lon0,       0, ScaleFactor::K0,        Origin::Natural},
-    Method{obliqueMercator,           ProjTypeHotineObliqueMercator,     Latitude::Lat0,       Longitude::Lon0,       0, ScaleFactor::K0,        Origin::Centre},
-    Method{mercator,                  ProjTypeMercator,                  Latitude::MustBeZero, Longitude::Lon0,       0, ScaleFactor::Folded,    Origin::Natural},
-    Method{lambertConformal2,         ProjTypeLambertConformalConic,     Latitude::Lat0,       Longitude::Lon0,       2, ScaleFactor::MustBeOne, Origin::False},
-    Method{lambertConformal1,         ProjTypeLambertConformalConic,     Latitude::Lat0,       Longitude::Lon0,       2, ScaleFactor::Folded,    Origin::Natural},
-    Method{lambertAzimuthal,          ProjTypeLambertAzimuthalEqualArea, Latitude::Lat1,       Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{albers,                    ProjTypeAlbersEqualAreaConic,      Latitude::Lat0,       Longitude::Lon0,       2, ScaleFactor::MustBeOne, Origin::Natural},
-    Method{azimuthalEquidistant,      ProjTypeAzimuthalEquidistant,      Latitude::Lat1,       Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{equidistantConic,          ProjTypeEquidistantConic,          Latitude::Lat0,       Longitude::Lon0,       2, ScaleFactor::MustBeOne, Origin::Natural},
-    Method{stereographic,             ProjTypeStereographic,             Latitude::Lat0,       Longitude::Lon0,       0, ScaleFactor::K0,        Origin::Centre},
-    Method{polarStereographic,        ProjTypeStereographic,             Latitude::Lat0,       Longitude::Lon0,       0, ScaleFactor::K0,        Origin::Natural},
-    Method{equirectangular,           ProjTypeEquidistantCylindrical,    Latitude::MustBeZero, Longitude::Lon0,       1, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{cassini,                   ProjTypeCassini,                   Latitude::Lat0,       Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Natural},
-    Method{gnomonic,                  ProjTypeGnomonic,                  Latitude::Lat1,       Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{miller,                    ProjTypeMillerCylindrical,         Latitude::MustBeZero, Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{orthographic,              ProjTypeOrthographic,              Latitude::Lat0,       Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{polyconic,                 ProjTypePolyconic,                 Latitude::Lat0,       Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Natural},
-    Method{robinson,                  ProjTypeRobinson,                  Latitude::MustBeZero, Longitude::MustBeZero, 0, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{sinusoidal,                ProjTypeSinusoidal,                Latitude::MustBeZero, Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{vanDerGrinten,             ProjTypeVanDerGrinten,             Latitude::MustBeZero, Longitude::Lon0,       0, ScaleFactor::MustBeOne, Origin::Centre},
-    Method{obliqueMercatorFromCentre, ProjTypeHotineObliqueMercator,     Latitude::Lat0,       Longitude::Lon0,       0, ScaleFactor::K0,        Origin::Centre},
+    Method{transverseMercator,        ProjTypeTransverseMercator,        ProjParamLat0, ProjParamLon0, 0, ScaleFactor::K0,        Origin::Natural},
+    Method{obliqueMercator,           ProjTypeHotineObliqueMercator,     ProjParamLat0, ProjParamLon0, 0, ScaleFactor::K0,        Origin::Centre},
+    Method{mercator,                  ProjTypeMercator,                  ProjParamNone, ProjParamLon0, 0, ScaleFactor::Folded,    Origin::Natural},
+    Method{lambertConformal2,         ProjTypeLambertConformalConic,     ProjParamLat0, ProjParamLon0, 2, ScaleFactor::MustBeOne, Origin::False},
+    Method{lambertConformal1,         ProjTypeLambertConformalConic,     ProjParamLat0, ProjParamLon0, 2, ScaleFactor::Folded,    Origin::Natural},
+    Method{lambertAzimuthal,          ProjTypeLambertAzimuthalEqualArea, ProjParamLat1, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{albers,                    ProjTypeAlbersEqualAreaConic,      ProjParamLat0, ProjParamLon0, 2, ScaleFactor::MustBeOne, Origin::Natural},
+    Method{azimuthalEquidistant,      ProjTypeAzimuthalEquidistant,      ProjParamLat1, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{equidistantConic,          ProjTypeEquidistantConic,          ProjParamLat0, ProjParamLon0, 2, ScaleFactor::MustBeOne, Origin::Natural},
+    Method{stereographic,             ProjTypeStereographic,             ProjParamLat0, ProjParamLon0, 0, ScaleFactor::K0,        Origin::Centre},
+    Method{polarStereographic,        ProjTypeStereographic,             ProjParamLat0, ProjParamLon0, 0, ScaleFactor::K0,        Origin::Natural},
+    Method{equirectangular,           ProjTypeEquidistantCylindrical,    ProjParamNone, ProjParamLon0, 1, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{cassini,                   ProjTypeCassini,                   ProjParamLat0, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Natural},
+    Method{gnomonic,                  ProjTypeGnomonic,                  ProjParamLat1, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{miller,                    ProjTypeMillerCylindrical,         ProjParamNone, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{orthographic,              ProjTypeOrthographic,              ProjParamLat0, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{polyconic,                 ProjTypePolyconic,                 ProjParamLat0, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Natural},
+    Method{robinson,                  ProjTypeRobinson,                  ProjParamNone, ProjParamNone, 0, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{sinusoidal,                ProjTypeSinusoidal,                ProjParamNone, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{vanDerGrinten,             ProjTypeVanDerGrinten,             ProjParamNone, ProjParamLon0, 0, ScaleFactor::MustBeOne, Origin::Centre},
+    Method{obliqueMercatorFromCentre, ProjTypeHotineObliqueMercator,     ProjParamLat0, ProjParamLon0, 0, ScaleFactor::K0,        Origin::Centre},
 };
 // clang-format on
 

@@ -73,9 +73,9 @@ Outcome<Normal> normal(Method const& method, Parameters const& p, Ellipsoid cons
 
 /// What a record of the method's type cannot hold of the parameters; "" when it can hold all.
 std::string faultOf(Method const& method, Parameters const& p) {
-    if (method.latitude == Latitude::MustBeZero && p.latitude != 0)
+    if (method.latitude == ProjParamNone && p.latitude != 0)
         return "the projection has no latitude of origin other than 0 in the records";
-    if (method.longitude == Longitude::MustBeZero && p.longitude != 0)
+    if (method.longitude == ProjParamNone && p.longitude != 0)
         return "the projection has no central meridian other than 0 in the records";
     if (method.scale == ScaleFactor::MustBeOne && p.scale != 1)
         return "the projection has no scale factor in the records";
@@ -90,10 +90,10 @@ void setOblique(PROJDATA& record, Method const& method, Parameters const& p) {
 }
 
 void setAngles(PROJDATA& record, Method const& method, Parameters const& p) {
-    if (method.latitude != Latitude::MustBeZero)
-        ProjSetParam(&record, static_cast<int>(method.latitude), &p.latitude);
-    if (method.longitude != Longitude::MustBeZero)
-        ProjSetParam(&record, static_cast<int>(method.longitude), &p.longitude);
+    if (method.latitude != ProjParamNone)
+        ProjSetParam(&record, method.latitude, &p.latitude);
+    if (method.longitude != ProjParamNone)
+        ProjSetParam(&record, method.longitude, &p.longitude);
     if (method.parallels > 0)
         record.Lat1 = p.parallel1;
     if (method.parallels > 1)

@@ -69,9 +69,9 @@ OriginKeys originKeys(Method const& method) {
     }
 }
 
-double angleAt(PROJDATA const& record, int id) {
+double angleAt(PROJDATA const& record, ProjParam id) {
     double value = 0;
-    if (id != 0)
+    if (id != ProjParamNone)
         ProjGetParam(&record, id, &value);
     return value;
 }
@@ -86,7 +86,7 @@ Outcome<Method> methodFor(PROJDATA const& record) {
         return Refusal{"GeoTIFF has an oblique Mercator by azimuth and with a turned grid only"};
     if (char const* const doubt = doubtOnEllipsoid(row->transformation); doubt && record.Flattening != 0)
         return Refusal{doubt};
-    double const latitude = angleAt(record, static_cast<int>(row->latitude));
+    double const latitude = angleAt(record, row->latitude);
     double const parallel =
         std::max(row->parallels > 0 ? std::fabs(record.Lat1) : 0, row->parallels > 1 ? std::fabs(record.Lat2) : 0);
     if (std::max(std::fabs(latitude), parallel) > 90)
@@ -120,8 +120,8 @@ void writeOrigin(KeyDirectory& keys, PROJDATA const& record, Method const& metho
     // The Mercator of GeoTIFF counts from the equator.
     bool const fromEquator = record.Type == ProjTypeMercator;
     double const shift = fromEquator ? mercatorNorthing(record.Lat0, record.MajorRadius, record.Flattening) : 0;
-    keys.setNumber(origin.longitude, angleAt(record, static_cast<int>(method.longitude)));
-    keys.setNumber(origin.latitude, angleAt(record, static_cast<int>(method.latitude)));
+    keys.setNumber(origin.longitude, angleAt(record, method.longitude));
+    keys.setNumber(origin.latitude, angleAt(record, method.latitude));
     keys.setNumber(origin.east, record.xOrg * record.Scale);
     keys.setNumber(origin.north, (record.yOrg - shift) * record.Scale);
 }

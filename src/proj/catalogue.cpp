@@ -36,18 +36,18 @@ unsigned ProjGetProjectionInfo(ProjType type, char* name) {
 
 int ProjNumParams(ProjType type) {
     auto const use = findUse(type);
-    return use ? static_cast<int>(std::ranges::find(use->ids, 0) - use->ids.begin()) : -1;
+    return use ? static_cast<int>(std::ranges::find(use->ids, ProjParamNone) - use->ids.begin()) : -1;
 }
 
 int ProjEnumParam(ProjType type, int index) {
     if (index < 0 || index >= ProjNumParams(type))
-        return paramNone;
+        return ProjParamNone;
     return findUse(type)->ids[static_cast<std::size_t>(index)];
 }
 
 bool ProjUsesParam(ProjType type, int id) {
     auto const use = findUse(type);
-    return use && id != paramNone && std::ranges::find(use->ids, id) != use->ids.end();
+    return use && id != ProjParamNone && std::ranges::find(use->ids, id) != use->ids.end();
 }
 
 bool ProjParamInfo(int id, char* name, ProjDataType* type, int* offset, int* size) {

@@ -74,32 +74,32 @@ struct Check {
 // parallels of a Lambert cone differ by more than 0.1 degrees, up to rounding.
 // clang-format off
 constexpr std::array checks{
-    Check{always,                        [](Record r) { return r.Scale >= 0; },                                           {20231, paramScale}},
-    Check{always,                        [](Record r) { return r.K0 >= 0; },                                              {20232, paramK0}},
-    Check{hasOwnOrigin,                  [](Record r) { return originFits(r.xOrg); },                                     {20233, paramXOrg}},
-    Check{hasOwnOrigin,                  [](Record r) { return originFits(r.yOrg); },                                     {20234, paramYOrg}},
-    Check{isStatePlane,                  zoneIsDefined,                                                                   {20252, paramZone}},
-    Check{always,                        [](Record r) { return isAngle(r.Lon0); },                                        {20235, paramLon0}},
-    Check{always,                        [](Record r) { return isAngle(r.Lon1); },                                        {20236, paramLon1}},
-    Check{always,                        [](Record r) { return isAngle(r.Lon2); },                                        {20237, paramLon2}},
-    Check{always,                        [](Record r) { return isAngle(r.Lon3); },                                        {20238, paramLon3}},
-    Check{always,                        [](Record r) { return isAngle(r.Lat0); },                                        {20239, paramLat0}},
-    Check{always,                        [](Record r) { return isAngle(r.Lat1); },                                        {20240, paramLat1}},
-    Check{always,                        [](Record r) { return isAngle(r.Lat2); },                                        {20241, paramLat2}},
-    Check{always,                        [](Record r) { return isAngle(r.Lat3); },                                        {20242, paramLat3}},
-    Check{is<ProjTypeHotineObliqueMercator>, [](Record r) { return isAngle(r.Alpha); },                                   {20243, paramAlpha}},
-    Check{is<ProjTypeBonne>,                 [](Record r) { return r.Lat1 != 0; },                                        {20244, paramLat1}},
-    Check{is<ProjTypeAlbersEqualAreaConic>,  parallelsMakeACone,                                                          {20245, paramLat1}},
-    Check{is<ProjTypeEquidistantConic>,      parallelsMakeACone,                                                          {20256, paramLat1}},
-    Check{is<ProjTypeHotineObliqueMercator>, [](Record r) { return flagByte<&PROJDATA::bUseAlpha>(r) != 1 || r.Alpha != 0; }, {20246, paramAlpha}},
-    Check{is<ProjTypeLambertConformalConic>, [](Record r) { return std::fabs(r.Lat1 - r.Lat2) > 0.1 + 1e-9; },            {20247, paramLat1}},
-    Check{is<ProjTypeMercator>,              [](Record r) { return std::fabs(std::fabs(r.Lat0) - 90) >= 0.01; },          {20251, paramLat0}},
-    Check{is<ProjTypeObliqueMercator>,       [](Record r) { return std::fabs(r.Lat1 - r.Lat2) >= 0.001; },                {20253, paramLat1}},
-    Check{is<ProjTypeObliqueMercator>,       [](Record r) { return std::fabs(r.Lat1) >= 0.001; },                         {20254, paramLat1}},
-    Check{is<ProjTypeObliqueMercator>,       [](Record r) { return std::fabs(std::fabs(r.Lat1) - 90) >= 0.001; },         {20255, paramLat2}},
-    Check{[](Record r) { return !isStatePlane(r); }, [](Record r) { return r.Ellipsoid >= 0 && r.Ellipsoid < EllipsoidTypeNone; }, {20248, paramEllipsoid}},
-    Check{hasOwnEllipsoid,               [](Record r) { return r.MajorRadius > 0; },                                      {20249, paramMajorRadius}},
-    Check{hasOwnEllipsoid,               [](Record r) { return r.Flattening >= 0 && r.Flattening < 1; },                  {20250, paramFlattening}},
+    Check{always,                                    [](Record r) { return r.Scale >= 0; },                                           {20231, ProjParamScale}},
+    Check{always,                                    [](Record r) { return r.K0 >= 0; },                                              {20232, ProjParamK0}},
+    Check{hasOwnOrigin,                              [](Record r) { return originFits(r.xOrg); },                                     {20233, ProjParamXOrg}},
+    Check{hasOwnOrigin,                              [](Record r) { return originFits(r.yOrg); },                                     {20234, ProjParamYOrg}},
+    Check{isStatePlane,                              zoneIsDefined,                                                                   {20252, ProjParamZone}},
+    Check{always,                                    [](Record r) { return isAngle(r.Lon0); },                                        {20235, ProjParamLon0}},
+    Check{always,                                    [](Record r) { return isAngle(r.Lon1); },                                        {20236, ProjParamLon1}},
+    Check{always,                                    [](Record r) { return isAngle(r.Lon2); },                                        {20237, ProjParamLon2}},
+    Check{always,                                    [](Record r) { return isAngle(r.Lon3); },                                        {20238, ProjParamLon3}},
+    Check{always,                                    [](Record r) { return isAngle(r.Lat0); },                                        {20239, ProjParamLat0}},
+    Check{always,                                    [](Record r) { return isAngle(r.Lat1); },                                        {20240, ProjParamLat1}},
+    Check{always,                                    [](Record r) { return isAngle(r.Lat2); },                                        {20241, ProjParamLat2}},
+    Check{always,                                    [](Record r) { return isAngle(r.Lat3); },                                        {20242, ProjParamLat3}},
+    Check{is<ProjTypeHotineObliqueMercator>,         [](Record r) { return isAngle(r.Alpha); },                                       {20243, ProjParamAlpha}},
+    Check{is<ProjTypeBonne>,                         [](Record r) { return r.Lat1 != 0; },                                            {20244, ProjParamLat1}},
+    Check{is<ProjTypeAlbersEqualAreaConic>,          parallelsMakeACone,                                                              {20245, ProjParamLat1}},
+    Check{is<ProjTypeEquidistantConic>,              parallelsMakeACone,                                                              {20256, ProjParamLat1}},
+    Check{is<ProjTypeHotineObliqueMercator>,         [](Record r) { return flagByte<&PROJDATA::bUseAlpha>(r) != 1 || r.Alpha != 0; }, {20246, ProjParamAlpha}},
+    Check{is<ProjTypeLambertConformalConic>,         [](Record r) { return std::fabs(r.Lat1 - r.Lat2) > 0.1 + 1e-9; },                {20247, ProjParamLat1}},
+    Check{is<ProjTypeMercator>,                      [](Record r) { return std::fabs(std::fabs(r.Lat0) - 90) >= 0.01; },              {20251, ProjParamLat0}},
+    Check{is<ProjTypeObliqueMercator>,               [](Record r) { return std::fabs(r.Lat1 - r.Lat2) >= 0.001; },                    {20253, ProjParamLat1}},
+    Check{is<ProjTypeObliqueMercator>,               [](Record r) { return std::fabs(r.Lat1) >= 0.001; },                             {20254, ProjParamLat1}},
+    Check{is<ProjTypeObliqueMercator>,               [](Record r) { return std::fabs(std::fabs(r.Lat1) - 90) >= 0.001; },             {20255, ProjParamLat2}},
+    Check{[](Record r) { return !isStatePlane(r); }, [](Record r) { return r.Ellipsoid >= 0 && r.Ellipsoid < EllipsoidTypeNone; },    {20248, ProjParamEllipsoid}},
+    Check{hasOwnEllipsoid,                           [](Record r) { return r.MajorRadius > 0; },                                      {20249, ProjParamMajorRadius}},
+    Check{hasOwnEllipsoid,                           [](Record r) { return r.Flattening >= 0 && r.Flattening < 1; },                  {20250, ProjParamFlattening}},
 };
 // clang-format on
 
@@ -116,7 +116,7 @@ RecordFault findFault(PROJDATA const& record) noexcept {
     if (record.Type == ProjTypeUnprojectedLatLong || record.Type == ProjTypeUndefined)
         return {};
     if (record.Type < 0 || record.Type >= ProjNumProjections())
-        return {20230, paramType};
+        return {20230, ProjParamType};
     return withDefaultFloatingPoint([&] {
         for (auto const& check : checks)
             if (check.applies(record) && !check.holds(record))
@@ -136,7 +136,7 @@ int ProjCheckParams(PROJDATA const* data, char* message, bool report) {
         return nullRecord;
     }
     auto const fault = findFault(*data);
-    if (fault.parameter != paramNone) {
+    if (fault.parameter != ProjParamNone) {
         if (message)
             describe(fault.error, message);
         if (report)

@@ -5,10 +5,10 @@
 
 namespace ZrProj {
 
-/// The first thing wrong with a record; parameter 0 when nothing is.
+/// The first thing wrong with a record; no parameter when nothing is.
 struct RecordFault {
     unsigned error = 0; // number of the message
-    int parameter = 0;  // identifier of the parameter at fault
+    ProjParam parameter = ProjParamNone;
 };
 
 RecordFault findFault(PROJDATA const& record) noexcept;

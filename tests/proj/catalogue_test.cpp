@@ -44,17 +44,17 @@ TEST(Catalogue, NamesProjections) {
 TEST(Catalogue, ListsTheParametersOfAType) {
     EXPECT_EQ(ProjNumParams(ProjTypeUnprojectedLatLong), 0);
     EXPECT_EQ(ProjNumParams(static_cast<ProjType>(29)), -1);
-    EXPECT_EQ(ProjEnumParam(static_cast<ProjType>(29), 0), 0);
+    EXPECT_EQ(ProjEnumParam(static_cast<ProjType>(29), 0), ProjParamNone);
     EXPECT_EQ(ProjNumParams(ProjTypeHotineObliqueMercator), 15);
-    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, 14), 19);
-    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, 15), 0);
-    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, -1), 0);
-    EXPECT_EQ(ProjEnumParam(ProjTypeCassini, 4), 5);
-    EXPECT_EQ(ProjEnumParam(ProjTypeMercator, 4), 6);
-    EXPECT_TRUE(ProjUsesParam(ProjTypeObliqueMercator, 13));
-    EXPECT_FALSE(ProjUsesParam(ProjTypeMercator, 13));
-    EXPECT_FALSE(ProjUsesParam(ProjTypeMercator, 0));
-    EXPECT_FALSE(ProjUsesParam(ProjTypeUndefined, 2));
+    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, 14), ProjParamUOffset);
+    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, 15), ProjParamNone);
+    EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, -1), ProjParamNone);
+    EXPECT_EQ(ProjEnumParam(ProjTypeCassini, 4), ProjParamLat0);
+    EXPECT_EQ(ProjEnumParam(ProjTypeMercator, 4), ProjParamLon0);
+    EXPECT_TRUE(ProjUsesParam(ProjTypeObliqueMercator, ProjParamK0));
+    EXPECT_FALSE(ProjUsesParam(ProjTypeMercator, ProjParamK0));
+    EXPECT_FALSE(ProjUsesParam(ProjTypeMercator, ProjParamNone));
+    EXPECT_FALSE(ProjUsesParam(ProjTypeUndefined, ProjParamScale));
     for (int type = 0; type < ProjNumProjections(); ++type)
         for (int i = 0; i < ProjNumParams(static_cast<ProjType>(type)); ++i)
             EXPECT_TRUE(
@@ -66,12 +66,12 @@ TEST(Catalogue, DescribesAParameter) {
     char name[64];
     ProjDataType type = ProjDataTypeNone;
     int offset = 0, size = 0;
-    ASSERT_TRUE(ProjParamInfo(15, name, &type, &offset, &size));
+    ASSERT_TRUE(ProjParamInfo(ProjParamZone, name, &type, &offset, &size));
     EXPECT_STREQ(name, "State Zone");
     EXPECT_EQ(type, ProjDataTypeStateZone);
     EXPECT_EQ(offset, 101);
     EXPECT_EQ(size, 4);
-    ASSERT_TRUE(ProjParamInfo(22, nullptr, nullptr, &offset, nullptr));
+    ASSERT_TRUE(ProjParamInfo(ProjParamFlattening, nullptr, nullptr, &offset, nullptr));
     EXPECT_EQ(offset, 128);
     for (int const unknown : {0, 23, -1})
         EXPECT_FALSE(ProjParamInfo(unknown, name, &type, &offset, &size));
@@ -83,16 +83,16 @@ TEST(Catalogue, ReadsAndWritesParametersByIdentifier) {
     auto const before = bytes;
     auto* const record = reinterpret_cast<PROJDATA*>(bytes.data());
     bool const south = true;
-    ASSERT_TRUE(ProjSetParam(record, 14, &south));
+    ASSERT_TRUE(ProjSetParam(record, ProjParamSouth, &south));
     for (std::size_t i = 0; i < bytes.size(); ++i)
         EXPECT_EQ(bytes[i], i == 100 ? 1 : before[i]) << i;
     double const northing = 1234.5;
     double read = 0;
-    ASSERT_TRUE(ProjSetParam(record, 4, &northing) && ProjGetParam(record, 4, &read));
+    ASSERT_TRUE(ProjSetParam(record, ProjParamYOrg, &northing) && ProjGetParam(record, ProjParamYOrg, &read));
     EXPECT_EQ(read, northing);
     EXPECT_EQ(+record->yOrg, northing);
-    EXPECT_FALSE(ProjSetParam(record, 0, &northing));
+    EXPECT_FALSE(ProjSetParam(record, ProjParamNone, &northing));
     EXPECT_FALSE(ProjGetParam(record, 23, &read));
-    EXPECT_FALSE(ProjGetParam(nullptr, 4, &read));
-    EXPECT_FALSE(ProjSetParam(record, 4, nullptr));
+    EXPECT_FALSE(ProjGetParam(nullptr, ProjParamYOrg, &read));
+    EXPECT_FALSE(ProjSetParam(record, ProjParamYOrg, nullptr));
 }
