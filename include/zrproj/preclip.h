@@ -27,9 +27,9 @@ public:
 
 /// Cuts a line at the projection's edges: the chains are what the map shows of it, in its order.
 ///
-/// Points are longitude and latitude in degrees, joined by straight edges of that plane; from a longitude to one more
-/// than 180 degrees away an edge goes the short way. A line breaks at a point that is not finite or lies beyond 360
-/// degrees of longitude or 90 of latitude. `count` is at least 2.
+/// Points are longitude and latitude in degrees, joined by straight segments of that plane; from a longitude to one
+/// more than 180 degrees away a segment goes the short way. A line breaks at a point that is not finite or lies beyond
+/// 360 degrees of longitude or 90 of latitude. `count` is at least 2.
 ///
 /// Every point of a chain is in range (ProjLLInProjection) and on the map; no chain goes over an edge of the map. Cuts
 /// are made just inside of the edge, 1e-9 degrees from a meridian or a horizon (0.1 mm on the Earth) and 1e-6 degrees
@@ -45,13 +45,13 @@ ZRPROJ_API bool ProjLLPreclipPolyline(void* handle, PROJPOINT const* points, uns
 /// Cuts an area, given by the ring around it, at the projection's edges: the chains are rings, closed along the edges
 /// with points a degree apart at most, and bound what the map shows of the area.
 ///
-/// Points and edges are those of ProjLLPreclipPolyline, but that a point that is not finite or out of bounds is left
+/// Points and segments are those of ProjLLPreclipPolyline, but that a point that is not finite or out of bounds is left
 /// out. The last point joins the first, and may repeat it. `count` is at least 3.
 ///
-/// A ring contains what an odd number of its edges lies north of. A ring that winds around the globe contains the pole
-/// to which its mean latitude is nearer (the one to its left when that is 0), and ends there on maps that show the pole
-/// as a line. Of several rings that come back, one inside another is a hole in it. Rings keep the orientation of the
-/// ring given, unless it crosses itself. An area that contains the whole map comes back as the map's outline, one
+/// A ring contains what an odd number of its segments lies north of. A ring that winds around the globe contains the
+/// pole to which its mean latitude is nearer (the one to its left when that is 0), and ends there on maps that show the
+/// pole as a line. Of several rings that come back, one inside another is a hole in it. Rings keep the orientation of
+/// the ring given, unless it crosses itself. An area that contains the whole map comes back as the map's outline, one
 /// outside as no chains. A ring that comes back alone is the same when it is cut again; of several, each says only
 /// together with the others what the area contains.
 ///

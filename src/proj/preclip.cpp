@@ -34,13 +34,13 @@ std::vector<Path> cutToEdges(formulas::MapEdges const& edges, std::vector<Path> 
     return paths;
 }
 
-/// Frees a list that nobody has taken.
+/// Frees a list of chains that no caller has taken over.
 struct FreeChains {
     void operator()(CPROJCHAIN* chains) const { ProjFreeChains(chains); }
 };
 using Chains = std::unique_ptr<CPROJCHAIN, FreeChains>;
 
-/// `points` and one more chain, in front of `rest`.
+/// Makes a chain of copies of the points and puts it in front of `rest`.
 Chains chainOf(std::span<PROJPOINT const> points, bool isClosed, Chains rest) {
     auto copy = std::make_unique_for_overwrite<PROJPOINT[]>(points.size());
     std::ranges::copy(points, copy.get());

@@ -2,7 +2,7 @@
 //
 // The crossings of a ring divide the boundary into arcs that lie inside the ring and outside of it by turns. At each
 // crossing one piece of the ring ends and one arc inside of it, so that pieces and arcs make up closed curves whatever
-// the ring looks like. Which arcs are inside is asked once, of a place on the longest one.
+// the ring looks like. Which arcs are inside is asked once, of a point on the longest one.
 #pragma once
 
 #include "proj/preclip_pieces.h"
@@ -30,7 +30,7 @@ inline std::vector<Node> nodesOf(std::vector<Piece> const& pieces) {
 }
 
 /// Follows the boundary from one parameter to a greater one with points a degree apart at most, and less where the
-/// edges between them would leave it too far. The ends are left out.
+/// segments between them would leave it too far. The ends are left out.
 template <class Area> class Follower {
 public:
     Follower(Area const& area, std::vector<PROJPOINT>& out) : area_(area), out_(out) {}
@@ -47,7 +47,7 @@ public:
                 if (t <= from)
                     continue;
                 refine(last, t);
-                out_.push_back(area_.onBoundary(t));
+                out_.push_back(area_.boundaryPoint(t));
                 last = t;
             }
         }
@@ -57,11 +57,11 @@ public:
 private:
     void refine(double from, double to) {
         constexpr double least = 1e-4;
-        if (to - from < least || area_.isFollowed(from, to))
+        if (to - from < least || area_.chordFollows(from, to))
             return;
         double const middle = (from + to) / 2;
         refine(from, middle);
-        out_.push_back(area_.onBoundary(middle));
+        out_.push_back(area_.boundaryPoint(middle));
         refine(middle, to);
     }
 
@@ -76,14 +76,14 @@ template <class Area> void follow(Area const& area, double from, double to, std:
 /// The rings that pieces of a ring make up with what of the boundary lies inside the ring.
 template <class Area> class Closing {
 public:
-    Closing(Area const& area, std::vector<Piece> const& pieces, Unrolled const& ring)
+    Closing(Area const& area, std::vector<Piece> const& pieces, Unwrapped const& ring)
         : area_(area), pieces_(pieces), nodes_(nodesOf(pieces)), ends_(2 * pieces.size()) {
         for (std::size_t i = 0; i < nodes_.size(); ++i)
             ends_[2 * nodes_[i].piece + (nodes_[i].isStart ? 0 : 1)] = i;
         double const t = reference();
         auto const after = std::ranges::find_if(nodes_, [t](Node const& node) { return node.t > t; });
         bool const even = (after - nodes_.begin()) % 2 == 0;
-        evenArcsAreInside_ = ring.holds(area.outside(t)) == even;
+        evenArcsAreInside_ = ring.contains(area.outside(t)) == even;
     }
 
     std::vector<Path> rings() const {
@@ -96,7 +96,7 @@ public:
     }
 
 private:
-    /// A place on the longest arc that outside() knows; not its middle, through which an edge might well go.
+    /// A point on the longest arc that outside() knows. It is not the middle, through which a segment might well go.
     double reference() const {
         double last = area_.referenceBegin, chosen = last, best = 0;
         auto const consider = [&](double t) {
@@ -150,16 +150,17 @@ private:
         addBeside(from, out);
         if (arc == 0) {
             follow(area_, from, area_.sides.back(), out);
-            out.push_back(area_.onBoundary(0));
+            out.push_back(area_.boundaryPoint(0));
         }
         follow(area_, arc == 0 ? 0 : from, to, out);
         addBeside(to, out);
     }
 
-    /// Where the boundary lies beside the cuts, its point beside one, unless that is the last point already.
+    /// Adds the boundary's point beside a cut where the boundary lies beside the cuts, unless it is the last point
+    /// already.
     void addBeside(double t, std::vector<PROJPOINT>& out) const {
         if constexpr (Area::boundaryIsBeside)
-            if (auto const point = area_.onBoundary(t); !isSamePlace(out.back(), point))
+            if (auto const point = area_.boundaryPoint(t); !isSamePoint(out.back(), point))
                 out.push_back(point);
     }
 
@@ -170,11 +171,12 @@ private:
     bool evenArcsAreInside_;
 };
 
-template <class Area> Path outline(Area const& area, bool holdsItsLeft) {
+/// The whole boundary as a ring that has the area to its left or to its right.
+template <class Area> Path outline(Area const& area, bool interiorIsLeft) {
     Path ring{{}, true, false};
-    ring.points.push_back(area.onBoundary(0));
+    ring.points.push_back(area.boundaryPoint(0));
     follow(area, 0, area.sides.back(), ring.points);
-    if (area.areaIsLeft() != holdsItsLeft)
+    if (area.areaIsLeft() != interiorIsLeft)
         std::ranges::reverse(ring.points);
     return ring;
 }

@@ -1,5 +1,5 @@
-// Where a straight edge in longitude and latitude crosses a curve: the places where a function along the edge changes
-// its sign.
+// Where a segment in longitude and latitude crosses a curve: the points where a function along the segment changes its
+// sign.
 #pragma once
 
 #include <cmath>
@@ -24,7 +24,7 @@ public:
         }
         double const middle = s0 + h / 2, f = f_(middle);
         if (bend < flat && std::fabs(f0) + std::fabs(f) + std::fabs(f1) < negligible && (f0 >= 0) == (f1 >= 0))
-            return; // the edge lies along the curve
+            return; // the segment lies along the curve
         search(s0, f0, middle, f);
         search(middle, f, s1, f1);
     }
@@ -32,7 +32,8 @@ public:
 private:
     static constexpr double negligible = 1e-9, flat = 1e-3, exact = 1e-15;
 
-    /// The one root between, by the Illinois form of false position; the end on the positive side.
+    /// The one root between, by the Illinois form of false position: the end of the last interval where the function is
+    /// not negative.
     double root(double s0, double f0, double s1, double f1) const {
         double inside = f0 >= 0 ? s0 : s1, fInside = f0 >= 0 ? f0 : f1;
         double outside = f0 >= 0 ? s1 : s0, fOutside = f0 >= 0 ? f1 : f0;

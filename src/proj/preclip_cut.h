@@ -8,22 +8,22 @@
 
 namespace ZrProj::preclip {
 
-/// What the area shows of a path.
+/// Adds what the area shows of a path to `out`.
 template <class Area> void cut(Area const& area, Path path, std::vector<Path>& out) {
-    Unrolled unrolled(path);
-    if constexpr (requires { area.settle(path, unrolled); })
-        if (area.settle(path, unrolled) && path.isRing)
-            return; // without width
-    auto pieces = piecesOf(area, path, unrolled);
+    Unwrapped unwrapped(path);
+    if constexpr (requires { area.moveOffSeam(path, unwrapped); })
+        if (area.moveOffSeam(path, unwrapped) && path.isRing)
+            return; // a ring without width
+    auto pieces = piecesOf(area, path, unwrapped);
     if (pieces.isWhole) {
-        bool const goesAround =
-            path.isRing && !pieces.isBoundary && area.canBeHeld() && unrolled.holds(area.farOutside());
+        bool const enclosesComplement = path.isRing && !pieces.isBoundary && area.complementCanBeEnclosed() &&
+                                        unwrapped.contains(area.pointOfComplement());
         if (pieces.isKept)
             out.push_back(std::move(path));
         else
             out.push_back({std::move(pieces.list.front().points), path.isRing, false});
-        if (goesAround)
-            out.push_back(outline(area, unrolled.holdsItsLeft()));
+        if (enclosesComplement)
+            out.push_back(outline(area, unwrapped.interiorIsLeft()));
         return;
     }
     tidy(pieces.list, path.isRing);
@@ -31,13 +31,13 @@ template <class Area> void cut(Area const& area, Path path, std::vector<Path>& o
         for (auto& piece : pieces.list)
             out.push_back({std::move(piece.points), false, false});
     } else if (!pieces.list.empty()) {
-        std::ranges::move(Closing<Area>(area, pieces.list, unrolled).rings(), std::back_inserter(out));
-    } else if (unrolled.holds(area.onBoundary((area.referenceBegin + area.referenceEnd) / 2))) {
-        out.push_back(outline(area, unrolled.holdsItsLeft()));
+        std::ranges::move(Closing<Area>(area, pieces.list, unwrapped).rings(), std::back_inserter(out));
+    } else if (unwrapped.contains(area.boundaryPoint((area.referenceBegin + area.referenceEnd) / 2))) {
+        out.push_back(outline(area, unwrapped.interiorIsLeft()));
     }
 }
 
-/// Whether a path is too short for a line, or for a ring, whose last point may be its first one again.
+/// Whether a path has too few points for a line, or for a ring, whose last point may be its first one again.
 inline bool isSliver(Path const& path) {
     auto const& points = path.points;
     bool const repeats =
@@ -45,6 +45,7 @@ inline bool isSliver(Path const& path) {
     return points.size() - (repeats ? 1 : 0) < (path.isRing ? 3U : 2U);
 }
 
+/// What the area shows of paths.
 template <class Area> std::vector<Path> cut(Area const& area, std::vector<Path> paths) {
     std::vector<Path> out;
     for (auto& path : paths)

@@ -10,15 +10,15 @@ namespace ZrProj::preclip {
 namespace {
 
 constexpr double degree = 3.141592653589793 / 180;
-/// How far beside the cut paths are cut, and how far the boundary lies that they are closed along: there straight edges
-/// in longitude and latitude must not get over the cut. The latter is an angle at the pole.
+/// How far beside the cut paths are cut, and how far the boundary lies that they are closed along: there segments in
+/// longitude and latitude must not get over the cut. The latter is an angle at the pole.
 double const aside = std::sin(formulas::lineInset / 4 * degree), wellAside = std::sin(1e-4 * degree);
 constexpr double endRadius = 2 * formulas::placeInset; // of the boundary around a pole; the holes there are smaller
 constexpr double lastLatitude = 90 - endRadius;        // on the oblique globe
 
-/// How far the boundary lies beside the cut. Nearer to the oblique equator less, since there other edges meet the cut.
-double boundaryAside(Direction const& from) {
-    return std::fmax(aside, wellAside * std::hypot(from.east, from.north) * std::fabs(from.up));
+/// How far the boundary lies beside the cut: less nearer to the oblique equator, where the map's other edges meet it.
+double boundaryAside(UnitVector const& vector) {
+    return std::fmax(aside, wellAside * std::hypot(vector.east, vector.north) * std::fabs(vector.up));
 }
 
 double eccentricPart(double e, double sinPhi) {
@@ -37,90 +37,92 @@ double latitudeOf(double e, double psi) {
     return phi;
 }
 
-/// Beside the cut, and nearer to it than its sides.
-bool isInTheCut(Direction const& from) {
-    return from.east < 0 && std::fabs(from.north) < aside / 2;
+/// Whether a point lies beside the cut, nearer to it than its sides.
+bool isInTheCut(UnitVector const& vector) {
+    return vector.east < 0 && std::fabs(vector.north) < aside / 2;
 }
 
-bool isOnFirstSide(Direction const& from) {
-    return from.north >= 0;
+bool isOnFirstSide(UnitVector const& vector) {
+    return vector.north >= 0;
 }
 
-/// In degrees, on the oblique globe.
-double latitude(Direction const& from) {
-    return std::atan2(from.up, std::hypot(from.east, from.north)) / degree;
+/// The latitude on the oblique globe, degrees.
+double latitude(UnitVector const& vector) {
+    return std::atan2(vector.up, std::hypot(vector.east, vector.north)) / degree;
 }
 
 } // namespace
 
-Direction ObliqueArea::directionOf(PROJPOINT const& point) const {
+UnitVector ObliqueArea::vectorOf(PROJPOINT const& point) const {
     double const phi = point.y * degree, theta = cut_.B * std::remainder(point.x - cut_.lon0, 360.0) - cut_.lonPole;
     if (cut_.B == 1 && cut_.e == 0 && cut_.logE == 0)
-        return pole_.direction({theta * degree, std::sin(phi), std::cos(phi)});
+        return pole_.vectorTo({theta * degree, std::sin(phi), std::cos(phi)});
     double const psi = std::asinh(std::tan(phi)) - eccentricPart(cut_.e, std::sin(phi));
     double const onSphere = cut_.B * psi + cut_.logE;
-    return pole_.direction({theta * degree, std::tanh(onSphere), 1 / std::cosh(onSphere)});
+    return pole_.vectorTo({theta * degree, std::tanh(onSphere), 1 / std::cosh(onSphere)});
 }
 
-PROJPOINT ObliqueArea::geographic(Direction const& from) const {
-    auto const place = pole_.place(from);
-    double const L = std::remainder(place.theta / degree + cut_.lonPole, 360.0);
+PROJPOINT ObliqueArea::geographic(UnitVector const& vector) const {
+    auto const point = pole_.pointAt(vector);
+    double const L = std::remainder(point.theta / degree + cut_.lonPole, 360.0);
     double const lon = std::remainder(cut_.lon0 + L / cut_.B, 360.0);
     if (cut_.B == 1 && cut_.e == 0 && cut_.logE == 0)
-        return {lon, std::atan2(place.sin, place.cos) / degree};
-    double const psi = (std::asinh(place.sin / place.cos) - cut_.logE) / cut_.B;
+        return {lon, std::atan2(point.sin, point.cos) / degree};
+    double const psi = (std::asinh(point.sin / point.cos) - cut_.logE) / cut_.B;
     return {lon, latitudeOf(cut_.e, psi) / degree};
 }
 
-/// The place so far beside the cut.
+// `north` is how far the point lies beside the cut.
 PROJPOINT ObliqueArea::beside(double latitude, double north) const {
     double const bounded = std::clamp(latitude, -lastLatitude, lastLatitude) * degree, across = std::cos(bounded);
     return geographic({-std::sqrt((across - north) * (across + north)), north, std::sin(bounded)});
 }
 
-PROJPOINT ObliqueArea::shown(Spot const& spot, PROJPOINT const& given) const {
-    if (!isInTheCut(spot.from))
+PROJPOINT ObliqueArea::shown(Vertex const& vertex, PROJPOINT const& given) const {
+    if (!isInTheCut(vertex.vector))
         return given;
-    return beside(latitude(spot.from), isOnFirstSide(spot.from) ? aside : -aside);
+    return beside(latitude(vertex.vector), isOnFirstSide(vertex.vector) ? aside : -aside);
 }
 
-bool ObliqueArea::keepsAsGiven(Spot const& spot, PROJPOINT const&) {
-    return !isInTheCut(spot.from);
+bool ObliqueArea::keepsAsGiven(Vertex const& vertex, PROJPOINT const&) {
+    return !isInTheCut(vertex.vector);
 }
 
-bool ObliqueArea::isOnBoundary(Spot const& spot) {
-    double const across = std::hypot(spot.from.east, spot.from.north);
-    bool const isBeside = spot.from.east < 0 && std::fabs(spot.from.north) < 1.01 * boundaryAside(spot.from);
+bool ObliqueArea::isOnBoundary(Vertex const& vertex) {
+    double const across = std::hypot(vertex.vector.east, vertex.vector.north);
+    bool const isBeside =
+        vertex.vector.east < 0 && std::fabs(vertex.vector.north) < 1.01 * boundaryAside(vertex.vector);
     return isBeside || across < 1.01 * endRadius * degree;
 }
 
-void ObliqueArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
+void ObliqueArea::crossings(Vertex const& a, Vertex const& b, Crossings& out) const {
     double const speed = (cut_.B * std::fabs(b.lon - a.lon) + 1.7 * std::fabs(b.lat - a.lat)) * degree;
-    double const curvature = 2 * speed * speed, nearer = std::fmin(std::fabs(a.from.north), std::fabs(b.from.north));
-    bool first = isOnFirstSide(a.from);
-    if (first == isOnFirstSide(b.from) && nearer > curvature / 8)
+    double const curvature = 2 * speed * speed,
+                 nearer = std::fmin(std::fabs(a.vector.north), std::fabs(b.vector.north));
+    bool first = isOnFirstSide(a.vector);
+    if (first == isOnFirstSide(b.vector) && nearer > curvature / 8)
         return;
-    auto const placeAt = [&](double s) {
-        return directionOf({a.lon + s * (b.lon - a.lon), a.lat + s * (b.lat - a.lat)});
+    auto const vectorAt = [&](double s) {
+        return vectorOf({a.lon + s * (b.lon - a.lon), a.lat + s * (b.lat - a.lat)});
     };
-    auto const north = [&](double s) { return placeAt(s).north; };
+    auto const north = [&](double s) { return vectorAt(s).north; };
     auto const cross = [&](double s) {
-        auto const from = placeAt(s);
-        if (from.east < 0) {
-            double const lat = latitude(from), up = lat + 90, down = 540 + (90 - lat);
+        auto const vector = vectorAt(s);
+        if (vector.east < 0) {
+            double const lat = latitude(vector), up = lat + 90, down = 540 + (90 - lat);
             out.push_back({false, first ? up : down, beside(lat, first ? aside : -aside)});
             out.push_back({true, first ? down : up, beside(lat, first ? -aside : aside)});
         }
         first = !first;
     };
-    SignChanges(north, curvature, cross).search(0, a.from.north, 1, b.from.north);
+    SignChanges(north, curvature, cross).search(0, a.vector.north, 1, b.vector.north);
 }
 
 bool ObliqueArea::isOnSide(double t) {
     return t <= sides[1] || (t >= sides[2] && t <= sides[3]);
 }
 
-PROJPOINT ObliqueArea::onBoundary(double t) const {
+PROJPOINT ObliqueArea::boundaryPoint(double t) const {
     if (isOnSide(t)) {
         bool const isFirst = t <= sides[1];
         double const latitude = std::clamp(isFirst ? t - 90 : 90 - (t - sides[2]), -lastLatitude, lastLatitude);
@@ -130,17 +132,17 @@ PROJPOINT ObliqueArea::onBoundary(double t) const {
     bool const northern = t < sides[2];
     double const along = (northern ? 360 - t : t - 900) * degree;
     double const up = (northern ? 1 : -1) * std::sin(lastLatitude * degree), across = std::cos(lastLatitude * degree);
-    Direction from{across * std::cos(along), across * std::sin(along), up};
-    if (from.east < 0 && std::fabs(from.north) < boundaryAside(from))
-        from.north = std::copysign(boundaryAside(from), from.north);
-    return geographic(from);
+    UnitVector vector{across * std::cos(along), across * std::sin(along), up};
+    if (vector.east < 0 && std::fabs(vector.north) < boundaryAside(vector))
+        vector.north = std::copysign(boundaryAside(vector), vector.north);
+    return geographic(vector);
 }
 
-bool ObliqueArea::isFollowed(double from, double to) const {
+bool ObliqueArea::chordFollows(double from, double to) const {
     if (!isOnSide((from + to) / 2))
         return true;
-    auto const a = onBoundary(from), b = onBoundary(to);
-    auto const middle = directionOf({a.x + std::remainder(b.x - a.x, 360.0) / 2, (a.y + b.y) / 2});
+    auto const a = boundaryPoint(from), b = boundaryPoint(to);
+    auto const middle = vectorOf({a.x + std::remainder(b.x - a.x, 360.0) / 2, (a.y + b.y) / 2});
     double const wanted = boundaryAside(middle);
     return std::fabs(middle.north - (to <= sides[1] ? wanted : -wanted)) < wanted / 8;
 }

@@ -9,7 +9,7 @@ namespace ZrProj::preclip {
 
 namespace {
 
-constexpr double margin = 1.001 * formulas::lineInset; // to the true edge, and over its rounding
+constexpr double margin = 1.001 * formulas::lineInset; // to the map's true edge, and over its rounding
 
 enum Side { southSide, eastSide, northSide, westSide };
 
@@ -30,29 +30,29 @@ double WindowArea::clampLat(double lat) const {
     return std::clamp(lat, window_.south, window_.north);
 }
 
-bool WindowArea::settle(Path& path, Unrolled& unrolled) const {
+bool WindowArea::moveOffSeam(Path& path, Unwrapped& unwrapped) const {
     if (!window_.wraps || window_.east - window_.west < 359)
         return false;
-    auto const offset = [&](std::size_t i) { return std::remainder(unrolled[i].x - middle_ - 180, 360); };
+    auto const offset = [&](std::size_t i) { return std::remainder(unwrapped[i].x - middle_ - 180, 360); };
     auto const isOnSeam = [&](std::size_t i) { return std::fabs(offset(i)) < formulas::lineInset / 2; };
     std::size_t neighbour = 0;
     while (neighbour < path.points.size() && isOnSeam(neighbour))
         ++neighbour;
-    bool const staysOnSeam = neighbour == path.points.size();
+    bool const liesOnSeam = neighbour == path.points.size();
     for (std::size_t i = 0; i < path.points.size(); ++i) {
         if (!isOnSeam(i)) {
             neighbour = i;
             continue;
         }
-        bool const isEastern = staysOnSeam ? path.points[0].x > middle_ : unrolled[neighbour].x < unrolled[i].x;
-        unrolled.move(i, (isEastern ? -formulas::lineInset : formulas::lineInset) - offset(i));
+        bool const isEastern = liesOnSeam ? path.points[0].x > middle_ : unwrapped[neighbour].x < unwrapped[i].x;
+        unwrapped.move(i, (isEastern ? -formulas::lineInset : formulas::lineInset) - offset(i));
         path.points[i].x = isEastern ? window_.east : window_.west;
         path.isAsGiven = false;
     }
-    return staysOnSeam;
+    return liesOnSeam;
 }
 
-WindowArea::Spot WindowArea::at(PROJPOINT const& given, double lon) const {
+WindowArea::Vertex WindowArea::vertexAt(PROJPOINT const& given, double lon) const {
     double const x = given.x - 360 * std::floor((given.x - middle_) / 360 + 0.5);
     double const turn = 360 * std::round((lon - x) / 360);
     bool const inside = x >= window_.west - margin && x <= window_.east + margin && given.y >= window_.south &&
@@ -64,15 +64,15 @@ bool WindowArea::isBesideEdge(double lon) const {
     return lon < window_.west - formulas::lineInset / 2 || lon > window_.east + formulas::lineInset / 2;
 }
 
-PROJPOINT WindowArea::shown(Spot const& spot, PROJPOINT const&) const {
-    return {isBesideEdge(spot.x) ? clampLon(spot.x) : spot.x, spot.lat};
+PROJPOINT WindowArea::shown(Vertex const& vertex, PROJPOINT const&) const {
+    return {isBesideEdge(vertex.x) ? clampLon(vertex.x) : vertex.x, vertex.lat};
 }
 
-bool WindowArea::keepsAsGiven(Spot const& spot, PROJPOINT const& given) const {
-    return !isBesideEdge(spot.x) && (window_.wraps || given.x == spot.x);
+bool WindowArea::keepsAsGiven(Vertex const& vertex, PROJPOINT const& given) const {
+    return !isBesideEdge(vertex.x) && (window_.wraps || given.x == vertex.x);
 }
 
-void WindowArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
+void WindowArea::crossings(Vertex const& a, Vertex const& b, Crossings& out) const {
     if (a.inside && b.inside && a.turn == b.turn)
         return;
     double const step = b.turn < a.turn ? -360 : 360;
@@ -83,8 +83,8 @@ void WindowArea::crossings(Spot const& a, Spot const& b, Crossings& out) const {
     }
 }
 
-/// Liang and Barsky (1984): the part of the edge that lies between the window's meridians and parallels.
-void WindowArea::crossCopy(Spot const& a, Spot const& b, double turn, Crossings& out) const {
+/// Liang and Barsky (1984): the part of the segment that lies between the window's meridians and parallels.
+void WindowArea::crossCopy(Vertex const& a, Vertex const& b, double turn, Crossings& out) const {
     double const dx = b.lon - a.lon, dy = b.lat - a.lat, x = a.lon - turn;
     double const speed[] = {-dy, dx, dy, -dx};
     double const west = window_.west - margin, east = window_.east + margin;
@@ -113,7 +113,7 @@ void WindowArea::crossCopy(Spot const& a, Spot const& b, double turn, Crossings&
         out.push_back(crossing(false, a, b, std::clamp(s1, 0.0, 1.0), exit, turn));
 }
 
-Crossing WindowArea::crossing(bool enters, Spot const& a, Spot const& b, double s, int side, double turn) const {
+Crossing WindowArea::crossing(bool enters, Vertex const& a, Vertex const& b, double s, int side, double turn) const {
     double const lon = clampLon(a.lon + s * (b.lon - a.lon) - turn), lat = clampLat(a.lat + s * (b.lat - a.lat));
     switch (side) {
     case southSide:
@@ -127,7 +127,7 @@ Crossing WindowArea::crossing(bool enters, Spot const& a, Spot const& b, double 
     }
 }
 
-PROJPOINT WindowArea::onBoundary(double t) const {
+PROJPOINT WindowArea::boundaryPoint(double t) const {
     if (t < sides[1])
         return {clampLon(window_.west + t), window_.south};
     if (t < sides[2])
