@@ -1,13 +1,10 @@
 // The subcommands. Each adds its options to its part of the command line, and is run when it was the one given.
 #pragma once
 
+#include "cli/text/command_line.h"
 #include "cli/text/output.h"
 
 #include <memory>
-
-namespace CLI {
-class App;
-} // namespace CLI
 
 namespace ZrProj::Command {
 
@@ -18,17 +15,17 @@ public:
     virtual int run(Output& output) = 0;
 };
 
-std::unique_ptr<Subcommand> makeDatum(CLI::App& app);
-std::unique_ptr<Subcommand> makeDatumConversion(CLI::App& app); // datum's own, without its subcommands
-std::unique_ptr<Subcommand> makeForward(CLI::App& app);
-std::unique_ptr<Subcommand> makeGrid(CLI::App& app);
-std::unique_ptr<Subcommand> makeGeoref(CLI::App& app);
-std::unique_ptr<Subcommand> makeInverse(CLI::App& app);
-std::unique_ptr<Subcommand> makeConvertFile(CLI::App& app);
-std::unique_ptr<Subcommand> makeInfo(CLI::App& app);
-std::unique_ptr<Subcommand> makeLocate(CLI::App& app);
-std::unique_ptr<Subcommand> makeList(CLI::App& app);
-std::unique_ptr<Subcommand> makeMap(CLI::App& app);
-std::unique_ptr<Subcommand> makeShow(CLI::App& app);
+std::unique_ptr<Subcommand> makeDatum(CommandLine line);
+std::unique_ptr<Subcommand> makeDatumConversion(CommandLine line); // datum's own, without its subcommands
+std::unique_ptr<Subcommand> makeForward(CommandLine line);
+std::unique_ptr<Subcommand> makeGrid(CommandLine line);
+std::unique_ptr<Subcommand> makeGeoref(CommandLine line);
+std::unique_ptr<Subcommand> makeInverse(CommandLine line);
+std::unique_ptr<Subcommand> makeConvertFile(CommandLine line);
+std::unique_ptr<Subcommand> makeInfo(CommandLine line);
+std::unique_ptr<Subcommand> makeLocate(CommandLine line);
+std::unique_ptr<Subcommand> makeList(CommandLine line);
+std::unique_ptr<Subcommand> makeMap(CommandLine line);
+std::unique_ptr<Subcommand> makeShow(CommandLine line);
 
 } // namespace ZrProj::Command

@@ -7,9 +7,7 @@
 #include "cli/projection/units.h"
 #include "cli/text/number_field.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <cmath>
@@ -23,7 +21,7 @@ constexpr int degreeDecimals = 9; // a tenth of a millimetre, so that the way th
 
 class Convert : public Subcommand {
 public:
-    Convert(CLI::App& app, Direction direction);
+    Convert(CommandLine line, Direction direction);
     int run(Output& output) override;
 
 private:
@@ -41,28 +39,24 @@ private:
     bool m_strict = false, m_geoJson = false, m_clip = false;
 };
 
-Convert::Convert(CLI::App& app, Direction direction) : m_direction(direction), m_datums(direction) {
+Convert::Convert(CommandLine line, Direction direction) : m_direction(direction), m_datums(direction) {
     bool const projects = direction != Direction::Datum;
-    auto const add = [&](char const* name, std::string& text, char const* type, char const* description) {
-        app.add_option(name, text, description)->type_name(type)->group("Input and output");
-    };
-    app.add_option("FILE", m_files, "Files of points; standard input where none is given, and for -")->option_text(" ");
+    line.arguments("FILE", m_files, "Files of points; standard input where none is given, and for -");
     if (projects)
-        m_projection.addTo(app);
-    m_datums.addTo(app);
-    add("--columns", m_columns, "X,Y", "Columns of the coordinates, x first: numbers from 1, or names of the header");
+        m_projection.addTo(line);
+    m_datums.addTo(line);
+    CommandLine const files = line.inGroup("Input and output");
+    files.option("--columns", m_columns, "X,Y",
+                 "Columns of the coordinates, x first: numbers from 1, or names of the header");
     if (projects)
-        add("--units", m_units, "UNIT", "Unit of projected coordinates: m (the default), ft or us-ft");
-    add("--precision", m_precision, "N", "Decimals of the result, 0 to 15 (3 for lengths, 9 for degrees)");
-    auto const addFlag = [&](char const* name, bool& flag, char const* description) {
-        app.add_flag(name, flag, description)->disable_flag_override()->group("Input and output");
-    };
-    addFlag("--strict", m_strict, "Status 1 also when a point cannot be converted, or not well");
-    addFlag("--geojson", m_geoJson, "Input and output are GeoJSON, as in files that are named so (.geojson, .json)");
+        files.option("--units", m_units, "UNIT", "Unit of projected coordinates: m (the default), ft or us-ft");
+    files.option("--precision", m_precision, "N", "Decimals of the result, 0 to 15 (3 for lengths, 9 for degrees)");
+    files.flag("--strict", m_strict, "Status 1 also when a point cannot be converted, or not well");
+    files.flag("--geojson", m_geoJson, "Input and output are GeoJSON, as in files that are named so (.geojson, .json)");
     if (direction == Direction::Forward)
-        addFlag("--clip", m_clip, "Cut the geometries of GeoJSON to what the map shows");
+        files.flag("--clip", m_clip, "Cut the geometries of GeoJSON to what the map shows");
     if (projects)
-        m_projection.addParametersTo(app);
+        m_projection.addParametersTo(line);
 }
 
 LengthUnit const* Convert::unit() const {
@@ -125,20 +119,20 @@ int Convert::run(Output& output) {
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeDatumConversion(CLI::App& app) {
-    return std::make_unique<Convert>(app, Direction::Datum);
+std::unique_ptr<Subcommand> makeDatumConversion(CommandLine line) {
+    return std::make_unique<Convert>(line, Direction::Datum);
 }
 
-std::unique_ptr<Subcommand> makeForward(CLI::App& app) {
-    app.footer(R"(Example: the places of a spreadsheet export, in feet, in new columns
+std::unique_ptr<Subcommand> makeForward(CommandLine line) {
+    line.footer(R"(Example: the places of a spreadsheet export, in feet, in new columns
   zrproj forward --state-plane "Arizona Central" --units ft places.csv)");
-    return std::make_unique<Convert>(app, Direction::Forward);
+    return std::make_unique<Convert>(line, Direction::Forward);
 }
 
-std::unique_ptr<Subcommand> makeInverse(CLI::App& app) {
-    app.footer(R"(Example: one point
+std::unique_ptr<Subcommand> makeInverse(CommandLine line) {
+    line.footer(R"(Example: one point
   echo 630084.301 4833438.586 | zrproj inverse --utm 17N)");
-    return std::make_unique<Convert>(app, Direction::Inverse);
+    return std::make_unique<Convert>(line, Direction::Inverse);
 }
 
 } // namespace ZrProj::Command

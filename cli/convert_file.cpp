@@ -5,9 +5,7 @@
 #include "cli/files/tiff_format.h"
 #include "cli/projection/options.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <cstdio>
 
@@ -16,25 +14,20 @@ namespace {
 
 class ConvertFile : public Subcommand {
 public:
-    explicit ConvertFile(CLI::App& app) {
-        app.add_option("IN", m_in,
-                       "A reference, RSF or world file, or an image: a TIFF file, or one that has such files")
-            ->option_text(" ")
-            ->required();
-        app.add_option("OUT", m_out,
-                       "The file to write, of the kind that its extension tells: zrr, rsf, wld, tfw ...; or a TIFF "
-                       "file that is "
-                       "there, whose tags are set")
-            ->option_text(" ")
-            ->required();
-        m_projection.addTo(app);
-        app.add_option("--datum", m_datum, "Datum of the map, by name or POSC code; its ellipsoid is the projection's")
-            ->type_name("NAME")
-            ->group("Datums");
-        app.add_flag("--accept-misfit", m_acceptMisfit,
-                     "Write an RSF file although what it is read back as misses the control points by over a pixel")
-            ->disable_flag_override();
-        m_projection.addParametersTo(app);
+    explicit ConvertFile(CommandLine line) {
+        line.argument("IN", m_in,
+                      "A reference, RSF or world file, or an image: a TIFF file, or one that has such files")
+            .require();
+        line.argument("OUT", m_out,
+                      "The file to write, of the kind that its extension tells: zrr, rsf, wld, tfw ...; or a TIFF "
+                      "file that is there, whose tags are set")
+            .require();
+        m_projection.addTo(line);
+        line.inGroup("Datums").option("--datum", m_datum, "NAME",
+                                      "Datum of the map, by name or POSC code; its ellipsoid is the projection's");
+        line.flag("--accept-misfit", m_acceptMisfit,
+                  "Write an RSF file although what it is read back as misses the control points by over a pixel");
+        m_projection.addParametersTo(line);
     }
 
     int run(Output&) override {
@@ -95,12 +88,12 @@ private:
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeConvertFile(CLI::App& app) {
-    app.footer("Example: a scanned map's world file as a reference file\n  zrproj convert map.tfw map.tif.zrr\n"
-               "Example: a scanned map with a world file and a projection, in its own tags\n"
-               "  zrproj convert map.tif map.tif --utm 17N --datum nad27\n"
-               "Example: all that is known of a scanned map, in its own tags\n  zrproj convert map.tif map.tif");
-    return std::make_unique<ConvertFile>(app);
+std::unique_ptr<Subcommand> makeConvertFile(CommandLine line) {
+    line.footer("Example: a scanned map's world file as a reference file\n  zrproj convert map.tfw map.tif.zrr\n"
+                "Example: a scanned map with a world file and a projection, in its own tags\n"
+                "  zrproj convert map.tif map.tif --utm 17N --datum nad27\n"
+                "Example: all that is known of a scanned map, in its own tags\n  zrproj convert map.tif map.tif");
+    return std::make_unique<ConvertFile>(line);
 }
 
 } // namespace ZrProj::Command

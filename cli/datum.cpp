@@ -5,9 +5,7 @@
 #include "cli/text/number_field.h"
 #include "cli/text/table.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <array>
 #include <stdexcept>
@@ -24,12 +22,11 @@ bool isStored(std::string const& name) {
 
 class Add : public Subcommand {
 public:
-    explicit Add(CLI::App& app) {
-        app.add_option("DATUM", m_definition, "\"NAME: method=molodensky, ellipsoid=..., dx=..., dy=..., dz=...\"")
-            ->required()
-            ->option_text(" ");
-        app.add_flag("--replace", m_replace, "Replace a datum of that name")->disable_flag_override();
-        app.footer(std::string("The datum is kept in ") + profileHelp + R"(.
+    explicit Add(CommandLine line) {
+        line.argument("DATUM", m_definition, "\"NAME: method=molodensky, ellipsoid=..., dx=..., dy=..., dz=...\"")
+            .require();
+        line.flag("--replace", m_replace, "Replace a datum of that name");
+        line.footer(std::string("The datum is kept in ") + profileHelp + R"(.
 
 Example:
   zrproj datum add "My site: method=molodensky, ellipsoid=clarke 1866, dx=-8, dy=160, dz=176")");
@@ -51,9 +48,7 @@ private:
 
 class Remove : public Subcommand {
 public:
-    explicit Remove(CLI::App& app) {
-        app.add_option("NAME", m_name, "Its whole name, in any letter case")->required()->option_text(" ");
-    }
+    explicit Remove(CommandLine line) { line.argument("NAME", m_name, "Its whole name, in any letter case").require(); }
 
     int run(Output&) override {
         if (!isStored(m_name))
@@ -70,10 +65,8 @@ private:
 
 class ShowDatum : public Subcommand {
 public:
-    explicit ShowDatum(CLI::App& app) {
-        app.add_option("NAME", m_name, "Name (a unique part will do), number or POSC code")
-            ->required()
-            ->option_text(" ");
+    explicit ShowDatum(CommandLine line) {
+        line.argument("NAME", m_name, "Name (a unique part will do), number or POSC code").require();
     }
 
     int run(Output& output) override {
@@ -121,11 +114,11 @@ private:
 struct Part {
     char const* name;
     char const* description;
-    std::unique_ptr<Subcommand> (*make)(CLI::App& app);
+    std::unique_ptr<Subcommand> (*make)(CommandLine line);
 };
 
-template <class Command> std::unique_ptr<Subcommand> make(CLI::App& app) {
-    return std::make_unique<Command>(app);
+template <class Command> std::unique_ptr<Subcommand> make(CommandLine line) {
+    return std::make_unique<Command>(line);
 }
 
 constexpr std::array parts{
@@ -136,31 +129,33 @@ constexpr std::array parts{
 
 class DatumCommand : public Subcommand {
 public:
-    explicit DatumCommand(CLI::App& app) : m_app(app), m_conversion(makeDatumConversion(app)) {
-        for (Part const& part : parts)
-            m_parts.push_back(part.make(*app.add_subcommand(part.name, part.description)));
+    explicit DatumCommand(CommandLine line) : m_conversion(makeDatumConversion(line)) {
+        for (Part const& part : parts) {
+            m_partLines.push_back(line.subcommand(part.name, part.description));
+            m_parts.push_back(part.make(m_partLines.back()));
+        }
     }
 
     int run(Output& output) override {
         for (std::size_t i = 0; i < parts.size(); ++i)
-            if (m_app.got_subcommand(parts[i].name))
+            if (m_partLines[i].isGiven())
                 return m_parts[i]->run(output);
         return m_conversion->run(output);
     }
 
 private:
-    CLI::App& m_app;
+    std::vector<CommandLine> m_partLines; // by row
     std::unique_ptr<Subcommand> m_conversion;
     std::vector<std::unique_ptr<Subcommand>> m_parts; // by row
 };
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeDatum(CLI::App& app) {
-    app.footer(R"(Example: old positions of a survey, on the datum of GPS
+std::unique_ptr<Subcommand> makeDatum(CommandLine line) {
+    line.footer(R"(Example: old positions of a survey, on the datum of GPS
   zrproj datum --from nad27 --to wgs84 survey.csv
 "zrproj list datums" lists the datums. Those of the method NADCON need grids: "zrproj grid --help".)");
-    return std::make_unique<DatumCommand>(app);
+    return std::make_unique<DatumCommand>(line);
 }
 
 } // namespace ZrProj::Command

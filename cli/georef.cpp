@@ -6,9 +6,7 @@
 #include "cli/georef/report.h"
 #include "cli/text/number_field.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <cmath>
@@ -37,27 +35,23 @@ int complain(std::string const& message) {
 struct ControlOptions {
     std::string file, columns, method = "affine";
 
-    void addTo(CLI::App& app, char const* columnsName) {
-        app.add_option("CONTROLS", file,
-                       "File of control points: source x and y, target x and y, name; - is standard input")
-            ->option_text(" ")
-            ->required();
-        app.add_option("--method", method, "How to fit: " + methodKeys())->type_name("METHOD")->capture_default_str();
-        app.add_option(columnsName, columns,
-                       "Columns of the control points: source x, source y, target x, target y, and the name's")
-            ->type_name("A,B,C,D[,E]");
+    void addTo(CommandLine line, char const* columnsName) {
+        line.argument("CONTROLS", file,
+                      "File of control points: source x and y, target x and y, name; - is standard input")
+            .require();
+        line.option("--method", method, "METHOD", "How to fit: " + methodKeys()).showStandard();
+        line.option(columnsName, columns, "A,B,C,D[,E]",
+                    "Columns of the control points: source x, source y, target x, target y, and the name's");
     }
     std::vector<ControlPoint> read() const { return readControls(file, columns); }
 };
 
 class Fit : public Subcommand {
 public:
-    explicit Fit(CLI::App& app) {
-        m_controls.addTo(app, "--columns");
-        app.add_flag("--compare", m_compare, "Show all methods that the control points allow side by side instead")
-            ->disable_flag_override();
-        app.add_option("--plot", m_plot, "Draw the points, their residuals and a grid into this SVG file")
-            ->type_name("FILE");
+    explicit Fit(CommandLine line) {
+        m_controls.addTo(line, "--columns");
+        line.flag("--compare", m_compare, "Show all methods that the control points allow side by side instead");
+        line.option("--plot", m_plot, "FILE", "Draw the points, their residuals and a grid into this SVG file");
     }
 
     int run(Output& output) override {
@@ -89,14 +83,13 @@ private:
 
 class Apply : public Subcommand {
 public:
-    explicit Apply(CLI::App& app) {
-        m_controls.addTo(app, "--control-columns");
-        app.add_option("FILE", m_files, "Files of source points; standard input where none is given, and for -")
-            ->option_text(" ");
-        app.add_option("--columns", m_columns, "Columns of the points, x first: numbers from 1, or names of the header")
-            ->type_name("X,Y");
-        app.add_option("--precision", m_precision, "Decimals of the result, 0 to 15 (3)")->type_name("N");
-        app.add_flag("--strict", m_strict, "Status 1 also when a point cannot be mapped")->disable_flag_override();
+    explicit Apply(CommandLine line) {
+        m_controls.addTo(line, "--control-columns");
+        line.arguments("FILE", m_files, "Files of source points; standard input where none is given, and for -");
+        line.option("--columns", m_columns, "X,Y",
+                    "Columns of the points, x first: numbers from 1, or names of the header");
+        line.option("--precision", m_precision, "N", "Decimals of the result, 0 to 15 (3)");
+        line.flag("--strict", m_strict, "Status 1 also when a point cannot be mapped");
     }
 
     int run(Output& output) override {
@@ -130,22 +123,21 @@ private:
 
 class Georef : public Subcommand {
 public:
-    explicit Georef(CLI::App& app) {
-        m_fitApp = app.add_subcommand("fit", "Fit a map, and tell how well each control point is met");
-        m_applyApp = app.add_subcommand("apply", "Fit a map, and convert points by it");
-        m_fitApp->footer(
+    explicit Georef(CommandLine line)
+        : m_fitLine(line.subcommand("fit", "Fit a map, and tell how well each control point is met")),
+          m_applyLine(line.subcommand("apply", "Fit a map, and convert points by it")), m_fit(m_fitLine),
+          m_apply(m_applyLine) {
+        m_fitLine.footer(
             "Example: which of a scanned map's control points is wrong, and what a plate spline makes of them\n"
             "  zrproj georef fit controls.csv --method affine --plot controls.svg");
-        m_applyApp->footer("Example: one pixel\n  echo 1200 850 | zrproj georef apply controls.csv --method second");
-        m_fit = std::make_unique<Fit>(*m_fitApp);
-        m_apply = std::make_unique<Apply>(*m_applyApp);
+        m_applyLine.footer("Example: one pixel\n  echo 1200 850 | zrproj georef apply controls.csv --method second");
     }
 
     int run(Output& output) override {
-        if (!m_fitApp->parsed() && !m_applyApp->parsed())
+        if (!m_fitLine.isGiven() && !m_applyLine.isGiven())
             throw UsageError("georef needs fit or apply; \"zrproj georef --help\" tells more");
         try {
-            return (m_fitApp->parsed() ? *m_fit : *m_apply).run(output);
+            return m_fitLine.isGiven() ? m_fit.run(output) : m_apply.run(output);
         } catch (ControlsError const& error) {
             output.flush();
             return complain(error.what());
@@ -153,16 +145,16 @@ public:
     }
 
 private:
-    CLI::App* m_fitApp;
-    CLI::App* m_applyApp;
-    std::unique_ptr<Subcommand> m_fit, m_apply;
+    CommandLine m_fitLine, m_applyLine;
+    Fit m_fit;
+    Apply m_apply;
 };
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeGeoref(CLI::App& app) {
-    app.footer("Example: all methods side by side\n  zrproj georef fit controls.csv --compare");
-    return std::make_unique<Georef>(app);
+std::unique_ptr<Subcommand> makeGeoref(CommandLine line) {
+    line.footer("Example: all methods side by side\n  zrproj georef fit controls.csv --compare");
+    return std::make_unique<Georef>(line);
 }
 
 } // namespace ZrProj::Command

@@ -3,9 +3,7 @@
 #include "cli/datum/grid_check.h"
 #include "cli/datum/grid_import.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <filesystem>
 
@@ -14,41 +12,28 @@ namespace {
 
 class GridCommand : public Subcommand {
 public:
-    explicit GridCommand(CLI::App& app);
+    explicit GridCommand(CommandLine line);
     int run(Output& output) override;
 
 private:
-    void addCheck();
-    void addImport();
     int import(Output& output) const;
 
-    CLI::App& m_app;
+    CommandLine m_check, m_import;
     std::string m_checked, m_imported, m_name, m_directory;
     bool m_replace = false;
 };
 
-GridCommand::GridCommand(CLI::App& app) : m_app(app) {
-    app.require_subcommand(1);
-    addCheck();
-    addImport();
-}
-
-void GridCommand::addCheck() {
-    CLI::App& check = *m_app.add_subcommand("check", "Show header, extent and value ranges of a pair");
-    check.add_option("NAME", m_checked, "A grid beside this program, as \"conus\", or a path, as \"grids/conus\"")
-        ->required()
-        ->option_text(" ");
-}
-
-void GridCommand::addImport() {
-    CLI::App& import = *m_app.add_subcommand("import", "Make a pair of the usual convention into one for this library");
-    import.add_option("SOURCE", m_imported, "Path of the pair, as \"download/conus\" for conus.las and conus.los")
-        ->required()
-        ->option_text(" ");
-    import.add_option("--name", m_name, "Name of the new pair; that of the source where not given")->type_name("NAME");
-    import.add_option("--to", m_directory, "Directory of the new pair; this program's where not given")
-        ->type_name("DIRECTORY");
-    import.add_flag("--replace", m_replace, "Replace files that are there")->disable_flag_override();
+GridCommand::GridCommand(CommandLine line)
+    : m_check(line.subcommand("check", "Show header, extent and value ranges of a pair")),
+      m_import(line.subcommand("import", "Make a pair of the usual convention into one for this library")) {
+    line.requireSubcommand();
+    m_check.argument("NAME", m_checked, "A grid beside this program, as \"conus\", or a path, as \"grids/conus\"")
+        .require();
+    m_import.argument("SOURCE", m_imported, "Path of the pair, as \"download/conus\" for conus.las and conus.los")
+        .require();
+    m_import.option("--name", m_name, "NAME", "Name of the new pair; that of the source where not given");
+    m_import.option("--to", m_directory, "DIRECTORY", "Directory of the new pair; this program's where not given");
+    m_import.flag("--replace", m_replace, "Replace files that are there");
 }
 
 /// A path without its ending, where that is one of a grid's.
@@ -70,7 +55,7 @@ int GridCommand::import(Output& output) const {
 }
 
 int GridCommand::run(Output& output) {
-    if (m_app.got_subcommand("import"))
+    if (m_import.isGiven())
         return import(output);
     bool const isPath = m_checked.find('/') != std::string::npos;
     checkGrids((isPath ? "" : gridDirectory()) + withoutEnding(m_checked).string(), output);
@@ -79,8 +64,8 @@ int GridCommand::run(Output& output) {
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeGrid(CLI::App& app) {
-    app.footer(
+std::unique_ptr<Subcommand> makeGrid(CommandLine line) {
+    line.footer(
         R"(The datums of the method NADCON shift points by a pair of files, conus.LAS and conus.LOS or prvi.LAS and prvi.LOS,
 which must stand in the directory of the running program: for this command beside zrproj itself, for a program that
 links the library beside that one. No other place is looked at.
@@ -92,7 +77,7 @@ imported first.
 Example: published grids in the directory download
   zrproj grid import download/conus
   zrproj grid check conus)");
-    return std::make_unique<GridCommand>(app);
+    return std::make_unique<GridCommand>(line);
 }
 
 } // namespace ZrProj::Command

@@ -4,8 +4,6 @@
 #include "cli/files/map_info.h"
 #include "cli/projection/parameter_rows.h"
 
-#include <CLI/CLI.hpp>
-
 #include <array>
 
 namespace ZrProj::Command {
@@ -103,11 +101,10 @@ void writeSources(Output& output, std::string const& image, MapInfo const& info)
 
 class Info : public Subcommand {
 public:
-    explicit Info(CLI::App& app) {
-        app.add_option("FILE", m_file,
-                       "A reference, RSF or world file, or an image: a TIFF file, or one that has such files")
-            ->option_text(" ")
-            ->required();
+    explicit Info(CommandLine line) {
+        line.argument("FILE", m_file,
+                      "A reference, RSF or world file, or an image: a TIFF file, or one that has such files")
+            .require();
     }
 
     int run(Output& output) override {
@@ -142,9 +139,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeInfo(CLI::App& app) {
-    app.footer("Example: what the files beside a scanned map say\n  zrproj info map.tif");
-    return std::make_unique<Info>(app);
+std::unique_ptr<Subcommand> makeInfo(CommandLine line) {
+    line.footer("Example: what the files beside a scanned map say\n  zrproj info map.tif");
+    return std::make_unique<Info>(line);
 }
 
 } // namespace ZrProj::Command

@@ -6,9 +6,7 @@
 #include "cli/projection/state_plane.h"
 #include "cli/text/table.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <array>
@@ -154,11 +152,10 @@ void filter(Table& table, std::string const& text) {
 
 class List : public Subcommand {
 public:
-    explicit List(CLI::App& app) {
-        app.add_option("CATALOGUE", m_catalogue, "projections, parameters, ellipsoids, zones (State Plane) or datums")
-            ->required()
-            ->option_text(" ");
-        app.add_option("TEXT", m_text, "Only the entries that have this text in them")->option_text(" ");
+    explicit List(CommandLine line) {
+        line.argument("CATALOGUE", m_catalogue, "projections, parameters, ellipsoids, zones (State Plane) or datums")
+            .require();
+        line.argument("TEXT", m_text, "Only the entries that have this text in them");
     }
 
     int run(Output& output) override {
@@ -176,9 +173,9 @@ private:
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeList(CLI::App& app) {
-    app.footer("Example: the zones of California with their codes\n  zrproj list zones california");
-    return std::make_unique<List>(app);
+std::unique_ptr<Subcommand> makeList(CommandLine line) {
+    line.footer("Example: the zones of California with their codes\n  zrproj list zones california");
+    return std::make_unique<List>(line);
 }
 
 } // namespace ZrProj::Command

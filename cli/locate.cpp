@@ -5,9 +5,7 @@
 #include "cli/points/conversion.h"
 #include "cli/projection/options.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <cstdio>
 
@@ -18,18 +16,14 @@ constexpr int degreeDecimals = 9;
 
 class Locate : public Subcommand {
 public:
-    explicit Locate(CLI::App& app) {
-        app.add_option("IMAGE", m_image, "The image; its side files and tags tell where it lies")
-            ->option_text(" ")
-            ->required();
-        app.add_option("FILE", m_files, "Files of image coordinates; standard input where none is given, and for -")
-            ->option_text(" ");
-        app.add_option("--columns", m_columns,
-                       "Columns of the coordinates, x first: numbers from 1, or names of the header")
-            ->type_name("X,Y")
-            ->group("Input and output");
-        m_projection.addTo(app);
-        m_projection.addParametersTo(app);
+    explicit Locate(CommandLine line) {
+        line.argument("IMAGE", m_image, "The image; its side files and tags tell where it lies").require();
+        line.arguments("FILE", m_files, "Files of image coordinates; standard input where none is given, and for -");
+        line.inGroup("Input and output")
+            .option("--columns", m_columns, "X,Y",
+                    "Columns of the coordinates, x first: numbers from 1, or names of the header");
+        m_projection.addTo(line);
+        m_projection.addParametersTo(line);
     }
 
     int run(Output& output) override {
@@ -86,13 +80,13 @@ private:
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeLocate(CLI::App& app) {
-    app.footer(
+std::unique_ptr<Subcommand> makeLocate(CommandLine line) {
+    line.footer(
         R"(Image coordinates are columns and rows of pixels from the upper left corner of the image, whose first pixel
 has its centre at 0.5, 0.5. Longitudes and latitudes are on the datum of the map.
 Example: the middle of a pixel
   echo 100.5 200.5 | zrproj locate scan.tif)");
-    return std::make_unique<Locate>(app);
+    return std::make_unique<Locate>(line);
 }
 
 } // namespace ZrProj::Command

@@ -1,16 +1,13 @@
 // The command zrproj.
 #include "cli/commands.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <array>
 #include <cerrno>
 #include <cstdio>
 #include <exception>
 #include <memory>
-#include <sstream>
 #include <vector>
 
 #include <unistd.h>
@@ -46,7 +43,7 @@ int complain(std::string const& message, int status) {
 struct CommandRow {
     char const* name;
     char const* description;
-    std::unique_ptr<Subcommand> (*make)(CLI::App& app);
+    std::unique_ptr<Subcommand> (*make)(CommandLine line);
 };
 
 constexpr std::array commandRows{
@@ -70,29 +67,29 @@ public:
     int run(int argc, char** argv);
 
 private:
-    int parsed();
-    int unparsed(CLI::ParseError const& error);
+    int runSubcommand();
     int finish(int status);
 
-    CLI::App m_app{"Converts points between longitude/latitude and map coordinates.", "zrproj"};
+    ProgramLine m_line{"zrproj", "Converts points between longitude/latitude and map coordinates.",
+                       "zrproj " ZRPROJ_VERSION};
+    std::vector<CommandLine> m_commandLines;             // by row
     std::vector<std::unique_ptr<Subcommand>> m_commands; // by row
     Output m_output{STDOUT_FILENO};
 };
 
 Main::Main() {
-    m_app.set_version_flag("--version", "zrproj " ZRPROJ_VERSION);
-    m_app.footer(overview);
-    m_app.get_formatter()->column_width(44);
-    for (CommandRow const& row : commandRows)
-        m_commands.push_back(row.make(*m_app.add_subcommand(row.name, row.description)));
+    m_line.command().footer(overview);
+    for (CommandRow const& row : commandRows) {
+        m_commandLines.push_back(m_line.command().subcommand(row.name, row.description));
+        m_commands.push_back(row.make(m_commandLines.back()));
+    }
 }
 
 int Main::run(int argc, char** argv) {
     try {
-        m_app.parse(argc, argv);
-        return finish(parsed());
-    } catch (CLI::ParseError const& error) {
-        return finish(unparsed(error));
+        std::string const text = m_line.read(argc, argv);
+        m_output << text;
+        return finish(text.empty() ? runSubcommand() : 0);
     } catch (UsageError const& error) {
         m_output.flush();
         return complain(error.what(), usageStatus);
@@ -101,20 +98,11 @@ int Main::run(int argc, char** argv) {
     }
 }
 
-int Main::parsed() {
-    for (std::size_t i = 0; i < commandRows.size(); ++i)
-        if (m_app.got_subcommand(commandRows[i].name))
+int Main::runSubcommand() {
+    for (std::size_t i = 0; i < m_commands.size(); ++i)
+        if (m_commandLines[i].isGiven())
             return m_commands[i]->run(m_output);
     return complain("no command; \"zrproj --help\" lists them", usageStatus);
-}
-
-/// Help and version, which the parser reports like errors, and real errors.
-int Main::unparsed(CLI::ParseError const& error) {
-    std::ostringstream out, errors;
-    if (m_app.exit(error, out, errors) != 0)
-        return complain(std::string(error.what()) + "; \"zrproj --help\" tells more", usageStatus);
-    m_output << out.str();
-    return 0;
 }
 
 /// Sees to it that a text that could not be written is no success.

@@ -9,9 +9,7 @@
 #include "cli/projection/parameters.h"
 #include "cli/text/number_field.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 namespace ZrProj::Command {
 namespace {
@@ -30,7 +28,7 @@ double readWithin(char const* option, std::string const& text, double low, doubl
 
 class Map : public Subcommand {
 public:
-    explicit Map(CLI::App& app);
+    explicit Map(CommandLine line);
     int run(Output& output) override;
 
 private:
@@ -42,31 +40,28 @@ private:
     ProjectionOptions m_projection;
     bool m_all = false;
     std::string m_graticule, m_ellipses, m_points, m_columns, m_title, m_bounds, m_landFile, m_size, m_output;
-    CLI::Option* m_titleOption;
-    CLI::Option* m_ellipsesOption;
+    Option m_titleOption, m_ellipsesOption;
     std::vector<Places> m_land;
 };
 
-Map::Map(CLI::App& app) {
-    auto const add = [&](char const* name, std::string& text, char const* type, char const* description) {
-        return app.add_option(name, text, description)->type_name(type)->group("Drawing");
-    };
-    app.add_flag("--all", m_all, "A sheet of all projections, instead of one")
-        ->disable_flag_override()
-        ->group("Projection");
-    m_projection.addTo(app);
-    add("--graticule", m_graticule, "DEGREES", "Meridians and parallels, so far apart (15); 0 for none");
-    m_ellipsesOption = add("--tissot", m_ellipses, "DEGREES", "Distortion ellipses, so far apart (30)")->expected(0, 1);
-    add("--points", m_points, "FILE",
-        "Points to mark: longitude, latitude, and a name if you like; - is standard input");
-    add("--columns", m_columns, "X,Y",
-        "Columns of the points, longitude first: numbers from 1, or names of the header");
-    m_titleOption = add("--title", m_title, "TEXT", "Title (the projection's name); \"\" for none");
-    add("--bounds", m_bounds, "W,S,E,N", "What to draw, in degrees, instead of all that can be drawn well");
-    add("--land", m_landFile, "FILE", "Rings of land: longitude, latitude; an empty line between rings; none: no land");
-    add("--size", m_size, "PIXELS", "Length of the map's longer side (900), or width of the sheet (1600)");
-    add("-o,--output", m_output, "FILE", "The SVG file to write; standard output where none is given");
-    m_projection.addParametersTo(app);
+Map::Map(CommandLine line) {
+    line.inGroup("Projection").flag("--all", m_all, "A sheet of all projections, instead of one");
+    m_projection.addTo(line);
+    CommandLine const drawing = line.inGroup("Drawing");
+    drawing.option("--graticule", m_graticule, "DEGREES", "Meridians and parallels, so far apart (15); 0 for none");
+    m_ellipsesOption = drawing.option("--tissot", m_ellipses, "DEGREES", "Distortion ellipses, so far apart (30)");
+    m_ellipsesOption.allowNoValue();
+    drawing.option("--points", m_points, "FILE",
+                   "Points to mark: longitude, latitude, and a name if you like; - is standard input");
+    drawing.option("--columns", m_columns, "X,Y",
+                   "Columns of the points, longitude first: numbers from 1, or names of the header");
+    m_titleOption = drawing.option("--title", m_title, "TEXT", "Title (the projection's name); \"\" for none");
+    drawing.option("--bounds", m_bounds, "W,S,E,N", "What to draw, in degrees, instead of all that can be drawn well");
+    drawing.option("--land", m_landFile, "FILE",
+                   "Rings of land: longitude, latitude; an empty line between rings; none: no land");
+    drawing.option("--size", m_size, "PIXELS", "Length of the map's longer side (900), or width of the sheet (1600)");
+    drawing.option("-o,--output", m_output, "FILE", "The SVG file to write; standard output where none is given");
+    m_projection.addParametersTo(line);
 }
 
 double Map::graticule() const {
@@ -98,7 +93,7 @@ MapContent Map::content() {
         result.land = &m_land;
     }
     result.graticule = graticule();
-    if (m_ellipsesOption->count() > 0)
+    if (m_ellipsesOption.isGiven())
         result.ellipses = m_ellipses.empty() ? usualEllipses : readWithin("--tissot", m_ellipses, 1, 90);
     if (!m_points.empty())
         result.points = readMapPoints(m_points, m_columns);
@@ -112,7 +107,7 @@ MapPicture Map::picture() {
         m_size.empty() ? (m_all ? usualSheetSize : usualSize) : readWithin("--size", m_size, 100, 10000);
     if (m_all && m_projection.any())
         throw UsageError("--all has no place beside an option that names one projection");
-    if (m_all && (m_titleOption->count() > 0 || !m_bounds.empty()))
+    if (m_all && (m_titleOption.isGiven() || !m_bounds.empty()))
         throw UsageError("--title and --bounds are for one map, not for --all");
     if (m_all)
         return drawSheet(content(), size);
@@ -120,7 +115,7 @@ MapPicture Map::picture() {
     if (choice.zonePerPoint)
         throw UsageError("--utm auto is one projection for each zone; name a zone to draw it");
     MapContent drawn = content();
-    drawn.title = m_titleOption->count() > 0 ? m_title : projectionName(choice.record.Type);
+    drawn.title = m_titleOption.isGiven() ? m_title : projectionName(choice.record.Type);
     return drawMap(choice.record, drawn, size, "");
 }
 
@@ -136,12 +131,12 @@ int Map::run(Output& output) {
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeMap(CLI::App& app) {
-    app.footer(R"(Examples:
+std::unique_ptr<Subcommand> makeMap(CommandLine line) {
+    line.footer(R"(Examples:
   zrproj map --projection robinson --output world.svg
   zrproj map --projection stereographic --lat0 90 --tissot --output arctic.svg
   zrproj map --utm 17N --bounds -85,40,-74,47 --graticule 1 --points cities.csv --output ontario.svg)");
-    return std::make_unique<Map>(app);
+    return std::make_unique<Map>(line);
 }
 
 } // namespace ZrProj::Command

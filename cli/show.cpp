@@ -3,18 +3,16 @@
 #include "cli/projection/options.h"
 #include "cli/projection/parameter_rows.h"
 #include "cli/projection/state_plane.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 namespace ZrProj::Command {
 namespace {
 
 class Show : public Subcommand {
 public:
-    explicit Show(CLI::App& app) {
-        m_projection.addTo(app);
-        m_projection.addParametersTo(app);
+    explicit Show(CommandLine line) {
+        m_projection.addTo(line);
+        m_projection.addParametersTo(line);
     }
 
     int run(Output& output) override {
@@ -48,9 +46,10 @@ private:
 
 } // namespace
 
-std::unique_ptr<Subcommand> makeShow(CLI::App& app) {
-    app.footer("Example: what a State Plane zone is made of\n  zrproj show --state-plane \"California I\" --year 1927");
-    return std::make_unique<Show>(app);
+std::unique_ptr<Subcommand> makeShow(CommandLine line) {
+    line.footer(
+        "Example: what a State Plane zone is made of\n  zrproj show --state-plane \"California I\" --year 1927");
+    return std::make_unique<Show>(line);
 }
 
 } // namespace ZrProj::Command

@@ -1,7 +1,7 @@
 #include "cli/datum/converter.h"
 
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <array>

@@ -2,7 +2,7 @@
 
 #include "cli/projection/name_match.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <array>

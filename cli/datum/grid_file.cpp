@@ -2,7 +2,7 @@
 
 #include "cli/text/number_field.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <array>
 #include <cerrno>

@@ -3,7 +3,7 @@
 #include "cli/datum/grid_fit.h"
 #include "cli/files/replacement_file.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <array>
 #include <cerrno>

@@ -1,9 +1,7 @@
 #include "cli/datum/options.h"
 
 #include "cli/datum/definition.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 namespace ZrProj::Command {
 namespace {
@@ -28,15 +26,13 @@ constexpr Names namesOf(Direction direction) {
 
 } // namespace
 
-void DatumOptions::addTo(CLI::App& app) {
+void DatumOptions::addTo(CommandLine line) {
     Names const names = namesOf(m_direction);
-    app.add_option(names.from, m_from, names.fromText)->type_name("NAME")->group("Datums");
-    app.add_option(names.to, m_to, names.toText)->type_name("NAME")->group("Datums");
-    app.add_option("--define", m_definitions,
-                   "A datum for this run: \"NAME: method=molodensky, ellipsoid=..., dx=...\"")
-        ->type_name("DATUM")
-        ->allow_extra_args(false)
-        ->group("Datums");
+    CommandLine const datums = line.inGroup("Datums");
+    datums.option(names.from, m_from, "NAME", names.fromText);
+    datums.option(names.to, m_to, "NAME", names.toText);
+    datums.repeatedOption("--define", m_definitions, "DATUM",
+                          "A datum for this run: \"NAME: method=molodensky, ellipsoid=..., dx=...\"");
 }
 
 std::vector<Datum> DatumOptions::defined() const {

@@ -3,14 +3,11 @@
 
 #include "cli/datum/converter.h"
 #include "cli/points/header.h"
+#include "cli/text/command_line.h"
 
 #include <optional>
 #include <string>
 #include <vector>
-
-namespace CLI {
-class App;
-} // namespace CLI
 
 namespace ZrProj::Command {
 
@@ -21,7 +18,7 @@ public:
     explicit DatumOptions(Direction direction) : m_direction(direction) {}
 
     /// Adds the options to a subcommand. This object must stay where it is until they were parsed.
-    void addTo(CLI::App& app);
+    void addTo(CommandLine line);
 
     /// What they ask for; nothing where no datum is to be changed. Throws UsageError when it cannot be followed.
     std::optional<DatumShift> shift() const;

@@ -5,7 +5,7 @@
 #include "cli/points/coordinate.h"
 #include "cli/text/number_field.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <array>

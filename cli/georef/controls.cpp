@@ -5,7 +5,7 @@
 #include "cli/text/line_reader.h"
 #include "cli/text/number_field.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <array>

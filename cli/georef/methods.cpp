@@ -1,7 +1,7 @@
 #include "cli/georef/methods.h"
 
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 

@@ -1,7 +1,7 @@
 #include "cli/map/frame.h"
 
 #include "cli/map/distortion.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <cmath>

@@ -3,7 +3,7 @@
 #include "cli/files/input_file.h"
 #include "cli/points/rows.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <array>

@@ -1,7 +1,7 @@
 #include "cli/map/projection.h"
 
 #include "cli/projection/parameters.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <cfloat>

@@ -2,7 +2,7 @@
 
 #include "cli/projection/parameters.h"
 #include "cli/projection/state_plane.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <cfloat>

@@ -2,7 +2,7 @@
 
 #include "cli/files/input_file.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
+#include "cli/text/usage_error.h"
 
 namespace ZrProj::Command {
 namespace {

@@ -5,9 +5,7 @@
 #include "cli/projection/state_plane.h"
 #include "cli/projection/utm_zone.h"
 #include "cli/text/text.h"
-#include "cli/usage_error.h"
-
-#include <CLI/CLI.hpp>
+#include "cli/text/usage_error.h"
 
 #include <algorithm>
 #include <array>
@@ -80,45 +78,42 @@ void check(PROJDATA const& record) {
 
 ProjectionOptions::ProjectionOptions() {
     for (Parameter const& parameter : parameters())
-        m_values.push_back({parameter.id, nullptr, ""});
+        m_values.push_back({parameter.id, {}, ""});
 }
 
-void ProjectionOptions::addTo(CLI::App& app) {
-    auto const add = [&](char const* name, std::string& text, char const* type, char const* description) {
-        return app.add_option(name, text, description)->type_name(type)->group("Projection");
-    };
-    m_utmOption = add("--utm", m_utm, "ZONE", "UTM zone, as in 17N; auto: each point in its own zone");
+void ProjectionOptions::addTo(CommandLine line) {
+    CommandLine const group = line.inGroup("Projection");
+    m_utmOption = group.option("--utm", m_utm, "ZONE", "UTM zone, as in 17N; auto: each point in its own zone");
     m_statePlaneOption =
-        add("--state-plane", m_statePlane, "ZONE", "US State Plane zone, by name, USGS code or POSC code");
-    m_yearOption = add("--year", m_year, "YEAR", "Definition of the State Plane zone: 1927 or 1983 (the default)");
-    m_likeOption = add("--like", m_like, "FILE", "The projection of a map: its reference file, or its image");
+        group.option("--state-plane", m_statePlane, "ZONE", "US State Plane zone, by name, USGS code or POSC code");
+    m_yearOption =
+        group.option("--year", m_year, "YEAR", "Definition of the State Plane zone: 1927 or 1983 (the default)");
+    m_likeOption = group.option("--like", m_like, "FILE", "The projection of a map: its reference file, or its image");
     Value& projection = m_values.front();
-    projection.option = add("-p,--projection", projection.text, "NAME",
-                            "Any projection, by name (a unique part will do) or number, with its parameters");
+    projection.option = group.option("-p,--projection", projection.text, "NAME",
+                                     "Any projection, by name (a unique part will do) or number, with its parameters");
 }
 
-void ProjectionOptions::addParametersTo(CLI::App& app) {
+void ProjectionOptions::addParametersTo(CommandLine line) {
+    CommandLine const group = line.inGroup("Parameters of the projection");
     for (Value& value : m_values) {
         if (value.id == ProjParamType)
             continue;
         Parameter const& parameter = Command::parameter(value.id);
         bool const two = parameter.option != parameter.longOption;
         std::string const names = two ? parameter.option + ',' + parameter.longOption : parameter.option;
-        if (parameter.quantity == Quantity::Flag)
-            value.option = app.add_flag(names, parameter.name)->disable_flag_override();
-        else
-            value.option =
-                app.add_option(names, value.text, description(parameter))->type_name(placeholder(parameter.quantity));
-        value.option->group("Parameters of the projection");
+        value.option = parameter.quantity == Quantity::Flag
+                           ? group.flag(names, parameter.name)
+                           : group.option(names, value.text, placeholder(parameter.quantity), description(parameter));
     }
 }
 
 bool ProjectionOptions::given(int id) const {
-    return value(id).option->count() > 0;
+    return value(id).option.isGiven();
 }
 
 std::optional<int> ProjectionOptions::year() const {
-    if (m_yearOption->count() == 0)
+    if (!m_yearOption.isGiven())
         return std::nullopt;
     if (m_year != "1927" && m_year != "1983")
         throw UsageError("--year: " + inQuotes(m_year) + " is neither 1927 nor 1983");
@@ -144,7 +139,7 @@ ProjType ProjectionOptions::givenProjection() const {
 
 /// Sets the projection's type, and what a zone tells of it.
 void ProjectionOptions::startFrom(ProjectionChoice& choice) const {
-    bool const utm = m_utmOption->count() > 0, statePlane = m_statePlaneOption->count() > 0;
+    bool const utm = m_utmOption.isGiven(), statePlane = m_statePlaneOption.isGiven();
     if (utm + statePlane + given(ProjParamType) > 1)
         throw UsageError("more than one projection; give one of --utm, --state-plane and --projection");
     auto const zoneYear = year();
@@ -201,15 +196,15 @@ void ProjectionOptions::setValues(PROJDATA& record) const {
 }
 
 bool ProjectionOptions::any() const {
-    return m_utmOption->count() + m_statePlaneOption->count() + m_yearOption->count() + m_likeOption->count() > 0 ||
-           std::ranges::any_of(m_values, [](Value const& value) { return value.option->count() > 0; });
+    return m_utmOption.isGiven() || m_statePlaneOption.isGiven() || m_yearOption.isGiven() || m_likeOption.isGiven() ||
+           std::ranges::any_of(m_values, [](Value const& value) { return value.option.isGiven(); });
 }
 
 /// The projection that a file tells, with all of its parameters.
 PROJDATA ProjectionOptions::projectionLike() const {
-    for (CLI::Option const* option : {m_utmOption, m_statePlaneOption, m_yearOption})
-        if (option->count() > 0)
-            throw UsageError(option->get_name() + " has no place beside --like, which tells it");
+    for (Option const& option : {m_utmOption, m_statePlaneOption, m_yearOption})
+        if (option.isGiven())
+            throw UsageError(option.name() + " has no place beside --like, which tells it");
     for (Value const& value : m_values)
         if (given(value.id))
             throw UsageError(parameter(value.id).option + " has no place beside --like, which tells it");
@@ -221,7 +216,7 @@ PROJDATA ProjectionOptions::projectionLike() const {
 
 ProjectionChoice ProjectionOptions::choice(Figure const& standard) const {
     ProjectionChoice choice;
-    if (m_likeOption->count() > 0) {
+    if (m_likeOption.isGiven()) {
         choice.record = projectionLike();
         choice.unit = takeUnit(choice.record);
         check(choice.record);

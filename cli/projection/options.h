@@ -4,6 +4,7 @@
 
 #include "cli/datum/datums.h"
 #include "cli/projection/units.h"
+#include "cli/text/command_line.h"
 
 #include <zrproj/zrproj.h>
 
@@ -11,11 +12,6 @@
 #include <optional>
 #include <string>
 #include <vector>
-
-namespace CLI {
-class App;
-class Option;
-} // namespace CLI
 
 namespace ZrProj::Command {
 
@@ -33,8 +29,8 @@ public:
 
     /// Add the options to a subcommand: those that name a projection, and those of its parameters. This object must
     /// stay where it is until they were parsed.
-    void addTo(CLI::App& app);
-    void addParametersTo(CLI::App& app);
+    void addTo(CommandLine line);
+    void addParametersTo(CommandLine line);
 
     /// Whether any of the options was given.
     bool any() const;
@@ -49,7 +45,7 @@ public:
 private:
     struct Value {
         int id;
-        CLI::Option* option = nullptr;
+        Option option;
         std::string text;
     };
 
@@ -65,10 +61,7 @@ private:
     void setValues(PROJDATA& record) const;
 
     std::vector<Value> m_values; // one a catalogue parameter, in catalogue order
-    CLI::Option* m_utmOption = nullptr;
-    CLI::Option* m_statePlaneOption = nullptr;
-    CLI::Option* m_yearOption = nullptr;
-    CLI::Option* m_likeOption = nullptr;
+    Option m_utmOption, m_statePlaneOption, m_yearOption, m_likeOption;
     std::string m_utm, m_statePlane, m_year, m_like;
 };
 
