@@ -1,5 +1,5 @@
 // The command zrproj.
-#include "cli/commands.h"
+#include "cli/commands/commands.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
 

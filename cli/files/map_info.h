@@ -1,9 +1,11 @@
 // What files say of a map: its projection, datum and georeference, and which file said so.
 #pragma once
 
+#include <zrproj/georef.h>
 #include <zrproj/zrproj.h>
 
 #include <cstdint>
+#include <optional>
 #include <string>
 #include <utility>
 #include <vector>
@@ -82,5 +84,21 @@ MapInfo readMap(std::string const& file);
 
 /// Takes from a later file what the earlier ones did not tell.
 void complete(MapInfo& info, MapInfo&& later);
+
+/// On the average, in the map's unit and in pixels.
+struct ControlMiss {
+    double onMap = 0, pixels = 0;
+};
+
+/// That of a method's fit to the controls of a record; nothing where the fit cannot be made.
+std::optional<ControlMiss> controlMiss(GEOREF const& georef, TransformMethod method);
+
+/// For people: "12.500 (2.50 pixels) on the average".
+std::string missText(ControlMiss const& miss);
+
+/// Whether points of an image are plainly wrong by such a fit.
+inline bool isWide(ControlMiss const& miss) {
+    return !(miss.pixels <= 1);
+}
 
 } // namespace ZrProj::Command

@@ -1,12 +1,33 @@
-// Where the library finds and leaves a side file that its user may call anything.
+// A directory that is there while its object is.
 #pragma once
 
-#include "cli/files/replacement_file.h"
-#include "cli/files/scratch_directory.h"
+#include "cli/files/plain_file.h"
 
+#include <filesystem>
 #include <string>
 
 namespace ZrProj::Command {
+
+/// A directory that is there while its object is.
+class ScratchDirectory {
+public:
+    /// Makes it within `parent`. Throws std::runtime_error.
+    explicit ScratchDirectory(std::filesystem::path const& parent);
+    ~ScratchDirectory();
+    ScratchDirectory(ScratchDirectory const&) = delete;
+    ScratchDirectory& operator=(ScratchDirectory const&) = delete;
+
+    std::string file(char const* name) const { return (m_path / name).string(); }
+
+private:
+    std::filesystem::path m_path;
+};
+
+/// Where the system keeps temporary files. Throws std::runtime_error where there is no such place.
+std::filesystem::path temporaryDirectory();
+
+/// The directory that a file is in.
+std::filesystem::path directoryOf(std::string const& file);
 
 /// The library finds a side file by its image's name; here the user has named the file itself. So it is read and
 /// written on a stage, where it has the name that belongs to the image "map.tif".

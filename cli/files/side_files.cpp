@@ -1,7 +1,6 @@
 #include "cli/files/side_files.h"
 
-#include "cli/files/control_miss.h"
-#include "cli/files/scratch_directory.h"
+#include "cli/files/map_info.h"
 #include "cli/files/side_file_stage.h"
 #include "cli/text/text.h"
 

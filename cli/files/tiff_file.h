@@ -1,5 +1,7 @@
-// The GeoTIFF tags of TIFF files.
+// TIFF files as files that tell of a map: by their GeoTIFF tags.
 #pragma once
+
+#include "cli/files/map_info.h"
 
 #include <zrproj/zrproj.h>
 
@@ -25,5 +27,9 @@ TiffImage readTiff(std::string const& name);
 /// Puts GeoTIFF tags in the place of those that the first image of a TIFF file has. The file is replaced as a whole, or
 /// left as it is. Throws std::runtime_error when it cannot be written.
 void writeTiffTags(std::string const& name, std::span<ZrBitmapTag const> tags);
+
+/// Reads and writes the GeoTIFF tags of a TIFF file that is there. What the written records do not tell stays as it is
+/// in the file.
+FileFormat const& tiffFormat();
 
 } // namespace ZrProj::Command

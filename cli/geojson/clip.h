@@ -1,8 +1,8 @@
-// Geometries cut to what a projection's map shows.
+// Geometries cut to what a projection's map shows, and rings grouped to polygons.
 #pragma once
 
 #include "cli/geojson/object.h"
-#include "cli/projection/preclip.h"
+#include "cli/model/projection.h"
 
 #include <vector>
 
@@ -36,5 +36,9 @@ Coordinates linesAsCoordinates(Paths const& lines);
 /// The coordinates of a Polygon, made of one polygon or none, and of a MultiPolygon.
 Coordinates polygonAsCoordinates(std::vector<Paths> const& polygons);
 Coordinates polygonsAsCoordinates(std::vector<Paths> const& polygons);
+
+/// The polygons that rings bound by the even-odd rule; the rings must not cross. Each polygon has its outer ring first,
+/// counter-clockwise, and then its holes, clockwise. Rings of less than three points are dropped.
+std::vector<Paths> groupRings(Paths rings);
 
 } // namespace ZrProj::Command

@@ -1,9 +1,9 @@
 #include "cli/geojson/conversion.h"
 
-#include "cli/files/input_file.h"
-#include "cli/geojson/polygon_rings.h"
-#include "cli/points/coordinate.h"
-#include "cli/text/number_field.h"
+#include "cli/files/plain_file.h"
+#include "cli/geojson/clip.h"
+#include "cli/points/layout.h"
+#include "cli/text/numbers.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
 

@@ -4,7 +4,6 @@
 #include "cli/geojson/clip.h"
 #include "cli/geojson/reader.h"
 #include "cli/points/conversion.h"
-#include "cli/points/progress.h"
 #include "cli/points/report.h"
 
 #include <optional>

@@ -1,7 +1,6 @@
 #include "cli/geojson/reader.h"
 
-#include "cli/geojson/coordinates_builder.h"
-#include "cli/geojson/json_copy.h"
+#include "cli/geojson/builders.h"
 #include "cli/text/text.h"
 
 #include <nlohmann/json.hpp>

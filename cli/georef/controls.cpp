@@ -1,9 +1,9 @@
 #include "cli/georef/controls.h"
 
-#include "cli/files/input_file.h"
+#include "cli/files/plain_file.h"
 #include "cli/points/fields.h"
 #include "cli/text/line_reader.h"
-#include "cli/text/number_field.h"
+#include "cli/text/numbers.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
 

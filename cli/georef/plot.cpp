@@ -3,7 +3,6 @@
 #include "cli/text/output.h"
 #include "cli/text/svg.h"
 #include "cli/text/text.h"
-#include "cli/text/xml_text.h"
 
 #include <algorithm>
 #include <cfloat>

@@ -1,7 +1,7 @@
 #include "cli/georef/report.h"
 
 #include "cli/georef/coefficients.h"
-#include "cli/text/table.h"
+#include "cli/text/output.h"
 
 #include <algorithm>
 #include <array>

@@ -111,4 +111,117 @@ std::vector<MapPoint> chordsOf(std::span<PROJPOINT const> places, std::span<MapP
     return std::move(chords.points);
 }
 
+namespace {
+
+/// How far a point lies inside of each side of the box.
+std::array<double, 4> depths(MapPoint const& p, MapBox const& box) {
+    return {p.x - box.left, box.right - p.x, p.y - box.low, box.high - p.y};
+}
+
+MapPoint along(MapPoint const& a, MapPoint const& b, double t) {
+    return {a.x + t * (b.x - a.x), a.y + t * (b.y - a.y)};
+}
+
+struct Range {
+    double from = 0, to = 1;
+};
+
+/// Where an edge enters the box and where it leaves it, as parts of its length; from > to when it stays outside.
+Range rangeInside(MapPoint const& a, MapPoint const& b, MapBox const& box) {
+    auto const deepA = depths(a, box), deepB = depths(b, box);
+    Range range;
+    for (std::size_t i = 0; i < deepA.size(); ++i) {
+        if (deepA[i] < 0 && deepB[i] < 0)
+            return {1, 0};
+        if (deepA[i] < 0)
+            range.from = std::max(range.from, deepA[i] / (deepA[i] - deepB[i]));
+        else if (deepB[i] < 0)
+            range.to = std::min(range.to, deepA[i] / (deepA[i] - deepB[i]));
+    }
+    return range;
+}
+
+std::vector<MapPoint> clipAtSide(std::span<MapPoint const> ring, MapBox const& box, std::size_t side) {
+    std::vector<MapPoint> result;
+    result.reserve(ring.size());
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        MapPoint const &a = ring[i], &b = ring[i + 1 == ring.size() ? 0 : i + 1];
+        double const deepA = depths(a, box)[side], deepB = depths(b, box)[side];
+        if (deepA >= 0)
+            result.push_back(a);
+        if ((deepA >= 0) != (deepB >= 0))
+            result.push_back(along(a, b, deepA / (deepA - deepB)));
+    }
+    return result;
+}
+
+bool liesInside(std::span<MapPoint const> points, MapBox const& box) {
+    return std::all_of(points.begin(), points.end(), [&](MapPoint const& p) { return box.holds(p); });
+}
+
+} // namespace
+
+std::vector<std::vector<MapPoint>> clipLine(std::span<MapPoint const> line, MapBox const& box) {
+    std::vector<std::vector<MapPoint>> pieces;
+    bool open = false; // whether the last piece goes on
+    for (std::size_t i = 0; i + 1 < line.size(); ++i) {
+        MapPoint const &a = line[i], &b = line[i + 1];
+        Range const range = rangeInside(a, b, box);
+        if (range.from > range.to) {
+            open = false;
+            continue;
+        }
+        if (!open || range.from > 0)
+            pieces.push_back({along(a, b, range.from)});
+        pieces.back().push_back(range.to < 1 ? along(a, b, range.to) : b);
+        open = range.to >= 1;
+    }
+    return pieces;
+}
+
+std::vector<MapPoint> clipRing(std::vector<MapPoint> ring, MapBox const& box) {
+    if (liesInside(ring, box))
+        return ring;
+    for (std::size_t side = 0; side < 4; ++side)
+        ring = clipAtSide(ring, box, side);
+    return ring;
+}
+
+namespace {
+
+constexpr double opposite = -0.9; // the cosine of the angle between two directions
+
+struct Step {
+    MapPoint from, to;
+};
+
+/// Whether a step passes the middle of another one, the other way round.
+bool runsBack(Step const& step, Step const& other, double width) {
+    MapPoint const middle{(step.from.x + step.to.x) / 2, (step.from.y + step.to.y) / 2};
+    MapPoint const a{step.to.x - step.from.x, step.to.y - step.from.y};
+    MapPoint const b{other.to.x - other.from.x, other.to.y - other.from.y};
+    return a.x * b.x + a.y * b.y < opposite * std::hypot(a.x, a.y) * std::hypot(b.x, b.y) &&
+           distanceFrom(other.from, other.to, middle) <= width;
+}
+
+} // namespace
+
+std::vector<std::vector<MapPoint>> withoutSeams(std::vector<std::vector<MapPoint>> const& lines, double width) {
+    std::vector<Step> steps;
+    for (auto const& line : lines)
+        for (std::size_t i = 0; i + 1 < line.size(); ++i)
+            steps.push_back({line[i], line[i + 1]});
+    std::vector<std::vector<MapPoint>> result;
+    Step const* last = nullptr; // the step before, if it is in the result
+    for (Step const& step : steps) {
+        bool const seam = std::ranges::any_of(steps, [&](Step const& other) { return runsBack(step, other, width); });
+        if (!seam && !(last && last->to.x == step.from.x && last->to.y == step.from.y))
+            result.push_back({step.from});
+        if (!seam)
+            result.back().push_back(step.to);
+        last = seam ? nullptr : &step;
+    }
+    return result;
+}
+
 } // namespace ZrProj::Command

@@ -1,4 +1,4 @@
-// Curves of a map as chords, so close that the eye sees no corner.
+// Curves of a map as chords, so close that the eye sees no corner, and what of them is to be seen on the paper.
 #pragma once
 
 #include "cli/map/projection.h"
@@ -32,5 +32,16 @@ double distanceFrom(MapPoint const& a, MapPoint const& b, MapPoint const& p);
 /// not repeated.
 std::vector<MapPoint> chordsOf(std::span<PROJPOINT const> places, std::span<MapPoint const> ends, bool closed,
                                Placing const& placing, CurveRules const& rules);
+
+/// The pieces of a line inside a box.
+std::vector<std::vector<MapPoint>> clipLine(std::span<MapPoint const> line, MapBox const& box);
+
+/// The part of a ring inside a box, as one ring, whose pieces are joined along the box's edges; for filling. After
+/// Sutherland and Hodgman, Reentrant Polygon Clipping, 1974.
+std::vector<MapPoint> clipRing(std::vector<MapPoint> ring, MapBox const& box);
+
+/// The parts of an outline's lines that do not run back along another part of it within `width`: there the map goes on,
+/// over a seam of the plane that it was cut from, or over a strip that is too narrow to be seen.
+std::vector<std::vector<MapPoint>> withoutSeams(std::vector<std::vector<MapPoint>> const& lines, double width);
 
 } // namespace ZrProj::Command

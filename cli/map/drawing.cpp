@@ -1,8 +1,8 @@
 #include "cli/map/drawing.h"
 
-#include "cli/map/layers.h"
+#include "cli/map/paper.h"
+#include "cli/map/projection.h"
 #include "cli/text/text.h"
-#include "cli/text/xml_text.h"
 
 #include <algorithm>
 #include <cmath>
@@ -10,11 +10,108 @@
 namespace ZrProj::Command {
 namespace {
 
-constexpr double margin = 100, titleHeight = 260;
+constexpr double circleRadius = 0.05;  // of a distortion ellipse, in radii of the ellipsoid
+constexpr double largestEllipse = 0.1; // of the paper; what is larger, beside an antipode, is no circle's picture
+constexpr double dotRadius = 22, labelHeight = 110, labelLetterWidth = 58;
 
 std::string number(double value) {
     return std::to_string(wholeUnits(value));
 }
+
+std::string element(SvgPath const& path, char const* attributes) {
+    return path.data().empty() ? "" : "<path " + std::string(attributes) + " d=\"" + path.data() + "\"/>\n";
+}
+
+/// From `low` to `high`, both of them and the multiples of `step` between.
+std::vector<double> multiples(double low, double high, double step) {
+    std::vector<double> result;
+    for (double k = std::ceil(low / step); k * step <= high; ++k)
+        result.push_back(k * step);
+    return result;
+}
+
+/// A circle is not turned: what direction its axes have is a matter of the last digits.
+std::string ellipse(MapPoint const& at, Ellipse const& shape) {
+    bool const circle = shape.first - shape.second < 1;
+    std::string const turn = circle ? "" : "rotate(" + number(-shape.turn) + ')';
+    return "<ellipse rx=\"" + number(shape.first) + "\" ry=\"" + number(shape.second) + "\" transform=\"translate(" +
+           number(at.x) + ' ' + number(at.y) + ')' + turn + "\"/>\n";
+}
+
+bool overlap(MapBox const& a, MapBox const& b) {
+    return a.left < b.right && b.left < a.right && a.low < b.high && b.low < a.high;
+}
+
+std::string seaLayer(MapPaper& paper) {
+    SvgPath path;
+    paper.addOutline(path);
+    return element(path, "fill=\"#dcecf6\"");
+}
+
+std::string landLayer(MapPaper& paper, std::vector<Places> const& land) {
+    SvgPath path;
+    for (Places const& ring : land)
+        paper.addArea(path, ring);
+    return element(path, "fill=\"#cdbf98\" stroke=\"#8c7f5a\" stroke-width=\"4\"");
+}
+
+std::string graticuleLayer(MapPaper& paper, double step) {
+    SvgPath path;
+    for (double const longitude : multiples(-180, 180 - step / 2, step))
+        paper.addLine(path, Places{{longitude, -90}, {longitude, 0}, {longitude, 90}});
+    for (double const latitude : multiples(-90 + step / 2, 90 - step / 2, step))
+        paper.addLine(path, Places{{-180, latitude}, {-90, latitude}, {0, latitude}, {90, latitude}, {180, latitude}});
+    return element(path, "fill=\"none\" stroke=\"#5f7c91\" stroke-opacity=\".6\" stroke-width=\"5\"");
+}
+
+/// What circles of 0.05 radii around every `step` degrees become, by the scales at their centres.
+std::string ellipseLayer(MapPaper& paper, double step) {
+    std::string ellipses;
+    double const radius = circleRadius * paper.map().record().MajorRadius * paper.unit();
+    for (double const latitude : multiples(-90 + step / 2, 90 - step / 2, step))
+        for (double const longitude : multiples(-180, 180 - step / 2, step)) {
+            auto const at = paper.find({longitude, latitude});
+            auto const scale = at ? localScale(paper.map(), at->place) : std::nullopt;
+            if (!scale)
+                continue;
+            Ellipse const shape = ellipseOf(*scale);
+            if (shape.first * radius < largestEllipse * std::max(paper.width(), paper.height()))
+                ellipses += ellipse(at->point, {shape.first * radius, shape.second * radius, shape.turn});
+        }
+    return "<g fill=\"#c0392b\" fill-opacity=\".35\" stroke=\"#c0392b\" stroke-width=\"5\">\n" + ellipses + "</g>\n";
+}
+
+std::string outlineLayer(MapPaper& paper) {
+    SvgPath path;
+    paper.addEdge(path);
+    return element(path, "fill=\"none\" stroke=\"#34495e\" stroke-width=\"10\"");
+}
+
+/// Points, with the names that fit between those before.
+std::string pointLayer(MapPaper& paper, std::vector<LabelledPlace> const& points) {
+    std::string dots, labels;
+    std::vector<MapBox> taken;
+    for (LabelledPlace const& point : points) {
+        auto const found = paper.find(point.place);
+        if (!found)
+            continue;
+        MapPoint const& at = found->point;
+        dots += "<circle cx=\"" + number(at.x) + "\" cy=\"" + number(at.y) + "\" r=\"" + number(dotRadius) + "\"/>\n";
+        double const left = at.x + 2 * dotRadius, low = at.y - labelHeight / 2;
+        MapBox const box{left, low, left + labelLetterWidth * static_cast<double>(characterCount(point.name)),
+                         low + labelHeight};
+        bool const fits = box.right < paper.width() &&
+                          std::none_of(taken.begin(), taken.end(), [&](MapBox const& b) { return overlap(box, b); });
+        if (point.name.empty() || !fits)
+            continue;
+        taken.push_back(box);
+        labels += "<text x=\"" + number(left) + "\" y=\"" + number(at.y + labelHeight / 3) + "\">" +
+                  xmlText(point.name) + "</text>\n";
+    }
+    return "<g fill=\"#a93226\">\n" + dots + "</g>\n<g font-size=\"100\" fill=\"#222\">\n" + labels + "</g>\n";
+}
+
+constexpr double margin = 100, titleHeight = 260;
 
 /// The map's rectangle, wider by `more` on every side.
 std::string rectangle(MapPaper const& paper, double more, char const* attributes) {

@@ -1,27 +1,13 @@
-// A map as a picture.
+// A map as a picture, drawn in layers.
 #pragma once
 
+#include "cli/map/content.h"
 #include "cli/map/projection.h"
 
 #include <array>
 #include <string>
 
 namespace ZrProj::Command {
-
-struct LabelledPlace {
-    PROJPOINT place;
-    std::string name; // may be empty
-};
-
-/// What to draw.
-struct MapContent {
-    std::vector<Places> const* land = nullptr; // none when null
-    double graticule = 0;                      // degrees between two lines; none when 0
-    double ellipses = 0;                       // degrees between two distortion ellipses; none when 0
-    std::vector<LabelledPlace> points;
-    std::string title;                           // none when empty
-    std::optional<std::array<double, 4>> bounds; // west, south, east, north, instead of the usual frame
-};
 
 /// A picture's elements, to stand in an <svg>; its units are tenths of a pixel.
 struct MapPicture {

@@ -1,18 +1,15 @@
-// A projection as a drawing uses it: what of lines and areas it shows, and where on the map that is.
+// A projection as a drawing uses it: what of lines and areas it shows, where on the map that is, and how it is
+// distorted there.
 #pragma once
 
-#include "cli/projection/preclip.h"
+#include "cli/model/projection.h"
+#include "cli/text/svg.h"
 
 #include <optional>
 #include <span>
 #include <vector>
 
 namespace ZrProj::Command {
-
-/// A place on the map, in its own units, or on the paper.
-struct MapPoint {
-    double x, y;
-};
 
 class MapProjection {
 public:
@@ -45,5 +42,23 @@ private:
     CProjector m_projector;
     PROJDATA m_record;
 };
+
+/// What a metre at a place becomes on the map: the steps to the east and to the north.
+struct LocalScale {
+    MapPoint east, north;
+
+    double areal() const { return east.x * north.y - east.y * north.x; }
+};
+
+/// By central differences, on the map's own ellipsoid; nothing at the poles and beside the map's edge.
+std::optional<LocalScale> localScale(MapProjection& map, PROJPOINT place);
+
+/// An ellipse: half of its axes, and how its first axis is turned from the x axis, in degrees.
+struct Ellipse {
+    double first, second, turn;
+};
+
+/// What a circle of radius 1 becomes.
+Ellipse ellipseOf(LocalScale const& scale);
 
 } // namespace ZrProj::Command

@@ -1,7 +1,7 @@
 #include "cli/points/point_converter.h"
 
-#include "cli/projection/parameters.h"
-#include "cli/projection/state_plane.h"
+#include "cli/model/parameters.h"
+#include "cli/model/zones.h"
 #include "cli/text/usage_error.h"
 
 #include <algorithm>

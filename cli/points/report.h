@@ -1,17 +1,38 @@
-// What went wrong with lines and points, for standard error and for the exit status.
+// What went wrong with lines and points, and how far a long conversion is: what standard error is told.
 #pragma once
 
 #include "cli/points/point_converter.h"
-#include "cli/points/progress.h"
 #include "cli/text/output.h"
 
 #include <array>
+#include <chrono>
 #include <cstdint>
 #include <string>
 #include <utility>
 
 namespace ZrProj::Command {
 
+/// A bar on the terminal that shows how far a long conversion is.
+class Progress {
+public:
+    /// total: bytes to read, 0 where that is not known. The bar shows only for large input, on a standard error that is
+    /// a terminal, and not on a terminal where the results themselves appear.
+    explicit Progress(unsigned long long total);
+    ~Progress() { hide(); }
+    Progress(Progress const&) = delete;
+    Progress& operator=(Progress const&) = delete;
+
+    void show(unsigned long long done);
+    /// Clears the bar's line, for a message or for good.
+    void hide();
+
+private:
+    unsigned long long m_total;
+    bool m_visible = false;
+    std::chrono::steady_clock::time_point m_next;
+};
+
+/// What went wrong with lines and points, for standard error and for the exit status.
 class Report {
 public:
     /// counted: what places are counted in, "line" or "feature".

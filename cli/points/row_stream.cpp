@@ -1,6 +1,6 @@
 #include "cli/points/row_stream.h"
 
-#include "cli/files/input_file.h"
+#include "cli/files/plain_file.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
 

@@ -1,11 +1,10 @@
 // Files of points in, files of points out: line by line, in blocks of rows.
 #pragma once
 
+#include "cli/points/conversion.h"
 #include "cli/points/layout.h"
-#include "cli/points/progress.h"
 #include "cli/points/report.h"
 #include "cli/points/rows.h"
-#include "cli/points/transform.h"
 
 #include <cstdint>
 #include <optional>

@@ -1,6 +1,6 @@
 #include "cli/points/rows.h"
 
-#include "cli/points/coordinate.h"
+#include "cli/points/layout.h"
 #include "cli/text/text.h"
 
 #include <algorithm>

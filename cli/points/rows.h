@@ -1,8 +1,8 @@
 // Lines with a point: taken apart, and written with the result.
 #pragma once
 
+#include "cli/points/conversion.h"
 #include "cli/points/layout.h"
-#include "cli/points/transform.h"
 #include "cli/text/line_reader.h"
 #include "cli/text/output.h"
 

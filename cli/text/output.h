@@ -1,9 +1,10 @@
-// Text on its way out.
+// Text on its way out, and tables for people to read.
 #pragma once
 
 #include <cstddef>
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ZrProj::Command {
 
@@ -37,6 +38,15 @@ private:
     int m_file;
     int m_error = 0;
     std::string m_text;
+};
+
+/// A table for people to read.
+struct Table {
+    std::vector<std::string> titles; // none: no line of titles
+    std::string_view alignment;      // one letter a column: l or r
+    std::vector<std::vector<std::string>> rows;
+
+    void write(Output& output) const;
 };
 
 } // namespace ZrProj::Command

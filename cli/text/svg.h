@@ -1,12 +1,16 @@
 // Pieces of SVG pictures.
 #pragma once
 
-#include "cli/map/projection.h"
-
+#include <span>
 #include <string>
 #include <string_view>
 
 namespace ZrProj::Command {
+
+/// A point of a map, in its own units, or of a picture.
+struct MapPoint {
+    double x, y;
+};
 
 /// The data of a path, on whole numbers: points that fall on the one before are left out, and so are lines without
 /// length and rings of fewer than three points.

@@ -1,10 +1,10 @@
 // Writes docs/gallery.md and its pictures, docs/gallery/*.svg: each projection, drawn by the command's own parts.
 //
 //     zrproj-gallery DOCS
+#include "cli/map/content.h"
 #include "cli/map/drawing.h"
-#include "cli/map/land.h"
-#include "cli/map/views.h"
-#include "cli/projection/parameters.h"
+#include "cli/map/sheet.h"
+#include "cli/model/parameters.h"
 
 #include <exception>
 #include <filesystem>

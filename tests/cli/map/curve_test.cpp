@@ -6,6 +6,7 @@
 #include <cmath>
 #include <limits>
 #include <numbers>
+#include <random>
 
 using namespace ZrProj;
 using namespace ZrProj::Command;
@@ -77,4 +78,80 @@ TEST(MapCurve, LeavesOutPlacesThatAreNowhere) {
     EXPECT_EQ(chordsOf(Places{{0, 10}, {3, 10}}, std::vector<MapPoint>{{0, 0}, {9, 9}}, false, horizon, rules).size(),
               2U)
         << "between places beside a horizon there may be none";
+}
+
+using namespace ZrProj::Command;
+
+namespace {
+
+constexpr MapBox box{0, 0, 10, 10};
+
+double area(std::vector<MapPoint> const& ring) {
+    double sum = 0;
+    for (std::size_t i = 0; i < ring.size(); ++i) {
+        MapPoint const &a = ring[i], &b = ring[(i + 1) % ring.size()];
+        sum += a.x * b.y - b.x * a.y;
+    }
+    return sum / 2;
+}
+
+/// Of the part of a ring below a line x <= at, and so on, by counting.
+double areaByCounting(std::vector<MapPoint> const& ring) {
+    constexpr int steps = 400;
+    int inside = 0;
+    for (int i = 0; i < steps; ++i)
+        for (int j = 0; j < steps; ++j) {
+            double const x = 10 * (i + 0.5) / steps, y = 10 * (j + 0.5) / steps;
+            bool in = false;
+            for (std::size_t k = 0; k < ring.size(); ++k) {
+                MapPoint const &a = ring[k], &b = ring[(k + 1) % ring.size()];
+                if ((a.y > y) != (b.y > y) && x < a.x + (y - a.y) * (b.x - a.x) / (b.y - a.y))
+                    in = !in;
+            }
+            inside += in;
+        }
+    return 100.0 * inside / (steps * steps);
+}
+
+} // namespace
+
+TEST(MapClip, RingsKeepTheAreaInsideTheBox) {
+    std::mt19937 random(7);
+    std::uniform_real_distribution<double> radius(1, 14), place(-3, 13);
+    for (int i = 0; i < 20; ++i) {
+        std::vector<MapPoint> star;
+        MapPoint const centre{place(random), place(random)};
+        for (int k = 0; k < 12; ++k) {
+            double const r = radius(random), turn = k * 0.5235987755982988;
+            star.push_back({centre.x + r * std::cos(turn), centre.y + r * std::sin(turn)});
+        }
+        auto const clipped = clipRing(star, box);
+        EXPECT_NEAR(area(clipped), areaByCounting(star), 0.4);
+        for (MapPoint const& p : clipped)
+            EXPECT_TRUE(MapBox({-1e-9, -1e-9, 10 + 1e-9, 10 + 1e-9}).holds(p)) << p.x << ' ' << p.y;
+    }
+    EXPECT_NEAR(area(clipRing({{-1e9, -1e9}, {1e9, -1e9}, {1e9, 1e9}, {-1e9, 1e9}}, box)), 100, 1e-6) << "all around";
+    EXPECT_TRUE(clipRing({{-5, -5}, {-1, -5}, {-3, 20}}, box).empty()) << "beside";
+}
+
+TEST(MapClip, LinesComeInPieces) {
+    std::vector<MapPoint> const zigzag{{-5, 2}, {5, 2}, {5, 12}, {8, 12}, {8, -2}, {20, 5}};
+    auto const pieces = clipLine(zigzag, box);
+    ASSERT_EQ(pieces.size(), 2U);
+    ASSERT_EQ(pieces[0].size(), 3U);
+    EXPECT_EQ(pieces[0].front().x, 0);
+    EXPECT_EQ(pieces[0].back().y, 10);
+    EXPECT_EQ(pieces[1].front().y, 10);
+    EXPECT_EQ(pieces[1].back().y, 0);
+    EXPECT_TRUE(clipLine(std::vector<MapPoint>{{-5, 5}, {5, 20}}, box).empty()) << "past a corner";
+}
+
+TEST(MapSeam, IsNoEdge) {
+    // A square that was cut open from the middle of its lower side.
+    std::vector<MapPoint> const ring{{5, 0}, {5, 6}, {5.01, 3}, {5.01, 0}, {10, 0}, {10, 10}, {0, 10}, {0, 0}, {5, 0}};
+    auto const lines = withoutSeams({ring}, 0.1);
+    ASSERT_EQ(lines.size(), 1U);
+    EXPECT_EQ(lines[0].size(), 6U);
+    EXPECT_EQ(lines[0].front().x, 5.01);
+    EXPECT_EQ(withoutSeams({ring}, 0.001)[0].size(), ring.size()) << "two edges, where both can be seen";
 }

@@ -1,4 +1,5 @@
 #include "cli/points/layout.h"
+
 #include "cli/text/usage_error.h"
 
 #include <gtest/gtest.h>

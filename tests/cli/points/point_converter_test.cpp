@@ -1,5 +1,6 @@
 #include "cli/points/point_converter.h"
-#include "cli/projection/utm_zone.h"
+
+#include "cli/model/zones.h"
 #include "cli/text/usage_error.h"
 
 #include <gtest/gtest.h>

@@ -1,0 +1,99 @@
+// zrproj convert: from one kind of side file to another, and to and from the tags of TIFF files.
+#include "cli/commands/commands.h"
+#include "cli/commands/options.h"
+#include "cli/files/map_info.h"
+#include "cli/files/tiff_file.h"
+#include "cli/model/datums.h"
+#include "cli/text/text.h"
+#include "cli/text/usage_error.h"
+
+#include <cstdio>
+
+namespace ZrProj::Command {
+namespace {
+
+class ConvertFile : public Subcommand {
+public:
+    explicit ConvertFile(CommandLine line) {
+        line.argument("IN", m_in,
+                      "A reference, RSF or world file, or an image: a TIFF file, or one that has such files")
+            .require();
+        line.argument("OUT", m_out,
+                      "The file to write, of the kind that its extension tells: zrr, rsf, wld, tfw ...; or a TIFF "
+                      "file that is there, whose tags are set")
+            .require();
+        m_projection.addTo(line);
+        line.inGroup("Datums").option("--datum", m_datum, "NAME",
+                                      "Datum of the map, by name or POSC code; its ellipsoid is the projection's");
+        line.flag("--accept-misfit", m_acceptMisfit,
+                  "Write an RSF file although what it is read back as misses the control points by over a pixel");
+        m_projection.addParametersTo(line);
+    }
+
+    int run(Output&) override {
+        FileFormat const* const format = isTiffFile(m_out) ? &tiffFormat() : formatOf(m_out);
+        if (!format)
+            throw UsageError(inQuotes(m_out) + " is no TIFF file that is there, and no name of a side file; end it in "
+                                               ".zrr, .rsf, .wld or the like");
+        Misfit const misfit = m_acceptMisfit ? Misfit::Accepted : Misfit::Refused;
+        for (std::string const& note : format->write(m_out, map(), misfit))
+            std::fprintf(stderr, "zrproj: %s: %s\n", inQuotes(m_out).c_str(), note.c_str());
+        return 0;
+    }
+
+private:
+    bool saysSystem() const { return m_projection.any() || !m_datum.empty(); }
+
+    /// What is known of IN, with what the options say of it.
+    MapInfo map() const {
+        MapInfo info = saysSystem() && isTiffFile(m_in) ? readImage(m_in) : readMap(m_in);
+        if (!m_datum.empty())
+            setDatum(info, findDatum(m_datum, {}));
+        if (m_projection.any())
+            setProjection(info);
+        return info;
+    }
+
+    static void setDatum(MapInfo& info, Datum const& datum) {
+        info.datum = datum.type;
+        info.datumParameters = datum.record;
+        if (!datum.isOwn() && !DatGetDatumParams(datum.type, &info.datumParameters))
+            info.datumParameters.Method = datum.method();
+        info.datumFile = "--datum";
+    }
+
+    /// As another map has it, with its datum where nothing else says one, or by its parameters.
+    void setProjection(MapInfo& info) const {
+        if (!m_projection.likeFile().empty() && info.datumFile.empty()) {
+            MapInfo const like = readMap(m_projection.likeFile());
+            info.datum = like.datum;
+            info.datumParameters = like.datumParameters;
+            info.datumFile = like.datumFile;
+        }
+        Datum const datum{"", info.datum, info.datumParameters};
+        auto const figure = info.datumFile.empty() ? std::nullopt : figureOf(datum);
+        ProjectionChoice const choice = m_projection.choice(figure.value_or(Figure()));
+        if (choice.zonePerPoint)
+            throw UsageError("--utm auto is no projection of a map; name its zone");
+        info.projection = choice.record;
+        if (choice.unit)
+            info.projection.Scale = 1 / choice.unit->metres;
+        info.projectionFile = "--projection";
+    }
+
+    std::string m_in, m_out, m_datum;
+    bool m_acceptMisfit = false;
+    ProjectionOptions m_projection;
+};
+
+} // namespace
+
+std::unique_ptr<Subcommand> makeConvertFile(CommandLine line) {
+    line.footer("Example: a scanned map's world file as a reference file\n  zrproj convert map.tfw map.tif.zrr\n"
+                "Example: a scanned map with a world file and a projection, in its own tags\n"
+                "  zrproj convert map.tif map.tif --utm 17N --datum nad27\n"
+                "Example: all that is known of a scanned map, in its own tags\n  zrproj convert map.tif map.tif");
+    return std::make_unique<ConvertFile>(line);
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,91 @@
+// zrproj locate: from image coordinates to longitudes and latitudes.
+#include "cli/commands/commands.h"
+#include "cli/commands/options.h"
+#include "cli/files/map_info.h"
+#include "cli/points/conversion.h"
+#include "cli/text/text.h"
+#include "cli/text/usage_error.h"
+
+#include <cstdio>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr int degreeDecimals = 9;
+
+class Locate : public Subcommand {
+public:
+    explicit Locate(CommandLine line) {
+        line.argument("IMAGE", m_image, "The image; its side files and tags tell where it lies").require();
+        line.arguments("FILE", m_files, "Files of image coordinates; standard input where none is given, and for -");
+        line.inGroup("Input and output")
+            .option("--columns", m_columns, "X,Y",
+                    "Columns of the coordinates, x first: numbers from 1, or names of the header");
+        m_projection.addTo(line);
+        m_projection.addParametersTo(line);
+    }
+
+    int run(Output& output) override {
+        ColumnRequest columns{Direction::Inverse, {}, &lengthUnits.front(), false};
+        if (!m_columns.empty())
+            columns.columns = parseColumns(m_columns, false);
+        ConversionJob job{choice(), {}, columns, degreeDecimals, false, m_files};
+        if (job.files.empty())
+            job.files.emplace_back("-");
+        return convertPoints(job, output);
+    }
+
+private:
+    /// The image's own projection, unless the options name one.
+    ProjectionChoice choice() const {
+        MapInfo const info = readMap(m_image);
+        if (info.georefFile.empty())
+            throw UsageError("nothing says how " + inQuotes(m_image) + " lies on the map");
+        ProjectionChoice choice = m_projection.any() ? m_projection.choice() : ProjectionChoice{};
+        if (!m_projection.any())
+            choice.record = info.projection;
+        if (choice.record.Type == ProjTypeUndefined)
+            throw UsageError("nothing says in which projection " + inQuotes(m_image) + " is" + reasons(info) +
+                             "; give --utm, --state-plane, --projection or --like");
+        if (choice.zonePerPoint)
+            throw UsageError("--utm auto is no projection of an image; name its zone");
+        if (choice.unit)
+            choice.record.Scale = 1 / choice.unit->metres;
+        warnOfMiss(*info.georef);
+        choice.image = std::make_shared<CGeorefTransform>(&*info.georef);
+        if (!choice.image->IsCreated())
+            throw UsageError("the georeference of " + inQuotes(m_image) + " cannot be made");
+        return choice;
+    }
+
+    /// Of a similarity, which may have been given no choice: an RSF file says no other method.
+    void warnOfMiss(GEOREF const& georef) const {
+        if (georef.Method != TransformMethodHelmert)
+            return;
+        auto const miss = controlMiss(georef, georef.Method);
+        if (miss && isWide(*miss))
+            std::fprintf(stderr, "zrproj: the similarity (Helmert) that places %s misses its control points by %s\n",
+                         inQuotes(m_image).c_str(), missText(*miss).c_str());
+    }
+
+    static std::string reasons(MapInfo const& info) {
+        return info.notes.empty() ? "" : " (" + info.notes.front() + ")";
+    }
+
+    std::string m_image, m_columns;
+    std::vector<std::string> m_files;
+    ProjectionOptions m_projection;
+};
+
+} // namespace
+
+std::unique_ptr<Subcommand> makeLocate(CommandLine line) {
+    line.footer(
+        R"(Image coordinates are columns and rows of pixels from the upper left corner of the image, whose first pixel
+has its centre at 0.5, 0.5. Longitudes and latitudes are on the datum of the map.
+Example: the middle of a pixel
+  echo 100.5 200.5 | zrproj locate scan.tif)");
+    return std::make_unique<Locate>(line);
+}
+
+} // namespace ZrProj::Command

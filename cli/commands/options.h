@@ -1,0 +1,84 @@
+// The options that say which projection and which datums.
+#pragma once
+
+#include "cli/model/datums.h"
+#include "cli/model/projection.h"
+#include "cli/points/layout.h"
+#include "cli/text/command_line.h"
+
+#include <zrproj/zrproj.h>
+
+#include <memory>
+#include <optional>
+#include <string>
+#include <vector>
+
+namespace ZrProj::Command {
+
+/// The options that say which projection: by its parameters, by a UTM or State Plane zone, or by a file that tells.
+class ProjectionOptions {
+public:
+    ProjectionOptions();
+
+    /// Add the options to a subcommand: those that name a projection, and those of its parameters. This object must
+    /// stay where it is until they were parsed.
+    void addTo(CommandLine line);
+    void addParametersTo(CommandLine line);
+
+    /// Whether any of the options was given.
+    bool any() const;
+
+    /// The file of --like; empty for none.
+    std::string const& likeFile() const { return m_like; }
+
+    /// What the options say, checked; `standard` is the ellipsoid where they tell none. Throws UsageError when they are
+    /// no usable projection.
+    ProjectionChoice choice(Figure const& standard = {}) const;
+
+private:
+    struct Value {
+        int id;
+        Option option;
+        std::string text;
+    };
+
+    PROJDATA projectionLike() const;
+    void startFrom(ProjectionChoice& choice) const;
+    void startFromUtm(ProjectionChoice& choice) const;
+    ProjType givenProjection() const;
+    Value const& value(int id) const { return m_values[static_cast<std::size_t>(id - 1)]; }
+    bool given(int id) const;
+    std::optional<int> year() const;
+    void refuseUnused(ProjType type) const;
+    void setEllipsoid(PROJDATA& record, Figure const& standard) const;
+    void setValues(PROJDATA& record) const;
+
+    std::vector<Value> m_values; // one a catalogue parameter, in catalogue order
+    Option m_utmOption, m_statePlaneOption, m_yearOption, m_likeOption;
+    std::string m_utm, m_statePlane, m_year, m_like;
+};
+
+/// --from and --to of a conversion between datums; beside a projection, the datum of the map is --datum, and that of
+/// the points before or after it --from-datum or --to-datum.
+class DatumOptions {
+public:
+    explicit DatumOptions(Direction direction) : m_direction(direction) {}
+
+    /// Adds the options to a subcommand. This object must stay where it is until they were parsed.
+    void addTo(CommandLine line);
+
+    /// What they ask for; nothing where no datum is to be changed. Throws UsageError when it cannot be followed.
+    std::optional<DatumShift> shift() const;
+
+    /// The figure of the map's datum; WGS 84's where none is given.
+    Figure mapFigure() const;
+
+private:
+    std::vector<Datum> defined() const;
+
+    Direction m_direction;
+    std::string m_from, m_to; // of them, --datum is the one at the map's end
+    std::vector<std::string> m_definitions;
+};
+
+} // namespace ZrProj::Command

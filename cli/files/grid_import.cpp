@@ -1,0 +1,204 @@
+#include "cli/files/grid_import.h"
+
+#include "cli/files/plain_file.h"
+#include "cli/text/numbers.h"
+#include "cli/text/output.h"
+#include "cli/text/text.h"
+#include "cli/text/usage_error.h"
+
+#include <algorithm>
+#include <array>
+#include <cerrno>
+#include <cmath>
+#include <filesystem>
+#include <fstream>
+#include <stdexcept>
+#include <system_error>
+
+namespace ZrProj::Command {
+namespace {
+
+constexpr std::array arrangements{own, Arrangement{false, true, "one with longitude shifts in .LAS and west positive"},
+                                  Arrangement{true, false, "one with latitude shifts in .LAS and east positive"},
+                                  usual};
+
+using Misfits = std::array<double, arrangements.size()>; // arcseconds, summed up
+
+/// The three shifts that a grid is compared with; user defined where they are not known well enough.
+DatumType shiftsOf(GridHeader const& grid) {
+    if (grid.xmin >= -75 && grid.east() <= -60 && grid.ymin >= 15 && grid.north() <= 21)
+        return DatumTypePuertoRico;
+    bool const isNorthAmerican = grid.xmin >= -140 && grid.east() <= -50 && grid.ymin >= 10 && grid.north() <= 60;
+    return isNorthAmerican ? DatumTypeNad1927Conus : DatumTypeUserDefined;
+}
+
+void add(Misfits& misfits, double las, double los, double east, double north) {
+    for (std::size_t i = 0; i < arrangements.size(); ++i) {
+        double const lon = arrangements[i].latitudesInLas ? los : las, lat = arrangements[i].latitudesInLas ? las : los;
+        misfits[i] += std::hypot((arrangements[i].westPositive ? -lon : lon) - east, lat - north);
+    }
+}
+
+Misfits misfitsOf(GridFile& las, GridFile& los, DatumType shifts) {
+    DATUMXFORM const request{shifts, DatumTypeWorldGeodeticSystem1984, false, {}, {}};
+    CDatumTransform transform(&request);
+    GridHeader const& grid = las.header();
+    int const rowStep = std::max(1, grid.rows / 16), columnStep = std::max(1, grid.columns / 16);
+    Misfits misfits{};
+    for (int row = 1; row <= grid.rows; row += rowStep) {
+        std::vector<float> const &x = las.record(row), &y = los.record(row);
+        for (int column = 1; column <= grid.columns; column += columnStep) {
+            DATUMPOINT const from{grid.xmin + (column - 1.0) * grid.dx, grid.ymin + (row - 1.0) * grid.dy};
+            DATUMPOINT to = from;
+            transform.Convert(&to, 1);
+            auto const place = static_cast<std::size_t>(column);
+            add(misfits, x[place], y[place], 3600 * (to.x - from.x), 3600 * (to.y - from.y));
+        }
+    }
+    return misfits;
+}
+
+} // namespace
+
+Arrangement arrangementOf(GridFile& las, GridFile& los, Arrangement const& supposed) {
+    DatumType const shifts = shiftsOf(las.header());
+    if (shifts == DatumTypeUserDefined)
+        return supposed;
+    Misfits const misfits = misfitsOf(las, los, shifts);
+    auto const best = static_cast<std::size_t>(std::min_element(misfits.begin(), misfits.end()) - misfits.begin());
+    auto const asked =
+        static_cast<std::size_t>(std::find(arrangements.begin(), arrangements.end(), supposed) - arrangements.begin());
+    return 2 * misfits[best] < misfits[asked] ? arrangements[best] : supposed;
+}
+
+namespace {
+
+struct Range {
+    float least = HUGE_VALF, greatest = -HUGE_VALF;
+    std::uint64_t bad = 0; // values that are no numbers
+
+    void add(float value) {
+        if (!std::isfinite(value)) {
+            ++bad;
+            return;
+        }
+        least = std::min(least, value);
+        greatest = std::max(greatest, value);
+    }
+
+    std::string text() const {
+        if (least > greatest)
+            return "no numbers";
+        return numberText(std::round(least * 1e4) / 1e4) + " to " + numberText(std::round(greatest * 1e4) / 1e4) +
+               " arcseconds";
+    }
+};
+
+Range rangeOf(GridFile& file) {
+    Range range;
+    for (int row = 1; row <= file.header().rows; ++row) {
+        std::vector<float> const& record = file.record(row);
+        std::for_each(record.begin() + 1, record.end(), [&](float value) { range.add(value); });
+    }
+    return range;
+}
+
+std::string extent(double first, double last, float step) {
+    return numberText(first) + " to " + numberText(last) + " degrees, every " + numberText(step);
+}
+
+std::string faultOf(GridFile& las, GridFile& los, Range const& x, Range const& y) {
+    if (!(las.header() == los.header()))
+        return "the two files have different headers; the library takes that of " + las.path();
+    if (x.bad + y.bad > 0)
+        return std::to_string(x.bad + y.bad) + " values are no numbers; points in their cells come out marked";
+    Arrangement const found = arrangementOf(las, los, own);
+    if (found == own)
+        return "";
+    return "the pair looks like " + std::string(found.words) +
+           (found == usual ? "; \"zrproj grid import\" makes it into one for this library" : "");
+}
+
+} // namespace
+
+void checkGrids(std::string const& path, Output& output) {
+    GridFile las(path + ".LAS"), los(path + ".LOS");
+    GridHeader const& grid = las.header();
+    Range const x = rangeOf(las), y = rangeOf(los);
+    Table table{{}, "ll", {}};
+    table.rows = {{"Files", las.path()},
+                  {"", los.path()},
+                  {"Identification", las.identification()},
+                  {"Grid", std::to_string(grid.columns) + " columns, " + std::to_string(grid.rows) + " rows"},
+                  {"Longitudes", extent(grid.xmin, grid.east(), grid.dx)},
+                  {"Latitudes", extent(grid.ymin, grid.north(), grid.dy)},
+                  {"Added to longitudes (.LAS)", x.text() + ", east positive"},
+                  {"Added to latitudes (.LOS)", y.text() + ", north positive"}};
+    table.write(output);
+    std::string const fault = faultOf(las, los, x, y);
+    if (!fault.empty()) {
+        output.flush();
+        throw std::runtime_error(fault);
+    }
+}
+
+namespace {
+
+/// The file of a pair with that ending, in small letters or capitals.
+std::string findFile(std::string const& path, std::string_view small, std::string_view capital) {
+    std::string const name = path + std::string(small);
+    return std::filesystem::exists(name) ? name : path + std::string(capital);
+}
+
+void write(std::ofstream& out, std::vector<float> const& words) {
+    out.write(reinterpret_cast<char const*>(words.data()), static_cast<std::streamsize>(words.size() * sizeof(float)));
+}
+
+/// Copies a grid, its values multiplied by `sign`.
+void copyGrid(GridFile& from, std::string const& to, float sign) {
+    std::ofstream out(to, std::ios::binary);
+    write(out, from.record(0));
+    for (int row = 1; row <= from.header().rows; ++row) {
+        std::vector<float> values = from.record(row);
+        for (float& value : values)
+            value *= sign;
+        values[0] = values[1];
+        write(out, values);
+    }
+    if (!out.flush())
+        throw std::runtime_error("cannot write " + inQuotes(to) + ": " + systemMessage(errno));
+}
+
+/// Refuses files that would be overwritten by what is made of them, and those that are no pair to be imported.
+void checkPair(GridFile& latitudes, GridFile& longitudes, std::array<std::string, 2> const& destinations) {
+    std::error_code error; // what is not there is no file's equal
+    for (GridFile const* source : {&latitudes, &longitudes})
+        for (std::string const& name : destinations)
+            if (std::filesystem::equivalent(source->path(), name, error))
+                throw UsageError(source->path() + " is itself what would be written; give another --to or --name");
+    if (!(latitudes.header() == longitudes.header()))
+        throw UsageError("the headers of " + latitudes.path() + " and " + longitudes.path() +
+                         " differ; they are no pair");
+    Arrangement const found = arrangementOf(latitudes, longitudes, usual);
+    if (!(found == usual))
+        throw UsageError(latitudes.path() + " and " + longitudes.path() + " look like " + std::string(found.words) +
+                         (found == own ? "; copy them as they are" : ", which cannot be imported"));
+}
+
+} // namespace
+
+void importGrids(GridImport const& job) {
+    GridFile latitudes(findFile(job.source, ".las", ".LAS")), longitudes(findFile(job.source, ".los", ".LOS"));
+    std::string const las = job.destination + ".LAS", los = job.destination + ".LOS";
+    checkPair(latitudes, longitudes, {las, los});
+    for (std::string const& name : {las, los})
+        if (!job.replace && std::filesystem::exists(name))
+            throw UsageError(name + " is there already; --replace replaces it");
+    ReplacementFile newLas(las), newLos(los);
+    copyGrid(longitudes, newLas.name(), -1);
+    copyGrid(latitudes, newLos.name(), 1);
+    newLas.commit();
+    newLos.commit();
+}
+
+} // namespace ZrProj::Command

@@ -1,0 +1,260 @@
+#include "cli/model/parameters.h"
+
+#include "cli/model/zones.h"
+#include "cli/text/name_match.h"
+#include "cli/text/numbers.h"
+#include "cli/text/text.h"
+#include "cli/text/usage_error.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+#include <cmath>
+#include <optional>
+
+namespace ZrProj::Command {
+namespace {
+
+struct ParameterRow {
+    ProjParam id;
+    Quantity quantity;
+    std::string_view shortOption; // "" where the long one is short enough
+};
+
+// clang-format off
+constexpr std::array parameterRows{
+    ParameterRow{ProjParamType,        Quantity::Projection, ""},
+    ParameterRow{ProjParamScale,       Quantity::Factor,     ""},
+    ParameterRow{ProjParamXOrg,        Quantity::Metres,     "--x0"},
+    ParameterRow{ProjParamYOrg,        Quantity::Metres,     "--y0"},
+    ParameterRow{ProjParamLat0,        Quantity::Latitude,   "--lat0"},
+    ParameterRow{ProjParamLon0,        Quantity::Longitude,  "--lon0"},
+    ParameterRow{ProjParamLat1,        Quantity::Latitude,   "--lat1"},
+    ParameterRow{ProjParamLat2,        Quantity::Latitude,   "--lat2"},
+    ParameterRow{ProjParamLat3,        Quantity::Latitude,   "--lat3"},
+    ParameterRow{ProjParamLon1,        Quantity::Longitude,  "--lon1"},
+    ParameterRow{ProjParamLon2,        Quantity::Longitude,  "--lon2"},
+    ParameterRow{ProjParamLon3,        Quantity::Longitude,  "--lon3"},
+    ParameterRow{ProjParamK0,          Quantity::Factor,     "--k0"},
+    ParameterRow{ProjParamSouth,       Quantity::Flag,       "--south"},
+    ParameterRow{ProjParamZone,        Quantity::Zone,       ""},
+    ParameterRow{ProjParamUseAlpha,    Quantity::Flag,       "--use-alpha"},
+    ParameterRow{ProjParamAlpha,       Quantity::Azimuth,    ""},
+    ParameterRow{ProjParamRotate,      Quantity::Flag,       "--rotate"},
+    ParameterRow{ProjParamUOffset,     Quantity::Flag,       "--u-offset"},
+    ParameterRow{ProjParamEllipsoid,   Quantity::Ellipsoid,  ""},
+    ParameterRow{ProjParamMajorRadius, Quantity::Metres,     "--radius"},
+    ParameterRow{ProjParamFlattening,  Quantity::Flattening, "--flattening"},
+};
+// clang-format on
+
+/// "2nd Standard Parallel" is "--2nd-standard-parallel"; what stands in brackets is left out.
+std::string optionOf(std::string_view name) {
+    std::string option = "-";
+    bool separated = true;
+    for (char c : name.substr(0, name.find('('))) {
+        bool const word = isLetter(c) || isDigit(c);
+        if (word && separated)
+            option += '-';
+        if (word)
+            option += lowerCase(c);
+        separated = !word;
+    }
+    return option;
+}
+
+std::vector<Parameter> readCatalogue() {
+    std::vector<Parameter> result;
+    for (ParameterRow const& row : parameterRows) {
+        std::array<char, 64> name{};
+        ProjParamInfo(row.id, name.data(), nullptr, nullptr, nullptr);
+        std::string const longOption = optionOf(name.data());
+        std::string const option = row.shortOption.empty() ? longOption : std::string(row.shortOption);
+        result.push_back({row.id, name.data(), row.quantity, longOption, option});
+    }
+    return result;
+}
+
+Reading readFactor(std::string_view text) {
+    Reading factor = readNumber(text);
+    if (!factor.error && !(factor.value > 0))
+        factor.error = "is not greater than zero";
+    return factor;
+}
+
+Reading readQuantity(Quantity quantity, std::string_view text) {
+    switch (quantity) {
+    case Quantity::Longitude:
+        return readAngle(text, Axis::Longitude);
+    case Quantity::Latitude:
+        return readAngle(text, Axis::Latitude);
+    case Quantity::Azimuth:
+        return readAngle(text, Axis::Azimuth);
+    case Quantity::Flattening:
+        return readFlattening(text);
+    case Quantity::Factor:
+        return readFactor(text);
+    default:
+        return readNumber(text);
+    }
+}
+
+template <class T> T parameterValue(PROJDATA const& record, int id) {
+    T value{};
+    ProjGetParam(&record, id, &value);
+    return value;
+}
+
+std::string unitText(Quantity quantity) {
+    switch (quantity) {
+    case Quantity::Longitude:
+    case Quantity::Latitude:
+    case Quantity::Azimuth:
+        return " degrees";
+    case Quantity::Metres:
+        return " metres";
+    default:
+        return "";
+    }
+}
+
+/// A number in a text that is nothing else, if it lies in 0 to `count` - 1.
+std::optional<int> readIndex(std::string_view text, int count) {
+    int number = 0;
+    char const* const end = text.data() + text.size();
+    auto const [rest, status] = std::from_chars(text.data(), end, number);
+    if (status != std::errc() || rest != end || number < 0 || number >= count)
+        return std::nullopt;
+    return number;
+}
+
+/// One of `count` catalogue entries, by number or name.
+template <class Name>
+int findEntry(std::string_view kind, std::string_view text, int count, Name nameOf, std::string_view listCommand) {
+    if (auto const number = readIndex(text, count))
+        return *number;
+    std::vector<std::string> names(static_cast<std::size_t>(count));
+    std::generate(names.begin(), names.end(), [&, i = 0]() mutable { return nameOf(i++); });
+    NameMatch const result = matchName(text, names);
+    if (result.match != Match::One)
+        throw UsageError(explainMismatch(kind, text, names, result, listCommand));
+    return result.found.front();
+}
+
+} // namespace
+
+std::vector<Parameter> const& parameters() {
+    static std::vector<Parameter> const catalogue = readCatalogue();
+    return catalogue;
+}
+
+Parameter const& parameter(int id) {
+    return parameters().at(static_cast<std::size_t>(id - 1));
+}
+
+std::vector<int> usedParameters(ProjType type) {
+    std::vector<int> result;
+    for (int i = 0; i < ProjNumParams(type); ++i) {
+        int const id = ProjEnumParam(type, i);
+        result.push_back(id);
+        if (parameter(id).quantity == Quantity::Ellipsoid)
+            result.insert(result.end(), {ProjParamMajorRadius, ProjParamFlattening});
+    }
+    return result;
+}
+
+void setParameter(PROJDATA& record, Parameter const& parameter, std::string_view text) {
+    if (parameter.quantity == Quantity::Flag) {
+        bool const set = true;
+        ProjSetParam(&record, parameter.id, &set);
+        return;
+    }
+    Reading const reading = readQuantity(parameter.quantity, text);
+    if (reading.error)
+        throw UsageError(parameter.option + ": " + inQuotes(text) + ' ' + reading.error);
+    ProjSetParam(&record, parameter.id, &reading.value);
+}
+
+std::string parameterText(PROJDATA const& record, Parameter const& parameter) {
+    switch (parameter.quantity) {
+    case Quantity::Projection:
+        return projectionName(record.Type);
+    case Quantity::Ellipsoid:
+        return ellipsoidName(record.Ellipsoid);
+    case Quantity::Zone:
+        return zoneName(record.Zone);
+    case Quantity::Flag:
+        return parameterValue<bool>(record, parameter.id) ? "yes" : "no";
+    case Quantity::Flattening:
+        return flatteningText(record.Flattening);
+    default:
+        return numberText(parameterValue<double>(record, parameter.id)) + unitText(parameter.quantity);
+    }
+}
+
+std::string projectionName(ProjType type) {
+    std::array<char, 64> name{};
+    ProjGetProjectionInfo(type, name.data());
+    return name.data();
+}
+
+std::string noMapText(PROJDATA const& record) {
+    bool const lacksFlag = record.Type == ProjTypeHotineObliqueMercator && record.Alpha != 0 && !record.bUseAlpha;
+    return "with these parameters " + projectionName(record.Type) + " has no map" +
+           (lacksFlag ? "; --alpha counts only with --use-alpha" : "");
+}
+
+std::string ellipsoidName(EllipsoidType type) {
+    std::array<char, 64> name{};
+    EllipsoidInfo(type, name.data(), nullptr, nullptr);
+    return name.data();
+}
+
+ProjType findProjection(std::string_view text) {
+    auto const nameOf = [](int type) { return projectionName(static_cast<ProjType>(type)); };
+    return static_cast<ProjType>(
+        findEntry("projection", text, ProjNumProjections(), nameOf, "zrproj list projections"));
+}
+
+EllipsoidType findEllipsoid(std::string_view text) {
+    auto const nameOf = [](int type) { return ellipsoidName(static_cast<EllipsoidType>(type)); };
+    return static_cast<EllipsoidType>(
+        findEntry("ellipsoid", text, EllipsoidTypeNone, nameOf, "zrproj list ellipsoids"));
+}
+
+namespace {
+
+/// An angle in degrees, minutes and seconds, "" for one of whole degrees.
+std::string anglePartsText(PROJDATA const& record, Parameter const& parameter) {
+    bool const isAngle = parameter.quantity == Quantity::Longitude || parameter.quantity == Quantity::Latitude ||
+                         parameter.quantity == Quantity::Azimuth;
+    double value = 0;
+    std::array<char, 64> text{};
+    if (!isAngle || !ProjGetParam(&record, parameter.id, &value) || value == std::floor(value) ||
+        !DegreesToLatLon(value, text.data(), static_cast<int>(text.size()), AngleTextFormatDegreesMinutesSeconds, 4,
+                         'd'))
+        return "";
+    return std::string(" (") + text.data() + "\")";
+}
+
+/// The parameters that a type uses, and the false origin, which UTM has without being asked.
+std::vector<int> shownParameters(ProjType type) {
+    std::vector<int> result = usedParameters(type);
+    if (type == ProjTypeUniversalTransverseMercator)
+        result.insert(result.end(), {ProjParamXOrg, ProjParamYOrg});
+    return result;
+}
+
+} // namespace
+
+void addParameterRows(Table& table, PROJDATA const& record) {
+    table.rows.push_back({"Projection", projectionName(record.Type), "--projection " + std::to_string(record.Type)});
+    for (int id : shownParameters(record.Type)) {
+        Parameter const& shown = parameter(id);
+        bool const settable = ProjUsesParam(record.Type, id);
+        table.rows.push_back(
+            {shown.name, parameterText(record, shown) + anglePartsText(record, shown), settable ? shown.option : ""});
+    }
+}
+
+} // namespace ZrProj::Command
