@@ -1,0 +1,417 @@
+#!/usr/bin/env python3
+"""Writes the tables of register/ from the register of coordinate systems as proj-data's database carries it.
+
+    make_register.py PROJ_DB
+
+Each table stands in a header of its own, sorted by code, a row a line, with the row's name as a comment. Texts stand once
+each in texts.h, and a text that ends another one is that one's tail. Angles become degrees and lengths metres here, by
+exact fractions of the register's decimals, so that each number is the double next to the exact value.
+"""
+import collections
+import re
+import sqlite3
+import sys
+from fractions import Fraction
+from pathlib import Path
+
+HERE = Path(__file__).resolve().parent
+
+HEAD = """// {what}
+//
+// Made by src/systems/make_register.py from the EPSG Geodetic Parameter Dataset {EPSG.VERSION} of {EPSG.DATE}, which is IOGP's, as
+// proj-data carries it, under the terms of use at https://epsg.org/terms-of-use.html. Other makers' names are of {ESRI.VERSION}
+// of {ESRI.DATE} and of PROJ {PROJ.VERSION}.
+#pragma once
+
+#include "systems/register/rows.h"
+
+namespace ZrProj::systems::rows {{
+
+// clang-format off
+"""
+TERMS = ("The dataset is the property of IOGP, the International Association of Oil & Gas Producers; it is used under the terms at "
+         "https://epsg.org/terms-of-use.html, which ask that data taken from it be attributed and not be changed under its name.")
+FOOT = """// clang-format on
+
+}} // namespace ZrProj::systems::rows
+"""
+
+PI = Fraction("3.14159265358979323846264338327950288419716939937510")
+DEGREES = {9101: 180 / PI, 9103: Fraction(1, 60), 9104: Fraction(1, 3600), 9105: Fraction(9, 10), 9106: Fraction(9, 10),
+           9109: 180 / PI / 10**6, 9112: Fraction(9, 1000), 9113: Fraction(9, 100000), 9114: Fraction(360, 6400),
+           1031: Fraction(1, 3600000)}
+SURVEY_FOOT = Fraction(1200, 3937)
+SURVEY = {9003: SURVEY_FOOT, 9033: 66 * SURVEY_FOOT, 9034: Fraction(66, 100) * SURVEY_FOOT, 9035: 5280 * SURVEY_FOOT}
+SEXAGESIMAL = 9110
+
+# Methods that the register keeps under two codes: the one in force, and what the older one's parameters are there.
+SAME_METHOD = {9821: 1027, 9823: 1029, 9842: 1028}
+SAME_PARAMETER = {(9821, 8828): 8801, (9821, 8829): 8802, (9823, 8801): 8823, (9842, 8801): 8823, (9842, 8822): 8802}
+
+# Codes that were never in force, beyond 16 bits, and what everybody means by them.
+NICKNAMES = {900913: 3857}
+
+# Who calls a thing by another name, in the order of the enum Maker.
+MAKERS = {"ESRI": "esri", "EPSG": "epsg", "PROJ": "proj"}
+
+
+def decimal(number):
+    return Fraction(repr(number) if isinstance(number, float) else str(number))
+
+
+def degrees_of_sexagesimal(number):
+    """Degrees of DDD.MMSSsss, read from its digits."""
+    degrees, rest = divmod(decimal(abs(number)), 1)
+    minutes, seconds = divmod(rest * 100, 1)
+    value = degrees + minutes / 60 + seconds / 36
+    return -value if number < 0 else value
+
+
+def double(exact):
+    """The double next to an exact number, as short as it can be written."""
+    text = repr(float(exact))
+    return text[:-2] if text.endswith(".0") else text
+
+
+def key(name):
+    """What lookups by name compare: small letters, digits and +; spaces and marks do not count, nor "zone" and "ensemble"."""
+    words = re.findall(r"[a-z0-9+\x80-\U0010ffff]+", "".join(c.lower() if c.isascii() else c for c in name))
+    return "".join(word for word in words if word not in ("zone", "ensemble")).encode()
+
+
+class Texts:
+    """The pool: each text once, and only where no other one ends with it."""
+
+    def __init__(self):
+        self.wanted = set()
+
+    def __call__(self, text):
+        self.wanted.add(text)
+        return lambda: self.offsets[text]
+
+    def place(self):
+        reversed_order = sorted(self.wanted, key=lambda text: text[::-1])
+        pairs = zip(reversed_order, reversed_order[1:] + [""])
+        self.kept = sorted(text for text, following in pairs if not following.endswith(text))
+        self.offsets, position = {}, 0
+        for text in self.kept:
+            for tail in range(len(text) + 1):
+                if text[tail:] in self.wanted:
+                    self.offsets.setdefault(text[tail:], position + len(text[:tail].encode()))
+            position += len(text.encode()) + 1
+        self.size = position
+
+
+def beginnings(names, limit, least):
+    """The beginnings that save most bytes in names kept as a beginning and a rest, and each name's."""
+    users = collections.defaultdict(list)
+    for name in names:
+        for end in re.finditer(r"_| / |\) | ", name):
+            users[name[: end.end()]].append(name)
+    best = {name: "" for name in names}
+    chosen = [""]
+    while len(chosen) < limit:
+        gains = {cut: sum(max(0, len(cut) - len(best[name])) for name in using) - len(cut) for cut, using in users.items()}
+        cut = max(gains, key=lambda c: (gains[c], c))
+        if gains[cut] < least:
+            break
+        chosen.append(cut)
+        for name in users.pop(cut):
+            best[name] = max(best[name], cut, key=len)
+    return sorted(chosen), best
+
+
+class Register:
+    def __init__(self, path):
+        self.data = sqlite3.connect(f"file:{path}?mode=ro", uri=True)
+        self.head = dict(self.ask("SELECT key, value FROM metadata"))
+        self.text = Texts()
+        self.tables = []  # (file, what, declaration, rows made when the texts have their places)
+
+    def ask(self, query):
+        return self.data.execute(query).fetchall()
+
+    def table(self, file, what, declaration, rows):
+        self.tables.append((file, what, declaration, rows))
+
+    def read(self):
+        self.read_units()
+        self.read_ellipsoids()
+        self.read_meridians()
+        self.read_datums()
+        self.read_systems()
+        self.read_parts()
+        self.read_aliases()
+
+    # Numbers
+
+    def read_units(self):
+        rows = self.ask("""SELECT code, name, type, conv_factor FROM unit_of_measure WHERE auth_name = 'EPSG'
+                           AND type IN ('length', 'angle', 'scale') ORDER BY code""")
+        self.factors = {code: self.factor(code, kind, number) for code, _, kind, number in rows}
+        kept = [(code, name, kind) for code, name, kind, _ in rows if kind != "scale" and not re.search("year|second$", name)]
+        texts = {code: self.text(name) for code, name, _ in kept}
+        self.units = {code: name for code, name, _ in kept}
+        self.table("units.h", "Units of length and angle.", "inline constexpr UnitRow units[] = {", lambda: [
+            f"{{{code}, {'true' if kind == 'angle' else 'false'}, {texts[code]()}, {double(self.factors[code])}}}, // {name}"
+            for code, name, kind in kept])
+
+    @staticmethod
+    def factor(code, kind, number):
+        """Degrees or metres a unit; those that only say how degrees are written count as degrees."""
+        if kind == "angle":
+            return DEGREES.get(code, Fraction(1))
+        return SURVEY.get(code) or decimal(number)
+
+    def exact(self, number, unit):
+        return degrees_of_sexagesimal(number) if unit == SEXAGESIMAL else decimal(number) * self.factors[unit]
+
+    # Datums
+
+    def read_ellipsoids(self):
+        rows = self.ask("""SELECT code, name, semi_major_axis, uom_code, inv_flattening, semi_minor_axis FROM ellipsoid
+                           WHERE auth_name = 'EPSG' ORDER BY code""")
+        texts = {row[0]: self.text(row[1]) for row in rows}
+
+        def line(code, name, major, unit, inverse, minor):
+            major_decimal = decimal(major)
+            if inverse is None:
+                inverse = 0 if minor == major else major_decimal / (major_decimal - decimal(minor))
+            return f"{{{code}, {texts[code]()}, {double(self.exact(major, unit))}, {double(decimal(inverse))}}}, // {name}"
+
+        self.ellipsoids = {row[0]: row[1] for row in rows}
+        self.table("ellipsoids.h", "Ellipsoids.", "inline constexpr EllipsoidRow ellipsoids[] = {",
+                   lambda: [line(*row) for row in rows])
+
+    def read_meridians(self):
+        rows = self.ask("SELECT code, name, longitude, uom_code FROM prime_meridian WHERE auth_name = 'EPSG' ORDER BY code")
+        texts = {row[0]: self.text(row[1]) for row in rows}
+        self.meridians = {row[0]: row[1] for row in rows}
+        self.table("meridians.h", "Prime meridians.", "inline constexpr MeridianRow meridians[] = {", lambda: [
+            f"{{{code}, {texts[code]()}, {double(self.exact(longitude, unit))}}}, // {name}"
+            for code, name, longitude, unit in rows])
+
+    def read_datums(self):
+        rows = self.ask("""SELECT code, name, ellipsoid_code, prime_meridian_code, ensemble_accuracy FROM geodetic_datum
+                           WHERE auth_name = 'EPSG' ORDER BY code""")
+        texts = {row[0]: self.text(row[1]) for row in rows}
+        self.datums = {row[0]: row[1] for row in rows}
+        self.table("datums.h", "Datums and datum ensembles.", "inline constexpr DatumRow datums[] = {", lambda: [
+            f"{{{code}, {ellipsoid}, {meridian}, {decimal(accuracy or 0) * 100}, {texts[code]()}}}, // {name}"
+            for code, name, ellipsoid, meridian, accuracy in rows])
+
+    # Systems
+
+    def read_systems(self):
+        self.horizontal = self.horizontal_parts()
+        geographic = self.ask("""SELECT code, name, coordinate_system_code, datum_code, NULL, deprecated FROM geodetic_crs
+                                 WHERE auth_name = 'EPSG' AND type = 'geographic 2D'""")
+        projected = self.ask("""SELECT code, name, coordinate_system_code, geodetic_crs_code, conversion_code, deprecated
+                                FROM projected_crs WHERE auth_name = 'EPSG'""")
+        self.nicknames = {code: name for code, name, *_ in projected if code > 0xffff}
+        rows = sorted(row for row in geographic + projected if row[0] not in self.nicknames)
+        conversions = self.read_conversions({row[4] for row in rows} - {None})
+        areas = self.read_areas({row[0] for row in rows})
+        axes = self.read_axes({row[2] for row in rows})
+        texts = {row[0]: self.text(row[1]) for row in rows}
+        self.systems = {row[0]: row[1] for row in rows}
+        self.deprecated = {row[0] for row in rows if row[5]}
+
+        def line(code, name, system, base, conversion, deprecated):
+            if conversion is None:
+                conversion = "geographic"
+            else:
+                base, conversion = self.horizontal.get(base, base), conversions[conversion]
+            return (f"{{{code}, {base}, {texts[code]()}, {conversion}, {areas[code]}, {axes[system]}, "
+                    f"{'true' if deprecated else 'false'}}}, // {name}")
+
+        self.table("systems.h", "Geographic systems of two dimensions and projected systems.",
+                   "inline constexpr SystemRow systems[] = {", lambda: [line(*row) for row in rows])
+
+    def read_conversions(self, codes):
+        parameters = {int(code): (method, re.findall(r"\d+", taken)) for method, code, taken in re.findall(
+            r"\{Method::(\w+),\s*(\d+), \"[^\"]*\",\s*\{([\d, ]*)\}\}", (HERE / "method_table.h").read_text())}
+        rows = [row for row in self.ask("SELECT * FROM conversion_table WHERE auth_name = 'EPSG' ORDER BY code") if row[1] in codes]
+        names, values = {}, {}
+        for row in rows:
+            given = {SAME_PARAMETER.get((row[5], code), code): self.exact(number, unit)
+                     for _, code, number, _, unit in zip(*[iter(row[6:41])] * 5) if code is not None}
+            method, taken = parameters[SAME_METHOD.get(row[5], row[5])]
+            values[row[1]] = (method, [given.pop(int(code)) for code in taken])
+            assert not any(given.values()), f"conversion {row[1]}: method {row[5]} does not take {given}"
+            names[row[1]] = self.text(row[2])
+        pool = sorted({value for _, given in values.values() for value in given})
+        index = {value: position for position, value in enumerate(pool)}
+        self.table("values.h", "Every number of a conversion: degrees, metres, factors.", "inline constexpr double values[] = {",
+                   lambda: [f"{double(value)}," for value in pool])
+        self.table("conversions.h", "Conversions: a method and its numbers, which the end of each line repeats.",
+                   "inline constexpr ConversionRow conversions[] = {", lambda: [
+                       f"{{{row[1]}, Method::{values[row[1]][0]}, {names[row[1]]()}, "
+                       f"{{{', '.join(str(index[value]) for value in values[row[1]][1])}}}}}, "
+                       f"// {row[2]}: {', '.join(double(value) for value in values[row[1]][1])}" for row in rows])
+        return {row[1]: position for position, row in enumerate(rows)}
+
+    def read_areas(self, codes):
+        extent_of = {}
+        for code, extent in self.ask("""SELECT object_code, extent_code FROM usage WHERE object_auth_name = 'EPSG' AND
+                                        object_table_name IN ('projected_crs', 'geodetic_crs') ORDER BY code"""):
+            if code in codes:
+                extent_of.setdefault(code, extent)
+        used = set(extent_of.values())
+        rows = [row for row in self.ask("""SELECT code, name, west_lon, south_lat, east_lon, north_lat FROM extent
+                                           WHERE auth_name = 'EPSG' ORDER BY code""") if row[0] in used]
+        texts = {row[0]: self.text(row[1]) for row in rows}
+
+        def bounds(row):
+            hundredths = [decimal(number or 0) * 100 for number in row[2:]]
+            assert all(number.denominator == 1 for number in hundredths), row
+            return ", ".join(str(number) for number in hundredths)
+
+        self.table("areas.h", "Areas of use: west, south, east, north in hundredths of a degree.",
+                   "inline constexpr AreaRow areas[] = {",
+                   lambda: [f"{{{texts[row[0]]()}, {bounds(row)}}}, // {row[1]}" for row in rows])
+        index = {row[0]: position for position, row in enumerate(rows)}
+        return {code: index[extent] for code, extent in extent_of.items()}
+
+    def read_axes(self, systems):
+        axes = collections.defaultdict(list)
+        for system, orientation, unit in self.ask("""SELECT coordinate_system_code, orientation, uom_code FROM axis
+                WHERE coordinate_system_auth_name = 'EPSG' ORDER BY coordinate_system_code, coordinate_system_order"""):
+            axes[system].append((orientation, unit))
+        lines = {system: self.axes_line(*axes[system][:2]) for system in systems}
+        distinct = sorted(set(lines.values()))
+        self.table("axes.h", "Axes: unit, senses, and whether the northing or latitude comes first.",
+                   "inline constexpr AxesRow axes[] = {", lambda: distinct)
+        return {system: distinct.index(line) for system, line in lines.items()}
+
+    def axes_line(self, first, second):
+        (first_way, unit), (second_way, _) = first, second
+        ways = {first_way, second_way}
+        sense = lambda against: "Sense::negative" if against in ways else "Sense::positive"
+        if "along" in first_way:
+            northing_first = not self.easting_along_meridian_first(first_way, second_way)
+        else:
+            northing_first = first_way in ("north", "south")
+        return (f"{{{unit}, {sense('west')}, {sense('south')}, {'true' if northing_first else 'false'}}}, "
+                f"// {self.units[unit]}")
+
+    @staticmethod
+    def easting_along_meridian_first(first, second):
+        """About a pole the northing follows the easting by 90 degrees, counter-clockwise: eastwards in the north."""
+        def longitude(way):
+            number, side = re.search(r"along (\d+)°([EW])", way).groups()
+            return int(number) if side == "E" else -int(number)
+        turn = (longitude(second) - longitude(first)) % 360
+        assert turn in (90, 270), (first, second)
+        return turn == (90 if first.startswith("South") else 270)
+
+    def horizontal_parts(self):
+        """Geographic 3D and geocentric codes: the 2D system of the same datum, of the same name if there are several."""
+        rows = self.ask("SELECT code, name, type, datum_code, deprecated FROM geodetic_crs WHERE auth_name = 'EPSG'")
+        flat = collections.defaultdict(list)
+        for code, name, kind, datum, deprecated in rows:
+            if kind == "geographic 2D":
+                flat[datum].append((deprecated, name, code))
+        parts = {}
+        for code, name, kind, datum, _ in rows:
+            if kind != "geographic 2D" and flat[datum]:
+                parts[code] = min(flat[datum], key=lambda row: (row[1] != name, row[0], row[2]))[2]
+        return parts
+
+    def read_parts(self):
+        parts = dict(self.horizontal)
+        for code, horizontal in self.ask("""SELECT code, horiz_crs_code FROM compound_crs WHERE auth_name = 'EPSG'
+                                            AND horiz_crs_auth_name = 'EPSG'"""):
+            parts[code] = parts.get(horizontal, horizontal)
+        parts |= {code: NICKNAMES[code] for code in self.nicknames}
+        self.table("parts.h", "Systems of three dimensions, geocentric or with heights: the horizontal part; nicknames: what they are.",
+                   "inline constexpr PartRow parts[] = {", lambda: [f"{{{code}, {part}}}," for code, part in sorted(parts.items())])
+        replacements = {}
+        for code, other in self.ask("""SELECT deprecated_code, replacement_code FROM deprecation WHERE deprecated_auth_name = 'EPSG'
+                AND replacement_auth_name = 'EPSG' AND table_name IN ('projected_crs', 'geodetic_crs') ORDER BY rowid"""):
+            if code in self.systems and other in self.systems:
+                replacements.setdefault(code, other)
+        self.table("replacements.h", "Deprecated systems and what replaces them.",
+                   "inline constexpr ReplacementRow replacements[] = {",
+                   lambda: [f"{{{code}, {other}}}, // {self.systems[code]}" for code, other in sorted(replacements.items())])
+
+    # Names
+
+    def read_aliases(self):
+        things = [("system", ("projected_crs", "geodetic_crs"), self.systems), ("datum", ("geodetic_datum",), self.datums),
+                  ("ellipsoid", ("ellipsoid",), self.ellipsoids), ("meridian", ("prime_meridian",), self.meridians),
+                  ("unit", ("unit_of_measure",), self.units)]
+        aliases = {thing: self.aliases_of(tables, names) for thing, tables, names in things}
+        starts, start_of = beginnings([name for rows in aliases.values() for name, *_ in rows], 256, 30)
+        start_texts = [self.text(start) for start in starts]
+        self.table("beginnings.h", "The beginnings of aliases.", "inline constexpr Text beginnings[] = {",
+                   lambda: [f"{place()}, // {start}" for start, place in zip(starts, start_texts)])
+        for thing, _, names in things:
+            self.write_names(thing, names)
+            self.write_aliases(thing, aliases[thing], starts, start_of)
+
+    def aliases_of(self, tables, names):
+        """Other makers' names. Those of the register itself are kept where nothing else has them too, but not the projected
+        systems' abbreviations of a system and a conversion, which only lists have."""
+        marks = ", ".join(f"'{table}'" for table in tables)
+        rows = self.ask(f"""SELECT code, alt_name, source FROM alias_name WHERE auth_name = 'EPSG' AND table_name IN ({marks})
+                            AND (source IN ('ESRI', 'PROJ') OR table_name <> 'projected_crs' OR alt_name NOT LIKE '% / %')
+                            ORDER BY source = 'EPSG', rowid""")
+        if names is self.systems:
+            rows += [(NICKNAMES[code], name, "PROJ") for code, name in self.nicknames.items()]
+        rows = [row for row in rows if row[0] in names and not row[1].isdigit()]
+        owners = collections.defaultdict(set)
+        for code, name in names.items():
+            owners[key(name)].add(code)
+        for code, alias, _ in rows:
+            owners[key(alias)].add(code)
+        kept, known = [], {(code, key(name)) for code, name in names.items()}
+        for code, alias, source in rows:
+            first_of_esri = source == "ESRI" and not any(row[1] == code for row in kept)
+            new = (code, key(alias)) not in known and (source != "EPSG" or len(owners[key(alias)]) == 1)
+            if first_of_esri or new:
+                kept.append((alias, code, source))
+                known.add((code, key(alias)))
+        return kept
+
+    def write_names(self, thing, names):
+        codes = sorted(names)
+        order = sorted(range(len(codes)), key=lambda i: (key(names[codes[i]]), codes[i]))
+        self.table(f"{thing}_names.h", f"The rows of {thing}s by name.", f"inline constexpr std::uint16_t {thing}Names[] = {{",
+                   lambda: [f"{i}, // {names[codes[i]]}" for i in order])
+
+    def write_aliases(self, thing, aliases, starts, start_of):
+        rows = sorted(enumerate(aliases), key=lambda row: (key(row[1][0]), row[0]))
+        texts = {name: self.text(name[len(start_of[name]):]) for name, *_ in aliases}
+        self.table(f"{thing}_aliases.h", f"Other names of {thing}s, by name.", f"inline constexpr AliasRow {thing}Aliases[] = {{",
+                   lambda: [f"{{{starts.index(start_of[name])}, {texts[name]()}, {code}, Maker::{MAKERS[source]}}}, // {name}"
+                            for _, (name, code, source) in rows])
+
+    # Writing
+
+    def write(self, folder):
+        self.text.place()
+        for file, what, declaration, rows in self.tables:
+            self.write_file(folder / file, what, declaration + "\n" + "".join(f"    {row}\n" for row in rows()) + "};\n")
+        version = f"EPSG Geodetic Parameter Dataset {self.head['EPSG.VERSION']} of {self.head['EPSG.DATE']}"
+        self.write_file(folder / "version.h", "The register's edition and terms.",
+                        f'inline constexpr char version[] = "{version}";\ninline constexpr char terms[] =\n    "{TERMS}";\n')
+        lines = "\n".join('    "' + text.replace("\\", "\\\\").replace('"', '\\"') + '\\0"' for text in self.text.kept)
+        self.write_file(folder / "texts.h", "Every name of the register, each ended by a 0.",
+                        f"inline constexpr char texts[] =\n{lines};\n")
+
+    def write_file(self, path, what, body):
+        head = HEAD
+        for name, value in self.head.items():
+            head = head.replace("{" + name + "}", value)
+        path.write_text(head.format(what=what) + body + FOOT.format())
+
+
+def main():
+    register = Register(sys.argv[1])
+    register.read()
+    register.write(HERE / "register")
+    print(f"texts: {register.text.size} bytes")
+
+
+main()

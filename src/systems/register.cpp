@@ -1,0 +1,166 @@
+#include "systems/register.h"
+
+#include "systems/method_table.h"
+#include "systems/register/tables.h"
+
+#include <algorithm>
+#include <cmath>
+
+namespace ZrProj::systems {
+namespace {
+
+using namespace rows;
+
+Unit unitOfRow(UnitRow const& row) {
+    return {at(row.name), row.factor, row.code};
+}
+
+/// Degrees by whatever way of writing them are degrees.
+Unit angularUnitOf(AxesRow const& row) {
+    Unit const degree{"degree", 1, 9122};
+    auto const* unit = find(units, row.unit);
+    return unit && unit->factor != 1 ? unitOfRow(*unit) : degree;
+}
+
+std::optional<Area> areaOf(AreaRow const& row) {
+    if (row.west == row.east && row.south == row.north)
+        return {};
+    return Area{row.west / 100.0, row.south / 100.0, row.east / 100.0, row.north / 100.0, at(row.name)};
+}
+
+void setConversion(Definition& definition, ConversionRow const& row) {
+    definition.conversionName = at(row.name);
+    definition.conversionCode = row.code;
+    definition.method = row.method;
+    auto const& parameters = rowOf(row.method).parameters;
+    for (std::size_t i = 0; i < parameters.size() && parameters[i] != 0; ++i)
+        definition.parameters[parameterByCode(parameters[i])->parameter] = values[row.values[i]];
+}
+
+void setAxes(Definition& definition, AxesRow const& row) {
+    definition.unit = unitOfRow(*find(units, row.unit));
+    definition.x = row.x;
+    definition.y = row.y;
+}
+
+Code replacementOf(Code code) {
+    auto const* row = find(replacements, code);
+    return row ? row->replacement : 0;
+}
+
+Definition definitionOfRow(SystemRow const& row) {
+    bool const projected = row.conversion != geographic;
+    SystemRow const& base = projected ? *find(systems, row.base) : row;
+    Definition definition;
+    definition.name = at(row.name);
+    definition.code = row.code;
+    definition.datum = *datumOf(base.base);
+    definition.angularUnit = angularUnitOf(axes[base.axes]);
+    definition.northingFirst = axes[row.axes].northingFirst;
+    definition.area = areaOf(areas[row.area]);
+    definition.deprecated = row.deprecated;
+    definition.replacement = replacementOf(row.code);
+    if (projected) {
+        definition.baseName = at(base.name);
+        definition.baseCode = base.code;
+        setConversion(definition, conversions[row.conversion]);
+        setAxes(definition, axes[row.axes]);
+    }
+    return definition;
+}
+
+Entry entryOf(SystemRow const& row) {
+    return {row.code, at(row.name), row.conversion != geographic, row.deprecated};
+}
+
+bool contains(AreaRow const& row, double longitude, double latitude) {
+    auto const area = areaOf(row);
+    return area && area->contains(longitude, latitude);
+}
+
+double extentOf(AreaRow const& row) {
+    double const width = row.east - row.west;
+    return (width < 0 ? width + 36000 : width) * (row.north - row.south);
+}
+
+} // namespace
+
+std::string_view registerVersion() {
+    return version;
+}
+
+std::string_view registerTerms() {
+    return terms;
+}
+
+std::optional<Definition> definitionOf(Code code) {
+    if (auto const* row = find(systems, code))
+        return definitionOfRow(*row);
+    if (auto const* part = find(parts, code))
+        return definitionOf(part->horizontal);
+    return {};
+}
+
+std::optional<Datum> datumOf(Code code) {
+    auto const* row = find(datums, code);
+    if (!row)
+        return {};
+    Datum datum;
+    datum.name = at(row->name);
+    datum.ellipsoid = *ellipsoidOf(row->ellipsoid);
+    datum.meridian = *meridianOf(row->meridian);
+    datum.code = row->code;
+    datum.ensembleAccuracy = row->ensembleCentimetres / 100.0;
+    return datum;
+}
+
+std::optional<Ellipsoid> ellipsoidOf(Code code) {
+    auto const* row = find(ellipsoids, code);
+    if (!row)
+        return {};
+    return Ellipsoid{at(row->name), row->semiMajor, row->inverseFlattening, row->code};
+}
+
+std::optional<PrimeMeridian> meridianOf(Code code) {
+    auto const* row = find(meridians, code);
+    if (!row)
+        return {};
+    return PrimeMeridian{at(row->name), row->longitude, row->code};
+}
+
+std::optional<Unit> unitOf(Code code) {
+    auto const* row = find(units, code);
+    if (!row)
+        return {};
+    return unitOfRow(*row);
+}
+
+bool Area::contains(double longitude, double latitude) const {
+    double const width = west <= east ? east - west : east - west + 360;
+    double const fromWest = std::fmod(std::remainder(longitude, 360) - west + 720, 360);
+    return fromWest <= width && south <= latitude && latitude <= north;
+}
+
+std::size_t entryCount() {
+    return std::size(systems);
+}
+
+Entry entry(std::size_t n) {
+    return entryOf(systems[n]);
+}
+
+std::vector<Entry> systemsAt(double longitude, double latitude) {
+    std::vector<SystemRow const*> found;
+    for (SystemRow const& row : systems)
+        if (!row.deprecated && contains(areas[row.area], longitude, latitude))
+            found.push_back(&row);
+    std::stable_sort(found.begin(), found.end(), [](SystemRow const* a, SystemRow const* b) {
+        return extentOf(areas[a->area]) < extentOf(areas[b->area]);
+    });
+    std::vector<Entry> entries;
+    for (SystemRow const* row : found)
+        entries.push_back(entryOf(*row));
+    return entries;
+}
+
+} // namespace ZrProj::systems

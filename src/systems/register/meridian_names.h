@@ -1,0 +1,31 @@
+// The rows of meridians by name.
+//
+// Made by src/systems/make_register.py from the EPSG Geodetic Parameter Dataset v10.076 of 2022-08-31, which is IOGP's, as
+// proj-data carries it, under the terms of use at https://epsg.org/terms-of-use.html. Other makers' names are of ArcGIS Pro 3.0
+// of 2022-07-09 and of PROJ 9.1.1.
+#pragma once
+
+#include "systems/register/rows.h"
+
+namespace ZrProj::systems::rows {
+
+// clang-format off
+inline constexpr std::uint16_t meridianNames[] = {
+    11, // Athens
+    6, // Bern
+    3, // Bogota
+    9, // Brussels
+    8, // Ferro
+    0, // Greenwich
+    7, // Jakarta
+    1, // Lisbon
+    4, // Madrid
+    12, // Oslo
+    2, // Paris
+    13, // Paris RGS
+    5, // Rome
+    10, // Stockholm
+};
+// clang-format on
+
+} // namespace ZrProj::systems::rows

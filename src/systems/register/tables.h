@@ -1,0 +1,45 @@
+// All tables of the register. Included by the sources that look things up; nothing else sees rows.
+#pragma once
+
+#include "systems/register/areas.h"
+#include "systems/register/axes.h"
+#include "systems/register/beginnings.h"
+#include "systems/register/conversions.h"
+#include "systems/register/datum_aliases.h"
+#include "systems/register/datum_names.h"
+#include "systems/register/datums.h"
+#include "systems/register/ellipsoid_aliases.h"
+#include "systems/register/ellipsoid_names.h"
+#include "systems/register/ellipsoids.h"
+#include "systems/register/meridian_aliases.h"
+#include "systems/register/meridian_names.h"
+#include "systems/register/meridians.h"
+#include "systems/register/parts.h"
+#include "systems/register/replacements.h"
+#include "systems/register/system_aliases.h"
+#include "systems/register/system_names.h"
+#include "systems/register/systems.h"
+#include "systems/register/texts.h"
+#include "systems/register/unit_aliases.h"
+#include "systems/register/unit_names.h"
+#include "systems/register/units.h"
+#include "systems/register/values.h"
+#include "systems/register/version.h"
+
+#include <algorithm>
+#include <cstddef>
+#include <iterator>
+
+namespace ZrProj::systems::rows {
+
+inline char const* at(Text text) {
+    return texts + text;
+}
+
+/// The row of a table that has a code, or null.
+template <class Row, std::size_t count> Row const* find(Row const (&table)[count], Code code) {
+    auto const* row = std::ranges::lower_bound(table, code, {}, [](Row const& r) { return static_cast<Code>(r.code); });
+    return row != std::end(table) && row->code == code ? row : nullptr;
+}
+
+} // namespace ZrProj::systems::rows

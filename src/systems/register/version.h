@@ -1,0 +1,18 @@
+// The register's edition and terms.
+//
+// Made by src/systems/make_register.py from the EPSG Geodetic Parameter Dataset v10.076 of 2022-08-31, which is IOGP's, as
+// proj-data carries it, under the terms of use at https://epsg.org/terms-of-use.html. Other makers' names are of ArcGIS Pro 3.0
+// of 2022-07-09 and of PROJ 9.1.1.
+#pragma once
+
+#include "systems/register/rows.h"
+
+namespace ZrProj::systems::rows {
+
+// clang-format off
+inline constexpr char version[] = "EPSG Geodetic Parameter Dataset v10.076 of 2022-08-31";
+inline constexpr char terms[] =
+    "The dataset is the property of IOGP, the International Association of Oil & Gas Producers; it is used under the terms at https://epsg.org/terms-of-use.html, which ask that data taken from it be attributed and not be changed under its name.";
+// clang-format on
+
+} // namespace ZrProj::systems::rows
