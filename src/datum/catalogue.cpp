@@ -1,5 +1,6 @@
 #include "datum/catalogue.h"
 
+#include "datum/method_table.h"
 #include "host/text.h"
 
 #include <algorithm>
@@ -8,10 +9,6 @@ namespace ZrProj {
 namespace {
 
 constexpr char userDefinedName[] = "User Defined";
-
-constexpr bool isOneWay(DatumRow const& row) {
-    return row.method == DatumMethodNadcon || row.method == DatumMethodMRE;
-}
 
 /// The first row that the predicate holds for; the end row where there is none.
 template <class Predicate> DatumRow const& firstRow(Predicate predicate) {
@@ -29,7 +26,8 @@ DatumRow const& datumRow(DatumType type) noexcept {
 }
 
 DatumRow const& twoWayDatumRow(DatumType type) noexcept {
-    return firstRow([&](DatumRow const& row) { return row.type == type && !isOneWay(row); });
+    return firstRow(
+        [&](DatumRow const& row) { return row.type == type && datumMethodIs(row.method, &DatumMethodRow::inverts); });
 }
 
 void completeFigures(DATUM2WGS84& record) noexcept {
@@ -94,8 +92,7 @@ bool DatGetDatumFromPOSCNumber(DatumType* type, int code) {
 }
 
 bool DatReversible(DatumType type) {
-    auto const method = datumRow(type).method;
-    return method == DatumMethodNone || method == DatumMethodBursaWolf || method == DatumMethodMolodensky;
+    return datumMethodIs(datumRow(type).method, &DatumMethodRow::inverts);
 }
 
 bool DatGetDatumParams(DatumType type, DATUM2WGS84* params) {

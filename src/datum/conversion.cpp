@@ -1,6 +1,7 @@
 #include "datum/conversion.h"
 
 #include "datum/catalogue.h"
+#include "datum/method_table.h"
 #include "datum/nadcon.h"
 
 #include <algorithm>
@@ -16,8 +17,7 @@ using End = std::optional<DATUM2WGS84>;
 
 /// The caller's own record, where its method can be used for one. Its flag may be any byte.
 End ownEnd(DATUM2WGS84 const& record) {
-    if (record.Method != DatumMethodNone && record.Method != DatumMethodBursaWolf &&
-        record.Method != DatumMethodMolodensky)
+    if (!datumMethodIs(record.Method, &DatumMethodRow::isOwn))
         return {};
     DATUM2WGS84 end = record;
     unsigned char flag = 0;

@@ -1,5 +1,6 @@
 #include "datum/datum_text.h"
 
+#include "datum/method_table.h"
 #include "host/text.h"
 
 #include <algorithm>
@@ -14,17 +15,6 @@
 
 namespace ZrProj {
 namespace {
-
-struct MethodName {
-    DatumMethod method;
-    std::string_view name;
-};
-
-constexpr std::array methodNames{
-    MethodName{DatumMethodNone, "None"},
-    MethodName{DatumMethodBursaWolf, "Bursa-Wolf"},
-    MethodName{DatumMethodMolodensky, "Molodensky"},
-};
 
 /// The record is byte-packed: its numbers are reached by their place.
 struct NumberField {
@@ -81,11 +71,11 @@ std::optional<unsigned char> readHex(std::string_view digits) {
 }
 
 bool takeMethod(std::string_view value, DATUM2WGS84& record) {
-    auto const found =
-        std::ranges::find_if(methodNames, [&](MethodName const& row) { return equalIgnoringCase(row.name, value); });
-    if (found != methodNames.end())
+    auto const found = std::ranges::find_if(
+        datumMethodTable, [&](DatumMethodRow const& row) { return row.isOwn() && equalIgnoringCase(row.name, value); });
+    if (found != datumMethodTable.end())
         record.Method = found->method;
-    return found != methodNames.end();
+    return found != datumMethodTable.end();
 }
 
 bool takeReserved(std::string_view value, std::span<unsigned char> bytes) {
@@ -142,10 +132,9 @@ bool isEscaped(std::string_view name, std::size_t i) {
 } // namespace
 
 std::string datumText(DATUM2WGS84 const& record) {
-    DatumMethod const method = record.Method;
-    auto const found = std::ranges::find(methodNames, method, &MethodName::method);
+    auto const* const method = datumMethodRow(record.Method);
     std::string text(methodKey);
-    text.append("=").append(found == methodNames.end() ? "" : found->name);
+    text.append("=").append(method ? method->name : "");
     if (record.Ellipsoid != 0)
         append(text, ellipsoidKey, static_cast<std::int32_t>(record.Ellipsoid));
     for (NumberField const& field : numberFields) {

@@ -1,5 +1,6 @@
 // The user's own datums, in a profile's section "Custom Datums".
 #include "datum/datum_text.h"
+#include "datum/method_table.h"
 #include "host/fpenv.h"
 #include "host/profile.h"
 #include "host/text.h"
@@ -37,8 +38,7 @@ std::string profileName() {
 
 /// Whether a conversion could use the record as a user-defined end.
 bool isUsable(DATUM2WGS84 const& record) {
-    if (record.Method != DatumMethodNone && record.Method != DatumMethodBursaWolf &&
-        record.Method != DatumMethodMolodensky)
+    if (!datumMethodIs(record.Method, &DatumMethodRow::isOwn))
         return false;
     DATUMXFORM request = {};
     request.SourceParams = record;

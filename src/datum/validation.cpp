@@ -1,4 +1,5 @@
 // The check of a datum conversion's request.
+#include "datum/method_table.h"
 #include "frame/errors.h"
 #include "host/fpenv.h"
 
@@ -29,7 +30,7 @@ bool always(Record) {
 
 /// Methods that compute with the record's parameters; the others look at none.
 bool hasParameters(Record r) {
-    return r.Method == DatumMethodMolodensky || r.Method == DatumMethodBursaWolf;
+    return datumMethodIs(r.Method, &DatumMethodRow::hasShifts);
 }
 
 bool hasOwnEllipsoid(Record r) {
@@ -37,11 +38,7 @@ bool hasOwnEllipsoid(Record r) {
 }
 
 bool rotates(Record r) {
-    return r.Method == DatumMethodBursaWolf;
-}
-
-bool isMethod(DatumMethod method) {
-    return method >= DatumMethodNone && method <= DatumMethodMRE && method != DatumMethodReserved;
+    return datumMethodIs(r.Method, &DatumMethodRow::hasRotations);
 }
 
 /// A NaN fits.
@@ -65,7 +62,7 @@ struct Check {
 // negative ones.
 // clang-format off
 constexpr std::array checks{
-    Check{always,          [](Record r) { return isMethod(r.Method); },                                {3, 20262}},
+    Check{always,          [](Record r) { return datumMethodRow(r.Method) != nullptr; },                                {3, 20262}},
     Check{hasParameters,   [](Record r) { return r.Ellipsoid >= 0 && r.Ellipsoid < EllipsoidTypeNone; }, {4, 20263}},
     Check{hasOwnEllipsoid, [](Record r) { return r.MajorRadius > 0; },                                 {13, 20249}},
     Check{hasOwnEllipsoid, [](Record r) { return r.Flattening >= 0 && r.Flattening < 1; },             {14, 20250}},
