@@ -7,6 +7,7 @@
 #include <array>
 #include <fstream>
 #include <iomanip>
+#include <iterator>
 #include <stdexcept>
 #include <vector>
 
@@ -14,34 +15,34 @@ namespace ZrProj::docs {
 namespace {
 
 // Nearly every type has these.
-constexpr std::array<int, 4> common{ProjParamEllipsoid, ProjParamScale, ProjParamXOrg, ProjParamYOrg};
+constexpr std::array common{ProjParamEllipsoid, ProjParamScale, ProjParamXOrg, ProjParamYOrg};
 
-std::string parameterName(int parameter) {
+std::string parameterName(ProjParam parameter) {
     char name[64];
     ProjParamInfo(parameter, name, nullptr, nullptr, nullptr);
     return name;
 }
 
-void writeParameters(std::ostream& out, ProjType type, std::span<int const> parameters) {
+void writeParameters(std::ostream& out, ProjectionRow const& type, std::span<ProjParam const> parameters) {
     out << "\n| parameter | in the record | |\n|---|---|---|\n";
-    for (int const parameter : parameters)
+    for (ProjParam const parameter : parameters)
         out << "| " << parameterName(parameter) << " | `" << fieldOf(parameter) << "` | " << meaningOf(parameter, type)
             << " |\n";
 }
 
 /// The type's parameters but for the common ones.
-std::vector<int> ownParameters(ProjType type) {
-    std::vector<int> parameters;
-    for (int i = 0; i < ProjNumParams(type); ++i)
-        if (int const parameter = ProjEnumParam(type, i); std::ranges::find(common, parameter) == common.end())
-            parameters.push_back(parameter);
+std::vector<ProjParam> ownParameters(ProjectionRow const& type) {
+    std::vector<ProjParam> parameters;
+    std::ranges::copy_if(type.parameters, std::back_inserter(parameters), [](ProjParam parameter) {
+        return parameter != ProjParamNone && std::ranges::find(common, parameter) == common.end();
+    });
     return parameters;
 }
 
 /// What a type that does without some of the common parameters is told to do without.
-void writeMissing(std::ostream& out, ProjType type) {
-    for (int const parameter : common)
-        if (!ProjUsesParam(type, parameter))
+void writeMissing(std::ostream& out, ProjectionRow const& type) {
+    for (ProjParam const parameter : common)
+        if (!ProjUsesParam(type.type, parameter))
             out << "- Not used: " << parameterName(parameter) << "\n";
 }
 
@@ -60,46 +61,42 @@ void writeItems(std::ostream& out, HeadComment const& head) {
             out << "- " << item << ": " << found->second << "\n";
 }
 
-void writeSpeed(std::ostream& out, Speeds const& speeds, std::string const& row) {
-    auto const found = speeds.rows.find(row);
-    if (found == speeds.rows.end())
-        throw std::runtime_error("speeds: no row " + row);
-    out << "- Speed: " << std::fixed << std::setprecision(1) << found->second.forward << " ns a point forward, "
-        << found->second.inverse << " ns inverse\n";
+/// The speeds of a type, or else of another type that the same formula computes.
+Speeds::Row speedOf(ProjectionRow const& type, Speeds const& speeds) {
+    if (auto const own = speeds.rows.find(type.key); own != speeds.rows.end())
+        return own->second;
+    for (auto const& other : projectionTable)
+        if (auto const found = speeds.rows.find(other.key); other.method == type.method && found != speeds.rows.end())
+            return found->second;
+    throw std::runtime_error(std::string("speeds: no row ") + type.key);
 }
 
-void writeMember(std::ostream& out, Member const& member, std::string const& formulas, Speeds const& speeds) {
-    char name[64];
-    ProjGetProjectionInfo(member.type, name);
-    auto const head = headOf(formulas + "/" + member.formula + ".cpp");
-    out << "\n### " << name << "\n\nType " << member.type << ". " << head.description << "\n";
-    if (auto const own = ownParameters(member.type); !own.empty())
-        writeParameters(out, member.type, own);
+void writeSpeed(std::ostream& out, Speeds::Row const& speed) {
+    out << "- Speed: " << std::fixed << std::setprecision(1) << speed.forward << " ns a point forward, "
+        << speed.inverse << " ns inverse\n";
+}
+
+void writeType(std::ostream& out, ProjectionRow const& type, std::string const& formulas, Speeds const& speeds) {
+    auto const head = headOf(formulas + "/" + type.source + ".cpp");
+    out << "\n### " << type.name << "\n\nType " << type.type << ". " << head.description << "\n";
+    if (auto const own = ownParameters(type); !own.empty())
+        writeParameters(out, type, own);
     out << "\n";
-    writeMissing(out, member.type);
+    writeMissing(out, type);
     writeItems(out, head);
-    writeSpeed(out, speeds, member.benchmark);
-}
-
-/// The types that compute a map: all but 0 and the two of the State Plane.
-void expectEveryType() {
-    int members = 0;
-    for (auto const& family : families())
-        members += static_cast<int>(family.members.size());
-    if (members != ProjNumProjections() - 3)
-        throw std::runtime_error("the families do not hold every type");
+    writeSpeed(out, speedOf(type, speeds));
 }
 
 } // namespace
 
 void writePage(std::ostream& out, std::string const& formulas, Speeds const& speeds) {
-    expectEveryType();
     out << introduction << "\n" << speeds.run << "\n\nAll types but those that say so use\n";
-    writeParameters(out, ProjTypeMercator, common);
+    writeParameters(out, *projectionRow(ProjTypeMercator), common);
     for (auto const& family : families()) {
         out << "\n## " << family.title << "\n\n```console\n" << family.example << "```\n";
-        for (auto const& member : family.members)
-            writeMember(out, member, formulas, speeds);
+        for (auto const& type : projectionTable)
+            if (type.family == family.family)
+                writeType(out, type, formulas, speeds);
     }
 }
 

@@ -1,30 +1,25 @@
-// What the page on the projection types says beyond the library's catalogue and the formulas' head comments.
+// What the page on the projection types says beyond the library's tables and the formulas' head comments.
 #pragma once
 
-#include <zrproj/projection.h>
+#include "proj/projection_table.h"
 
 #include <span>
 
 namespace ZrProj::docs {
 
-struct Member {
-    ProjType type;
-    char const* formula;   // the source in src/formulas
-    char const* benchmark; // the row of the benchmark
-};
-
-struct Family {
+struct FamilyText {
+    Family family;
     char const* title;
     char const* example; // a command, and what it prints
-    std::span<Member const> members;
 };
 
 extern char const* const introduction;
 
-std::span<Family const> families();
+/// In the order of the page.
+std::span<FamilyText const> families();
 
 /// The member of PROJDATA that holds a parameter, and what it means to a type.
 char const* fieldOf(int parameter);
-char const* meaningOf(int parameter, ProjType type);
+char const* meaningOf(ProjParam parameter, ProjectionRow const& type);
 
 } // namespace ZrProj::docs

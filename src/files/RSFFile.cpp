@@ -1,10 +1,8 @@
 // RSF files: an image's control points, one a line, after a line with their count.
-#include "files/controls.h"
 #include "files/guarded.h"
-#include "files/number_text.h"
-#include "files/output_file.h"
+#include "files/map_record.h"
 #include "files/side_names.h"
-#include "files/text_reader.h"
+#include "files/side_text.h"
 
 #include <zrproj/reffile.h>
 #include <zrproj/worldfile.h>

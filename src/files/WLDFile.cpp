@@ -1,9 +1,7 @@
 // World files: an image's six affine coefficients, one a line.
 #include "files/guarded.h"
-#include "files/number_text.h"
-#include "files/output_file.h"
 #include "files/side_names.h"
-#include "files/text_reader.h"
+#include "files/side_text.h"
 
 #include <zrproj/reffile.h>
 #include <zrproj/worldfile.h>

@@ -1,8 +1,8 @@
 #include "files/reference_values.h"
 
-#include "files/blanks.h"
+#include "datum/method_table.h"
 #include "files/map_record.h"
-#include "files/number_text.h"
+#include "files/side_text.h"
 
 #include <array>
 #include <cstdint>
@@ -120,40 +120,42 @@ void readDatum(void* field, std::string_view text) {
     setField(field, datum);
 }
 
-struct MethodName {
-    std::int32_t method;
-    char const* name;
-};
+constexpr auto noDatumMethod = static_cast<DatumMethod>(6);
 
-constexpr std::int32_t noDatumMethod = 6;
-constexpr std::array datumMethodNames{
-    MethodName{DatumMethodNone, "No transform"},
-    MethodName{DatumMethodNadcon, "NADCON"},
-    MethodName{DatumMethodBursaWolf, "Bursa-Wolf"},
-    MethodName{DatumMethodMolodensky, "Molodensky"},
-    MethodName{DatumMethodMRE, "MRE"},
+struct GeorefName {
+    TransformMethod method;
+    char const* name;
 };
 
 /// Names that other writers give the georeference methods.
 constexpr std::array otherGeorefNames{
-    MethodName{0, "Helmert"},      MethodName{1, "Affine"},      MethodName{2, "First Order"},
-    MethodName{3, "Second Order"}, MethodName{4, "Third Order"}, MethodName{5, "Known Coefficients"},
+    GeorefName{TransformMethodHelmert, "Helmert"},
+    GeorefName{TransformMethodAffinePolynomial, "Affine"},
+    GeorefName{TransformMethod1stOrderPolynomial, "First Order"},
+    GeorefName{TransformMethod2ndOrderPolynomial, "Second Order"},
+    GeorefName{TransformMethod3rdOrderPolynomial, "Third Order"},
+    GeorefName{TransformMethodPrecalculatedAffineCoefficients, "Known Coefficients"},
 };
 
-template <class Names> std::int32_t methodNamed(std::string_view text, Names const& names, std::int32_t otherwise) {
-    auto const found =
-        std::ranges::find_if(names, [text](MethodName const& row) { return equalButBlanks(text, row.name); });
-    return found == names.end() ? otherwise : found->method;
+TransformMethod georefMethodOf(std::string_view text) {
+    for (std::int32_t i = 0; i < TransformMethodNone; ++i)
+        if (auto const method = static_cast<TransformMethod>(i); equalButBlanks(text, RefMethodName(method)))
+            return method;
+    auto const other = std::ranges::find_if(otherGeorefNames,
+                                            [text](GeorefName const& row) { return equalButBlanks(text, row.name); });
+    return other == otherGeorefNames.end() ? TransformMethodNone : other->method;
 }
 
 bool writeDatumMethod(void const* field, std::string& text) {
-    auto const found = std::ranges::find(datumMethodNames, fieldValue<std::int32_t>(field), &MethodName::method);
-    appendName(text, found == datumMethodNames.end() ? "" : found->name);
+    auto const* const row = datumMethodRow(fieldValue<DatumMethod>(field));
+    appendName(text, row ? row->fileName : "");
     return true;
 }
 
 void readDatumMethod(void* field, std::string_view text) {
-    setField(field, methodNamed(text, datumMethodNames, noDatumMethod));
+    auto const row = std::ranges::find_if(
+        datumMethodTable, [text](DatumMethodRow const& each) { return equalButBlanks(text, each.fileName); });
+    setField(field, row == datumMethodTable.end() ? noDatumMethod : row->method);
 }
 
 bool writeGeorefMethod(void const* field, std::string& text) {
@@ -162,10 +164,7 @@ bool writeGeorefMethod(void const* field, std::string& text) {
 }
 
 void readGeorefMethod(void* field, std::string_view text) {
-    std::int32_t method = 0;
-    while (method < TransformMethodNone && !equalButBlanks(text, RefMethodName(static_cast<TransformMethod>(method))))
-        ++method;
-    setField(field, method < TransformMethodNone ? method : methodNamed(text, otherGeorefNames, TransformMethodNone));
+    setField(field, georefMethodOf(text));
 }
 
 } // namespace

@@ -33,7 +33,7 @@ formulas::ParametersInDegrees parametersOf(PROJDATA const& record) noexcept {
     return {.a = record.MajorRadius,
             .f = record.Flattening,
             .lat0 = record.Lat0,
-            .lon0 = record.Type == ProjTypeRobinson ? 0 : record.Lon0, // the type is about Greenwich, whatever is there
+            .lon0 = ProjUsesParam(record.Type, ProjParamLon0) ? +record.Lon0 : 0, // others are about Greenwich
             .lat1 = record.Lat1,
             .lon1 = record.Lon1,
             .lat2 = record.Lat2,

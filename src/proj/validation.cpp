@@ -3,7 +3,6 @@
 #include "frame/errors.h"
 #include "frame/log.h"
 #include "host/fpenv.h"
-#include "proj/parameter_table.h"
 #include "proj/record.h"
 
 #include <array>

@@ -4,7 +4,7 @@
 #include "frame/log.h"
 #include "host/fpenv.h"
 #include "proj/handle.h"
-#include "proj/method_table.h"
+#include "proj/projection_table.h"
 #include "proj/record.h"
 
 #include <cfloat>

@@ -4,7 +4,7 @@
     /usr/bin/python3 make_numbered.py > numbered.txt      (needs Debian's python3-gdal)
 
 A line a system: number, longitude and latitude on its own datum, X and Y in its own unit. These are all systems of the
-tables in src/files and of the State Plane catalogue that this version of PROJ knows.
+tables in src/files/geotiff and of the State Plane catalogue that this version of PROJ knows.
 """
 import glob
 import os
@@ -27,12 +27,12 @@ def rows(pattern):
 
 
 codes = set()
-for kind, fields in rows("files/GeoTIFF*.h"):
+for kind, fields in rows("files/geotiff/*_table.h"):
     if kind == "UtmRow":
         codes |= {int(fields[0]), int(fields[1])}
     elif kind in ("StatePlaneRow", "GridRow"):
         codes.add(int(fields[0]))
-for kind, fields in rows("files/GeoTIFFZones.cpp"):
+for kind, fields in rows("files/geotiff/zones.cpp"):
     codes.add(int(fields[0]))
 for kind, fields in rows("proj/zone_table.h"):
     codes |= {int(fields[1]), int(fields[2])}
