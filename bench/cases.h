@@ -4,14 +4,10 @@
 #include <zrproj/datum.h>
 #include <zrproj/projection.h>
 
-#include <span>
+#include <string>
+#include <vector>
 
 namespace ZrProj::bench {
-
-/// The names are those of PROJDATA.
-struct Parameters {
-    double lon0 = 0, lat0 = 0, lat1 = 0, lat2 = 0, lon1 = 0, lon2 = 0, k0 = 0, alpha = 0;
-};
 
 /// Degrees.
 struct Box {
@@ -19,17 +15,14 @@ struct Box {
 };
 
 struct Case {
-    char const* name;
-    ProjType type;
-    EllipsoidType ellipsoid;
-    Parameters parameters;
+    std::string name;
+    PROJDATA record;
     Box box;          // where the points lie: inside the usable area
-    char const* proj; // the definition that means the same to PROJ, or comes nearest
-
-    PROJDATA record() const;
+    std::string proj; // the definition that means the same to PROJ, or comes nearest
 };
 
-std::span<Case const> cases();
+/// Those that tests/data/projections has, named by the types' keys, as in "stereographic/polar".
+std::vector<Case> const& cases();
 
 /// From a datum to WGS 84 and back. What a case says of a projection is not looked at.
 struct DatumCase {
@@ -37,6 +30,6 @@ struct DatumCase {
     Case definition;
 };
 
-std::span<DatumCase const> datumCases();
+std::vector<DatumCase> const& datumCases();
 
 } // namespace ZrProj::bench

@@ -60,26 +60,26 @@ std::vector<Contender> cassini(GeographicLib::Geodesic const& earth, double lat0
 } // namespace
 
 std::vector<Contender> geographicLibContenders(Case const& definition) {
-    auto const& p = definition.parameters;
-    double const a = EllipsoidRadius(definition.ellipsoid), f = EllipsoidFlattening(definition.ellipsoid);
-    double const k0 = p.k0 == 0 ? 1 : p.k0;
-    switch (definition.type) {
+    PROJDATA const& p = definition.record;
+    double const a = EllipsoidRadius(p.Ellipsoid), f = EllipsoidFlattening(p.Ellipsoid);
+    double const k0 = p.K0 == 0 ? 1 : p.K0;
+    switch (p.Type) {
     case ProjTypeUniversalTransverseMercator:
     case ProjTypeTransverseMercator:
     case ProjTypeGaussKruger:
-        return aboutMeridian(GeographicLib::TransverseMercator(a, f, k0), p.lon0);
+        return aboutMeridian(GeographicLib::TransverseMercator(a, f, k0), p.Lon0);
     case ProjTypeLambertConformalConic:
-        return aboutMeridian(GeographicLib::LambertConformalConic(a, f, p.lat1, p.lat2, k0), p.lon0);
+        return aboutMeridian(GeographicLib::LambertConformalConic(a, f, p.Lat1, p.Lat2, k0), p.Lon0);
     case ProjTypeAlbersEqualAreaConic:
-        return aboutMeridian(GeographicLib::AlbersEqualArea(a, f, p.lat1, p.lat2, k0), p.lon0);
+        return aboutMeridian(GeographicLib::AlbersEqualArea(a, f, p.Lat1, p.Lat2, k0), p.Lon0);
     case ProjTypeStereographic:
-        return p.lat0 == 90 ? polarStereographic(a, f, k0) : std::vector<Contender>{};
+        return p.Lat0 == 90 ? polarStereographic(a, f, k0) : std::vector<Contender>{};
     case ProjTypeCassini:
-        return cassini(GeographicLib::Geodesic(a, f), p.lat0, p.lon0);
+        return cassini(GeographicLib::Geodesic(a, f), p.Lat0, p.Lon0);
     case ProjTypeGnomonic:
-        return aboutCentre(GeographicLib::Gnomonic(GeographicLib::Geodesic(a, f)), p.lat1, p.lon0);
+        return aboutCentre(GeographicLib::Gnomonic(GeographicLib::Geodesic(a, f)), p.Lat1, p.Lon0);
     case ProjTypeAzimuthalEquidistant:
-        return aboutCentre(GeographicLib::AzimuthalEquidistant(GeographicLib::Geodesic(a, f)), p.lat1, p.lon0);
+        return aboutCentre(GeographicLib::AzimuthalEquidistant(GeographicLib::Geodesic(a, f)), p.Lat1, p.Lon0);
     default:
         return {};
     }

@@ -119,7 +119,7 @@ void compareResults(Group const& group) {
             farthest = std::max(farthest, std::hypot(ours[i].x * our.metres - theirs[i].x * peer.metres,
                                                      ours[i].y * our.metres - theirs[i].y * peer.metres));
         if (!(farthest < 1))
-            std::printf("%s: not quite PROJ's map, up to %.0f m apart\n", group.definition.name, farthest);
+            std::printf("%s: not quite PROJ's map, up to %.0f m apart\n", group.definition.name.c_str(), farthest);
     }
 }
 

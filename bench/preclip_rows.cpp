@@ -33,7 +33,7 @@ std::vector<PROJPOINT> const& wanderingLine() {
 /// Processor time, as for the other rows; a second for a million points is what is asked for.
 void measure(benchmark::State& state, Case const& definition) {
     auto const& line = wanderingLine();
-    PROJDATA record = definition.record();
+    PROJDATA record = definition.record;
     CProjector projector(&record);
     std::size_t shown = 0;
     for (auto _ : state) {
@@ -58,8 +58,7 @@ void measure(benchmark::State& state, Case const& definition) {
 
 void registerPreclipRows() {
     for (auto const& definition : cases())
-        benchmark::RegisterBenchmark(("preclip/" + std::string(definition.name)).c_str(), measure, definition)
-            ->UseManualTime();
+        benchmark::RegisterBenchmark(("preclip/" + definition.name).c_str(), measure, definition)->UseManualTime();
 }
 
 } // namespace ZrProj::bench

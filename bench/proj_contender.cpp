@@ -27,7 +27,7 @@ Contender contenderOf(std::string name, std::string const& definition) {
 } // namespace
 
 std::vector<Contender> projContenders(Case const& definition) {
-    std::string const text = definition.proj;
+    std::string const& text = definition.proj;
     std::vector<Contender> contenders{contenderOf("PROJ", text)};
     if (text.starts_with("+proj=utm") || text.starts_with("+proj=tmerc"))
         contenders.push_back(contenderOf("PROJ+approx", text + " +approx"));

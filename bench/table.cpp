@@ -33,15 +33,15 @@ void printLine(Group const& group, Contender const& peer, char const* direction,
     double const ours = time(best, count), theirs = time(peer, count);
     if (ours == 0 || theirs == 0)
         return;
-    std::printf("%-30s %-8s %-14s %9.1f %9.1f %8.1f %9.1f %9.1f\n", group.definition.name, direction, peer.name.c_str(),
-                ours, theirs, theirs / ours, time(best, 1), time(peer, 1));
+    std::printf("%-30s %-8s %-14s %9.1f %9.1f %8.1f %9.1f %9.1f\n", group.definition.name.c_str(), direction,
+                peer.name.c_str(), ours, theirs, theirs / ours, time(best, 1), time(peer, 1));
     means[peer.name].add(theirs / ours);
 }
 
 } // namespace
 
 std::string rowName(Case const& definition, char const* direction, Contender const& contender, int count) {
-    return std::string(definition.name) + "/" + direction + "/" + contender.name + "/" + std::to_string(count);
+    return definition.name + "/" + direction + "/" + contender.name + "/" + std::to_string(count);
 }
 
 void Collector::ReportRuns(std::vector<Run> const& runs) {

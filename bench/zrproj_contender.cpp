@@ -18,7 +18,7 @@ constexpr NamedLevel levels[] = {{formulas::Level::scalar, "scalar"},
                                  {formulas::Level::avx512, "avx512"}};
 
 Contender contenderOf(Case const& definition) {
-    PROJDATA record = definition.record();
+    PROJDATA record = definition.record;
     auto const projector = std::make_shared<CProjector>(&record);
     return {.name = {},
             .isOurs = true,

@@ -13,8 +13,11 @@ using test::Projection;
 
 TEST(Azimuthal, MarksTheAntipodeAndNothingNearIt) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* words : {"type=6 ellipsoid=47 lat0=40 lon0=-100", "type=6 ellipsoid=48 lat0=40 lon0=-100",
-                                  "type=20 ellipsoid=47 lat1=40 lon0=-100", "type=20 ellipsoid=48 lat1=40 lon0=-100"}) {
+        for (auto const* words :
+             {"type=stereographic ellipsoid=wgs-84 lat0=40 lon0=-100",
+              "type=stereographic ellipsoid=standard-sphere-of-6370997-meters lat0=40 lon0=-100",
+              "type=lambert-azimuthal ellipsoid=wgs-84 lat1=40 lon0=-100",
+              "type=lambert-azimuthal ellipsoid=standard-sphere-of-6370997-meters lat1=40 lon0=-100"}) {
             Projection map(words);
             PROJPOINT points[] = {{80, -40}, {-280, -40}, {80 + 1e-11, -40}, {-100, 40}};
             EXPECT_TRUE(map.tryForward(points));
@@ -23,8 +26,9 @@ TEST(Azimuthal, MarksTheAntipodeAndNothingNearIt) {
             EXPECT_FALSE(map.isInRange({80, -40}));
             EXPECT_TRUE(map.isInRange({80 + 1e-11, -40}));
         }
-        for (auto const* words : {"type=6 ellipsoid=47 lat0=90 lon0=30", "type=6 ellipsoid=48 lat0=90 lon0=30",
-                                  "type=20 ellipsoid=47 lat1=90 lon0=30"}) {
+        for (auto const* words : {"type=stereographic ellipsoid=wgs-84 lat0=90 lon0=30",
+                                  "type=stereographic ellipsoid=standard-sphere-of-6370997-meters lat0=90 lon0=30",
+                                  "type=lambert-azimuthal ellipsoid=wgs-84 lat1=90 lon0=30"}) {
             Projection map(words);
             EXPECT_TRUE(isMarked(map.forward(PROJPOINT{77, -90}))) << words;
             EXPECT_FALSE(map.isInRange({77, -90})) << words;
@@ -36,8 +40,9 @@ TEST(Azimuthal, FillsThePlaneAndMarksInfinity) {
     struct {
         char const* words;
         PROJPOINT from, place; // the farthest map point that has one
-    } const cases[] = {{"type=6 ellipsoid=47 lat0=-30 lon0=170", {1e15, -3e15}, {-10, 30}},
-                       {"type=27 ellipsoid=48 lat1=40 lon0=-100", {1e15, 0}, {-10, 0}}};
+    } const cases[] = {
+        {"type=stereographic ellipsoid=wgs-84 lat0=-30 lon0=170", {1e15, -3e15}, {-10, 30}},
+        {"type=gnomonic ellipsoid=standard-sphere-of-6370997-meters lat1=40 lon0=-100", {1e15, 0}, {-10, 0}}};
     test::forEachLevel([&](formulas::Level) {
         for (auto const& each : cases) {
             Projection map(each.words);
@@ -53,7 +58,7 @@ TEST(Azimuthal, FillsThePlaneAndMarksInfinity) {
 
 TEST(LambertAzimuthal, KeepsItsRimAndMarksWhatLiesOutside) {
     test::forEachLevel([](formulas::Level) {
-        Projection map("type=20 ellipsoid=48 lat1=40 lon0=-100");
+        Projection map("type=lambert-azimuthal ellipsoid=standard-sphere-of-6370997-meters lat1=40 lon0=-100");
         double const rim = 2 * 6370997;
         for (double const turn : {0.0, 0.7, 2.5, 4.0}) {
             PROJPOINT const on{rim * std::cos(turn), rim * std::sin(turn)};
@@ -68,8 +73,9 @@ TEST(LambertAzimuthal, KeepsItsRimAndMarksWhatLiesOutside) {
 
 TEST(Gnomonic, MarksTheHorizonAndWhatLiesBehind) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* centre : {"type=27 ellipsoid=48", "type=27 ellipsoid=48 lat1=40 lon0=-100",
-                                   "type=27 ellipsoid=48 lat1=-90 lon0=30"}) {
+        for (auto const* centre : {"type=gnomonic ellipsoid=standard-sphere-of-6370997-meters",
+                                   "type=gnomonic ellipsoid=standard-sphere-of-6370997-meters lat1=40 lon0=-100",
+                                   "type=gnomonic ellipsoid=standard-sphere-of-6370997-meters lat1=-90 lon0=30"}) {
             Projection map(centre);
             double const lat1 = map.record().Lat1, lon0 = map.record().Lon0, towards = lat1 > 0 ? -1 : 1;
             PROJPOINT points[] = {{lon0 + 90, 0}, {lon0 - 90, 0}, {lon0, lat1 + 90 * towards}, {lon0 + 180, -lat1}};

@@ -10,8 +10,8 @@ using test::Projection;
 // Between the two edges of the unrolled cone is nothing; the edges stay, though a false origin rounds them.
 TEST(Cone, HasAGap) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const type : {"type=2", "type=5", "type=26"}) {
-            Projection projection(std::string(type) + " ellipsoid=47 lat1=25 lat2=60 lon0=-96 x0=1e7 y0=1e7");
+        for (auto const type : {"type=albers", "type=lambert-conformal-conic", "type=equidistant-conic"}) {
+            Projection projection(std::string(type) + " ellipsoid=wgs-84 lat1=25 lat2=60 lon0=-96 x0=1e7 y0=1e7");
             for (double const lat : {-60.0, 10.0, 89.0, 89.99999})
                 for (double const side : {-1, 1}) {
                     auto const edge = projection.forward({-96 + 180 * side, lat});
@@ -24,7 +24,8 @@ TEST(Cone, HasAGap) {
 
 TEST(Cone, EndsAtThePoles) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* words : {"type=2 ellipsoid=47 lat1=10 lat2=50", "type=26 ellipsoid=47 lat1=10 lat2=50"}) {
+        for (auto const* words : {"type=albers ellipsoid=wgs-84 lat1=10 lat2=50",
+                                  "type=equidistant-conic ellipsoid=wgs-84 lat1=10 lat2=50"}) {
             Projection projection(words);
             auto const top = projection.forward({0, 90}), bottom = projection.forward({0, -90});
             EXPECT_NEAR(projection.inverse(top).y, 90, 1e-5) << words;

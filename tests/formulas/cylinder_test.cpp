@@ -10,8 +10,9 @@ using test::Projection;
 // The opposite meridian is on the map twice, at its two edges, and stays there though a false origin rounds it.
 TEST(Cylinder, EndsAtTheOppositeMeridian) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* words : {"type=1 ellipsoid=47 lon0=-179.7 x0=1e7", "type=3 ellipsoid=47 lon0=-179.7 x0=1e7",
-                                  "type=13 ellipsoid=47 lat1=60 lon0=-179.7 x0=1e7"}) {
+        for (auto const* words :
+             {"type=mercator ellipsoid=wgs-84 lon0=-179.7 x0=1e7", "type=miller ellipsoid=wgs-84 lon0=-179.7 x0=1e7",
+              "type=equidistant-cylindrical ellipsoid=wgs-84 lat1=60 lon0=-179.7 x0=1e7"}) {
             Projection projection(words);
             for (double const side : {-1, 1}) {
                 double const lon = -179.7 + 180 * side;
@@ -26,7 +27,8 @@ TEST(Cylinder, EndsAtTheOppositeMeridian) {
 
 TEST(Cylinder, EndsAtThePoles) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* words : {"type=3 ellipsoid=47 y0=1e7", "type=13 ellipsoid=47 y0=1e7"}) {
+        for (auto const* words :
+             {"type=miller ellipsoid=wgs-84 y0=1e7", "type=equidistant-cylindrical ellipsoid=wgs-84 y0=1e7"}) {
             Projection projection(words);
             for (double const pole : {-90, 90}) {
                 auto const edge = projection.forward({20, pole});

@@ -17,7 +17,7 @@ constexpr double degree = 3.141592653589793 / 180, earth = 1 / 298.257223563;
 Projection azimuthalEquidistant(double lat1, double flattening) {
     std::ostringstream words;
     words.precision(17);
-    words << "type=28 radius=6378137 lat1=" << lat1 << " flattening=" << flattening;
+    words << "type=azimuthal-equidistant radius=6378137 lat1=" << lat1 << " flattening=" << flattening;
     return Projection(words.str());
 }
 

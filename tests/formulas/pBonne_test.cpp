@@ -7,8 +7,9 @@ using test::Projection;
 
 TEST(Bonne, GoesOverIntoSinusoidal) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* words : {"type=21 ellipsoid=47 lat1=-1e-14", "type=21 ellipsoid=47 lat1=1e-300"}) {
-            Projection cone(words), straight("type=19 ellipsoid=47");
+        for (auto const* words :
+             {"type=bonne ellipsoid=wgs-84 lat1=-1e-14", "type=bonne ellipsoid=wgs-84 lat1=1e-300"}) {
+            Projection cone(words), straight("type=sinusoidal ellipsoid=wgs-84");
             for (auto const& point : {PROJPOINT{179, 20}, {-179, -70}, {-60, 45}}) {
                 auto const map = cone.forward(point), expected = straight.forward(point);
                 EXPECT_NEAR(map.x, expected.x, 1e-7);
@@ -21,7 +22,7 @@ TEST(Bonne, GoesOverIntoSinusoidal) {
 
 TEST(Bonne, EndsAtTheOppositeMeridian) {
     test::forEachLevel([](formulas::Level) {
-        Projection projection("type=21 ellipsoid=47 lat1=35 lon0=100");
+        Projection projection("type=bonne ellipsoid=wgs-84 lat1=35 lon0=100");
         auto const edge = projection.forward({280, -40}), inner = projection.forward({279, -40});
         EXPECT_NEAR(projection.inverse(edge).x, 280, 1e-11);
         PROJPOINT const outer{edge.x + 1e-6 * (edge.x - inner.x), edge.y + 1e-6 * (edge.y - inner.y)};

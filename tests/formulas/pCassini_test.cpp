@@ -17,7 +17,7 @@ constexpr double degree = 3.141592653589793 / 180, earth = 1 / 298.257223563;
 Projection cassini(double flattening) {
     std::ostringstream words;
     words.precision(17);
-    words << "type=16 radius=6378137 flattening=" << flattening;
+    words << "type=cassini radius=6378137 flattening=" << flattening;
     return Projection(words.str());
 }
 

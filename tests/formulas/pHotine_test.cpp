@@ -21,7 +21,7 @@ void expectNear(PROJPOINT const& actual, PROJPOINT const& expected, double toler
 TEST(Hotine, GivesOneMapForOneLine) {
     test::forEachLevel([](formulas::Level) {
         // The line's direction turns u and v round, and x and y stay.
-        std::string const centre = "type=12 ellipsoid=47 lat0=-38 lon1=175 usealpha=1 uoffset=1 k0=0.9996";
+        std::string const centre = "type=hotine ellipsoid=wgs-84 lat0=-38 lon1=175 use_alpha=1 u_offset=1 k0=0.9996";
         Projection south(centre + " alpha=130"), north(centre + " alpha=-50"), tilted(centre + " alpha=130 rotate=1"),
             back(centre + " alpha=310 rotate=1");
         PROJPOINT const point{-178, -31}, uv = north.forward(point), xy = tilted.forward(point);
@@ -46,7 +46,7 @@ TEST(Hotine, GivesOneMapForOneLine) {
 }
 
 TEST(Hotine, ReadsItsFlagsAsBytes) {
-    PROJDATA record = Projection("type=12 ellipsoid=47 lat0=20 lon0=10 alpha=30").record();
+    PROJDATA record = Projection("type=hotine ellipsoid=wgs-84 lat0=20 lon0=10 alpha=30").record();
     std::memset(&record.bUseAlpha, 2, 1);
     std::memset(&record.bRotate, 128, 1);
     std::memset(&record.bUOffset, 255, 1);
@@ -58,7 +58,7 @@ TEST(Hotine, ReadsItsFlagsAsBytes) {
     PROJPOINT const west{-171, 0};
     EXPECT_TRUE(projector.LLOffsetSplitObject(&west, 1, &offset, &other));
     EXPECT_EQ(offset, 360);
-    Projection twoPoints("type=12 ellipsoid=15 lat0=40 lat1=47.5 lon1=-122.3 lat2=25.7 lon2=-80.2");
+    Projection twoPoints("type=hotine ellipsoid=clarke-1866 lat0=40 lat1=47.5 lon1=-122.3 lat2=25.7 lon2=-80.2");
     record = twoPoints.record();
     CProjector unsplit(&record);
     EXPECT_FALSE(unsplit.LLOffsetSplitObject(&west, 1, &offset, &other));
@@ -66,8 +66,9 @@ TEST(Hotine, ReadsItsFlagsAsBytes) {
 
 TEST(Hotine, MarksThePolesOfItsLine) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* words : {"type=12 ellipsoid=47 lat0=0 lon0=20 alpha=90 usealpha=1 rotate=1 uoffset=1",
-                                  "type=12 ellipsoid=48 lat0=0 lon0=20 alpha=-90 usealpha=1"}) {
+        for (auto const* words :
+             {"type=hotine ellipsoid=wgs-84 lat0=0 lon0=20 alpha=90 use_alpha=1 rotate=1 u_offset=1",
+              "type=hotine ellipsoid=standard-sphere-of-6370997-meters lat0=0 lon0=20 alpha=-90 use_alpha=1"}) {
             Projection equator(words); // an equatorial line: its poles are the Earth's
             PROJPOINT points[] = {{30, 90}, {-70, -90}, {30, 89.9999}, {1, 1}};
             EXPECT_TRUE(equator.tryForward(points));
@@ -81,8 +82,9 @@ TEST(Hotine, MarksThePolesOfItsLine) {
 
 TEST(Hotine, MarksTheStripThatWouldCoverOtherLand) {
     test::forEachLevel([](formulas::Level) {
-        std::string const line = " lat0=0 lon0=20 alpha=40 usealpha=1 rotate=1";
-        Projection ellipsoid("type=12 ellipsoid=47" + line), sphere("type=12 ellipsoid=48" + line);
+        std::string const line = " lat0=0 lon0=20 alpha=40 use_alpha=1 rotate=1";
+        Projection ellipsoid("type=hotine ellipsoid=wgs-84" + line),
+            sphere("type=hotine ellipsoid=standard-sphere-of-6370997-meters" + line);
         for (double const lon : {-160.0, 200.0, -159.5, 199.5}) {
             EXPECT_FALSE(ellipsoid.isInRange({lon, 30}));
             EXPECT_TRUE(isMarked(ellipsoid.forward(PROJPOINT{lon, 30})));

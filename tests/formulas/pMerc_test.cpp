@@ -9,7 +9,7 @@ using test::Projection;
 
 TEST(Mercator, EndsBeforeThePoles) {
     test::forEachLevel([](formulas::Level) {
-        Projection projection("type=1 ellipsoid=47 lon0=10 lat0=30");
+        Projection projection("type=mercator ellipsoid=wgs-84 lon0=10 lat0=30");
         EXPECT_TRUE(isMarked(projection.forward({20, 90})) && isMarked(projection.forward({20, -90})));
         PROJPOINT const last{20, std::nextafter(90.0, 0)}, map = projection.forward(last);
         ASSERT_FALSE(isMarked(map));

@@ -12,8 +12,10 @@ using test::Projection;
 TEST(ObliqueMercator, LaysItsLineAlongXAndMarksItsPoles) {
     test::forEachLevel([](formulas::Level) {
         // Either order of the points, and a line whose pole the cross product finds in the south.
-        for (auto const* words : {"type=25 ellipsoid=48 lat1=20 lon1=-100 lat2=40 lon2=-60 k0=0.5",
-                                  "type=25 ellipsoid=48 lat1=40 lon1=-60 lat2=20 lon2=-100 k0=0.5"}) {
+        for (auto const* words : {"type=oblique-mercator ellipsoid=standard-sphere-of-6370997-meters lat1=20 lon1=-100 "
+                                  "lat2=40 lon2=-60 k0=0.5",
+                                  "type=oblique-mercator ellipsoid=standard-sphere-of-6370997-meters lat1=40 lon1=-60 "
+                                  "lat2=20 lon2=-100 k0=0.5"}) {
             Projection line(words);
             auto const west = line.forward(PROJPOINT{-100, 20}), east = line.forward(PROJPOINT{-60, 40});
             EXPECT_NEAR(west.y, 0, 1e-8);
@@ -22,7 +24,8 @@ TEST(ObliqueMercator, LaysItsLineAlongXAndMarksItsPoles) {
             EXPECT_GT(line.forward(PROJPOINT{-80, 60}).y, 0);                       // north is to the left
         }
         // A meridian, straight north and over the pole to the other side, 90 degrees from the meridian either way.
-        Projection meridian("type=25 ellipsoid=48 lat1=10 lon1=30 lat2=50 lon2=30");
+        Projection meridian(
+            "type=oblique-mercator ellipsoid=standard-sphere-of-6370997-meters lat1=10 lon1=30 lat2=50 lon2=30");
         auto const one = meridian.forward(PROJPOINT{30, 10}), two = meridian.forward(PROJPOINT{30, 50});
         EXPECT_NEAR(one.y, 0, 1e-8);
         EXPECT_NEAR(std::abs(two.x - one.x), 6370997 * 0.6981317007977318, 1e-7);

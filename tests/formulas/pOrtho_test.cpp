@@ -12,7 +12,8 @@ using test::Projection;
 
 TEST(Orthographic, ShowsTheLimbAndNothingBehindIt) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* ellipsoid : {"type=7 ellipsoid=47", "type=7 ellipsoid=48"})
+        for (auto const* ellipsoid :
+             {"type=orthographic ellipsoid=wgs-84", "type=orthographic ellipsoid=standard-sphere-of-6370997-meters"})
             for (auto const* centre : {" lat0=0 lon0=0", " lat0=40 lon0=-100", " lat0=-90 lon0=30"}) {
                 Projection map(std::string(ellipsoid) + centre);
                 double const lat0 = map.record().Lat0, lon0 = map.record().Lon0;
@@ -33,7 +34,7 @@ TEST(Orthographic, ShowsTheLimbAndNothingBehindIt) {
 
 TEST(Orthographic, MarksWhatLiesOutsideTheDisc) {
     test::forEachLevel([](formulas::Level) {
-        Projection map("type=7 ellipsoid=47 lat0=55 lon0=5");
+        Projection map("type=orthographic ellipsoid=wgs-84 lat0=55 lon0=5");
         double const a = map.record().MajorRadius;
         PROJPOINT points[] = {{a, 0},      {a * (1 + 1e-13), 0},      {a * 1.001, 0}, {0, -1.001 * a}, {1e300, 0},
                               {0, -1e300}, {DBL_MAX / 2, DBL_MAX / 2}};

@@ -10,7 +10,8 @@ using test::Projection;
 // The in-range area is half the globe, but the inverse finds every point of the map.
 TEST(Polyconic, ComesBackFromAllOverTheGlobe) {
     test::forEachLevel([](formulas::Level) {
-        for (auto const* words : {"type=11 ellipsoid=47 lat0=20", "type=11 radius=6378137 flattening=0.2"}) {
+        for (auto const* words :
+             {"type=polyconic ellipsoid=wgs-84 lat0=20", "type=polyconic radius=6378137 flattening=0.2"}) {
             Projection projection(words);
             for (double lat = -89.5; lat < 90; lat += 0.5)
                 for (double lon = -180; lon <= 180; lon += 7.5) {
@@ -24,7 +25,7 @@ TEST(Polyconic, ComesBackFromAllOverTheGlobe) {
 
 TEST(Polyconic, EndsAtTheOppositeMeridian) {
     test::forEachLevel([](formulas::Level) {
-        Projection projection("type=11 ellipsoid=47");
+        Projection projection("type=polyconic ellipsoid=wgs-84");
         for (double const lat : {-60.0, 0.0, 1e-9, 85.0}) {
             auto const edge = projection.forward({180, lat}), inner = projection.forward({179, lat});
             PROJPOINT const outer{edge.x + 1e-4 * (edge.x - inner.x), edge.y + 1e-4 * (edge.y - inner.y)};
@@ -38,7 +39,7 @@ TEST(Polyconic, EndsAtTheOppositeMeridian) {
 // The equator has a form of its own in the source; beside it nothing jumps.
 TEST(Polyconic, IsSmoothAcrossTheEquator) {
     test::forEachLevel([](formulas::Level) {
-        Projection projection("type=11 ellipsoid=47");
+        Projection projection("type=polyconic ellipsoid=wgs-84");
         double const x = projection.forward({120, 0}).x;
         for (double const lat : {1e-320, -1e-300, 1e-200, -1e-120, 1e-99, 1e-16}) {
             auto const map = projection.forward({120, lat});

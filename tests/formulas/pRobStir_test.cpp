@@ -7,7 +7,7 @@ using namespace ZrProj;
 
 TEST(RobinsonSterling, IsContinuousAcrossTheParallelsOfTheTable) {
     test::forEachLevel([](formulas::Level) {
-        test::Projection map("type=22 ellipsoid=48");
+        test::Projection map("type=robinson-sterling ellipsoid=standard-sphere-of-6370997-meters");
         for (int lat = -85; lat <= 85; lat += 5) {
             auto const at = map.forward(PROJPOINT{180, double(lat)});
             for (double const side : {-1e-13, 1e-13}) {

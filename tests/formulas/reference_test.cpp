@@ -13,7 +13,9 @@ namespace {
 class Reference : public testing::TestWithParam<std::string> {};
 
 std::string nameOf(testing::TestParamInfo<std::string> const& file) {
-    return file.param.substr(0, file.param.find('.'));
+    std::string name = file.param.substr(0, file.param.find('.'));
+    std::ranges::replace(name, '-', '_');
+    return name;
 }
 
 INSTANTIATE_TEST_SUITE_P(Files, Reference, testing::ValuesIn(test::caseFiles()), nameOf);

@@ -1,3 +1,4 @@
+#include "proj/projection_table.h"
 #include "support/levels.h"
 #include "support/registry.h"
 
@@ -21,7 +22,8 @@ PROJPOINT fromCentre(PROJPOINT point, double factor) {
 
 TEST_P(Outline, IsShownAndNothingBeyondIt) {
     test::forEachLevel([](formulas::Level) {
-        test::Projection map("type=" + std::to_string(GetParam()) + " ellipsoid=48 x0=3e6 y0=-2e6");
+        test::Projection map(std::string("type=") + projectionRow(GetParam())->key +
+                             " ellipsoid=standard-sphere-of-6370997-meters x0=3e6 y0=-2e6");
         for (double const lon : {-180.0, 180.0})
             for (double lat = -90; lat <= 90; lat += 2.5) {
                 auto const edge = map.forward(PROJPOINT{lon, lat}), back = map.inverse(edge);

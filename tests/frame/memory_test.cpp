@@ -34,8 +34,10 @@ int expectFailures(std::function<bool()> const& call, unsigned error) {
 
 TEST(Memory, PreclippingRunsOut) {
     constexpr PROJPOINT coast[] = {{-120, -74}, {-60, -65}, {0, 10}, {60, -67}, {120, -66}, {170, -72}};
-    for (auto const* words : {"type=19 ellipsoid=47", "type=7 ellipsoid=48 lat0=40 lon0=10",
-                              "type=20 ellipsoid=47 lat1=90", "type=12 ellipsoid=47 lat0=45 lat1=30 lon1=-100 lat2=60"})
+    for (auto const* words : {"type=sinusoidal ellipsoid=wgs-84",
+                              "type=orthographic ellipsoid=standard-sphere-of-6370997-meters lat0=40 lon0=10",
+                              "type=lambert-azimuthal ellipsoid=wgs-84 lat1=90",
+                              "type=hotine ellipsoid=wgs-84 lat0=45 lat1=30 lon1=-100 lat2=60"})
         for (auto const cut : {&CProjector::LLPreclipPolyline, &CProjector::LLPreclipPolygon}) {
             PROJDATA record = recordOf(words);
             CProjector projector(&record);
@@ -71,7 +73,7 @@ TEST(Memory, FitsRunOut) {
 TEST(Memory, ReferenceFilesRunOut) {
     TemporaryDirectory const directory;
     auto const name = directory.file("map.tif.zrr");
-    PROJDATA projection = recordOf("type=2 ellipsoid=47 lat1=20 lat2=60");
+    PROJDATA projection = recordOf("type=albers ellipsoid=wgs-84 lat1=20 lat2=60");
     auto controls = scattered(5, 1000, [](GEOREFPOINT p) { return p; });
     GEOREF const georef = controls.record(TransformMethodAffinePolynomial);
     auto const write = [&] {

@@ -12,7 +12,6 @@
 #include <cmath>
 #include <cstdlib>
 #include <cstring>
-#include <iomanip>
 #include <random>
 #include <sstream>
 #include <utility>
@@ -283,15 +282,21 @@ private:
     CProjector projector_;
 };
 
+/// Of a record's words, those that tell its type and its figure.
+std::string figureOf(std::string const& words) {
+    std::istringstream in(words);
+    std::string figure;
+    for (std::string word; in >> word;)
+        for (char const* const key : {"type=", "ellipsoid=", "radius=", "rf=", "flattening="})
+            figure += word.starts_with(key) ? word + ' ' : "";
+    return figure;
+}
+
 /// The records whose areas make up the globe together with the given one's.
 std::vector<std::string> complements(std::string const& words) {
     PROJDATA const r = recordOf(words);
-    std::ostringstream figure;
-    figure << std::setprecision(17) << "type=" << r.Type << " ellipsoid=" << r.Ellipsoid << " radius=" << r.MajorRadius
-           << " flattening=" << r.Flattening;
-    auto const type = figure.str();
     auto const about = [&](double east) {
-        return type + " lon0=" + std::to_string(std::remainder(r.Lon0 + east, 360));
+        return figureOf(words) + "lon0=" + std::to_string(std::remainder(r.Lon0 + east, 360));
     };
     switch (r.Type) {
     case ProjTypePolyconic:

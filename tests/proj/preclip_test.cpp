@@ -48,12 +48,12 @@ bool isSame(Points const& a, Points const& b) {
     return a.size() == b.size() && std::memcmp(a.data(), b.data(), a.size() * sizeof(PROJPOINT)) == 0;
 }
 
-constexpr char mercator[] = "type=1 ellipsoid=47";
-constexpr char albers[] = "type=2 ellipsoid=47 lat1=29.5 lat2=45.5 lon0=5";
-constexpr char orthographic[] = "type=7 ellipsoid=48 lat0=40 lon0=10";
-constexpr char sinusoidal[] = "type=19 ellipsoid=47";
-constexpr char northernAzimuthal[] = "type=20 ellipsoid=47 lat1=90";
-constexpr char gaussKruger[] = "type=18 ellipsoid=47 lon0=-175";
+constexpr char mercator[] = "type=mercator ellipsoid=wgs-84";
+constexpr char albers[] = "type=albers ellipsoid=wgs-84 lat1=29.5 lat2=45.5 lon0=5";
+constexpr char orthographic[] = "type=orthographic ellipsoid=standard-sphere-of-6370997-meters lat0=40 lon0=10";
+constexpr char sinusoidal[] = "type=sinusoidal ellipsoid=wgs-84";
+constexpr char northernAzimuthal[] = "type=lambert-azimuthal ellipsoid=wgs-84 lat1=90";
+constexpr char gaussKruger[] = "type=gauss-kruger ellipsoid=wgs-84 lon0=-175";
 double const none = std::nan("");
 
 } // namespace
@@ -88,7 +88,8 @@ TEST(Preclip, RefusesWhatIsNoLineOrArea) {
 
 TEST(Preclip, WhatLiesInsideComesBackAsItIs) {
     Points const ring{{170.1, 10.3}, {-170.7, 12.9}, {-175.1, 30.7}, {170.1, 10.3}};
-    for (auto const* words : {"type=1 ellipsoid=47 lon0=180", "type=6 ellipsoid=47 lat0=20 lon0=-170", albers})
+    for (auto const* words :
+         {"type=mercator ellipsoid=wgs-84 lon0=180", "type=stereographic ellipsoid=wgs-84 lat0=20 lon0=-170", albers})
         for (Kind const kind : {line, area}) {
             auto const chains = preclip(words, kind, ring);
             if (words == albers) // which ends at the longitude -175
@@ -131,7 +132,7 @@ TEST(Preclip, ARingAroundAPoleIsClosedAlongIt) {
     for (auto const& point : cylindrical[0].points)
         lowest = std::fmin(lowest, point.y);
     EXPECT_EQ(lowest, -90);
-    EXPECT_EQ(preclip("type=6 ellipsoid=47 lat0=-90", area, coast).size(), 1u);
+    EXPECT_EQ(preclip("type=stereographic ellipsoid=wgs-84 lat0=-90", area, coast).size(), 1u);
     // On the map about the other pole it is all that lies beyond the coast: the coast, and the rim of the map.
     auto const beyond = preclip(northernAzimuthal, area, coast);
     ASSERT_EQ(beyond.size(), 2u);
@@ -139,17 +140,17 @@ TEST(Preclip, ARingAroundAPoleIsClosedAlongIt) {
     EXPECT_EQ(beyond[1].points.size(), 360u);
     EXPECT_NEAR(beyond[1].points[0].y, -90, 2e-6);
     // Seen from far away there is nothing of it.
-    EXPECT_TRUE(preclip("type=7 ellipsoid=47 lat0=90", area, coast).empty());
+    EXPECT_TRUE(preclip("type=orthographic ellipsoid=wgs-84 lat0=90", area, coast).empty());
 }
 
 TEST(Preclip, AnAreaThatHoldsTheWholeMapBecomesItsOutline) {
     Points const world{{-180, -90}, {-60, -90}, {60, -90}, {180, -90}, {180, 90}, {60, 90}, {-60, 90}, {-180, 90}};
-    auto const map = preclip("type=8 ellipsoid=48 lon0=-90", area, world);
+    auto const map = preclip("type=mollweide ellipsoid=standard-sphere-of-6370997-meters lon0=-90", area, world);
     ASSERT_EQ(map.size(), 2u); // the world as given has a seam at 180
     Points const most{{-179, -80}, {-60, -80}, {60, -80}, {179, -80}, {179, 80}, {60, 80}, {-60, 80}, {-179, 80}};
-    auto const outline = preclip("type=7 ellipsoid=48", area, most);
+    auto const outline = preclip("type=orthographic ellipsoid=standard-sphere-of-6370997-meters", area, most);
     ASSERT_EQ(outline.size(), 1u);
-    auto const hemisphere = preclip("type=27 ellipsoid=48", area, world);
+    auto const hemisphere = preclip("type=gnomonic ellipsoid=standard-sphere-of-6370997-meters", area, world);
     ASSERT_EQ(hemisphere.size(), 1u);
     EXPECT_EQ(hemisphere[0].points.size(), 360u);
 }
@@ -157,7 +158,8 @@ TEST(Preclip, AnAreaThatHoldsTheWholeMapBecomesItsOutline) {
 // An area that ends at the meridian where the map does stays on its side, whichever way that longitude is written.
 TEST(Preclip, AnAreaMayEndAtTheEdge) {
     for (double const edge : {180.0, -180.0}) {
-        auto const box = preclip("type=8 ellipsoid=48", area, {{170, 60}, {edge, 60}, {edge, 70}, {170, 70}});
+        auto const box = preclip("type=mollweide ellipsoid=standard-sphere-of-6370997-meters", area,
+                                 {{170, 60}, {edge, 60}, {edge, 70}, {170, 70}});
         ASSERT_EQ(box.size(), 1u);
         ASSERT_EQ(box[0].points.size(), 4u);
         for (auto const& point : box[0].points)
@@ -172,16 +174,20 @@ TEST(Preclip, AnAreaMayEndAtTheEdge) {
         half.push_back({0, double(lat)});
     for (int lon = 10; lon <= 170; lon += 10)
         half.push_back({double(lon), -80});
-    auto const chains = preclip("type=8 ellipsoid=48", area, half);
+    auto const chains = preclip("type=mollweide ellipsoid=standard-sphere-of-6370997-meters", area, half);
     ASSERT_EQ(chains.size(), 1u);
     EXPECT_EQ(chains[0].points.size(), half.size());
     // An edge of half a turn goes the way that its longitudes say, beside the map's edge too.
-    auto const halfTurn = preclip("type=19 ellipsoid=48", Kind::line, {{-90, 10}, {180, 10}, {0, 10}});
+    auto const halfTurn = preclip("type=sinusoidal ellipsoid=standard-sphere-of-6370997-meters", Kind::line,
+                                  {{-90, 10}, {180, 10}, {0, 10}});
     ASSERT_EQ(halfTurn.size(), 2u);
     EXPECT_EQ(halfTurn[0].points.size(), 2u);
     EXPECT_EQ(halfTurn[1].points.size(), 2u);
-    EXPECT_TRUE(preclip("type=8 ellipsoid=48", area, {{180, 5}, {180, 6}, {180, 5}}).empty());
-    auto const parts = preclip("type=8 ellipsoid=48", Kind::line, {{170, 0}, {180, 5}, {-170, 0}});
+    EXPECT_TRUE(
+        preclip("type=mollweide ellipsoid=standard-sphere-of-6370997-meters", area, {{180, 5}, {180, 6}, {180, 5}})
+            .empty());
+    auto const parts = preclip("type=mollweide ellipsoid=standard-sphere-of-6370997-meters", Kind::line,
+                               {{170, 0}, {180, 5}, {-170, 0}});
     ASSERT_EQ(parts.size(), 2u);
     EXPECT_EQ(parts[0].points.size(), 2u);
     EXPECT_EQ(parts[1].points.size(), 2u);
@@ -204,7 +210,8 @@ TEST(Preclip, PathsAlongTheEdge) {
 // Rings around which the places at the cut of an oblique Mercator are many: they begin on it, go through its end, and
 // run around the globe; each is the same when it is cut again.
 TEST(Preclip, RingsThatTouchAnObliqueCut) {
-    constexpr char oblique[] = "type=12 ellipsoid=48 lat0=45 alpha=90 usealpha=1 rotate=1 uoffset=1";
+    constexpr char oblique[] =
+        "type=hotine ellipsoid=standard-sphere-of-6370997-meters lat0=45 alpha=90 use_alpha=1 rotate=1 u_offset=1";
     for (Points const& ring : {Points{{90, 0}, {45, -45}, {45, -90}, {270, -30}},
                                Points{{60, -90}, {0, -45}, {15, -45}}, Points{{180, 45}, {170, 40}, {190, 50}}}) {
         auto const once = preclip(oblique, area, ring);
@@ -220,7 +227,8 @@ TEST(Preclip, RingsThatTouchAnObliqueCut) {
 // end.
 TEST(Preclip, RingsThatBeginAtAWindowsEdge) {
     Points const ring{{-90.000000000001, -75}, {-60, 45}, {-180, 45}, {60, 30}, {60, -75}};
-    for (auto const* words : {"type=11 ellipsoid=47", "type=16 ellipsoid=47", "type=17 ellipsoid=47 lon0=-45"})
+    for (auto const* words : {"type=polyconic ellipsoid=wgs-84", "type=cassini ellipsoid=wgs-84",
+                              "type=transverse-mercator ellipsoid=wgs-84 lon0=-45"})
         for (std::size_t first = 0; first < ring.size(); ++first) {
             auto turned = ring;
             std::rotate(turned.begin(), turned.begin() + std::ptrdiff_t(first), turned.end());
@@ -231,7 +239,7 @@ TEST(Preclip, RingsThatBeginAtAWindowsEdge) {
         }
     EXPECT_FALSE(
         preclip(
-            "type=16 ellipsoid=48", area,
+            "type=cassini ellipsoid=standard-sphere-of-6370997-meters", area,
             {{90.000000000001, -14.999999999}, {60, -90}, {-1e-12, 60}, {-135.000000001, -90}, {-179.999999999, 45}})
             .empty());
     auto const line = preclip(sinusoidal, Kind::line, {{0.1, 0}, {120, 0}, {-120, 0}, {0.1, 1}});
@@ -240,7 +248,7 @@ TEST(Preclip, RingsThatBeginAtAWindowsEdge) {
 
 // A ring that meets the edge in few places, one of them where half of the edge lies to either side.
 TEST(Preclip, AnEdgeThroughTheMiddleOfTheMapsEdge) {
-    auto const triangle = preclip("type=2 ellipsoid=47 lat1=20 lat2=60 lon0=-90", area,
+    auto const triangle = preclip("type=albers ellipsoid=wgs-84 lat1=20 lat2=60 lon0=-90", area,
                                   {{135.000000000001, 45.000000002}, {89.999999998999996, 1e-9}, {180.000000001, -90}});
     ASSERT_EQ(triangle.size(), 1u);
     EXPECT_LE(triangle[0].points.size(), 4u);
@@ -259,7 +267,8 @@ TEST(Preclip, PointsThatAreNoPlaces) {
 }
 
 TEST(Preclip, NoMapNoChains) {
-    EXPECT_TRUE(preclip("type=5 ellipsoid=47 lat1=30 lat2=-30", line, {{0, 0}, {1, 1}}).empty());
+    EXPECT_TRUE(
+        preclip("type=lambert-conformal-conic ellipsoid=wgs-84 lat1=30 lat2=-30", line, {{0, 0}, {1, 1}}).empty());
     PROJDATA record{};
     void* const unprojected = ProjCreateProjection(&record);
     PROJPOINT const points[2] = {{0, 0}, {1, 1}};

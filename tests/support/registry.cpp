@@ -1,6 +1,7 @@
 #include "support/registry.h"
 
-#include "support/cases.h"
+#include "proj/projection_table.h"
+#include "support/words.h"
 
 #include <gtest/gtest.h>
 
@@ -15,17 +16,6 @@
 
 namespace ZrProj::test {
 namespace {
-
-/// The lines of a file of tests/data/projections but for its comments.
-std::vector<std::string> parameterSetsIn(char const* file) {
-    std::ifstream in(std::string(ZRPROJ_TEST_DATA "/projections/") + file);
-    std::vector<std::string> sets;
-    for (std::string line; std::getline(in, line);)
-        if (!line.starts_with('#'))
-            sets.push_back(line);
-    EXPECT_FALSE(sets.empty()) << file;
-    return sets;
-}
 
 /// Where the projection is centred: longitude and latitude.
 PROJPOINT centreOf(PROJDATA const& r) {
@@ -137,14 +127,23 @@ bool Projection::isBesideUnplottable(PROJPOINT const& point, double degrees) {
 }
 
 std::vector<std::string> parameterSets(ProjType type) {
-    auto sets = parameterSetsIn("usual.sets");
-    std::erase_if(sets, [type](std::string const& words) { return recordOf(words).Type != type; });
+    std::ifstream in(std::string(ZRPROJ_TEST_DATA "/projections/") + projectionRow(type)->key + ".txt");
+    std::vector<std::string> sets;
+    for (std::string line; std::getline(in, line);)
+        if (line.starts_with("sweep |"))
+            sets.push_back(fieldsOf(line).at(1));
     EXPECT_FALSE(sets.empty()) << type;
     return sets;
 }
 
 std::vector<std::string> oddParameterSets() {
-    return parameterSetsIn("odd.sets");
+    std::ifstream in(ZRPROJ_TEST_DATA "/projections/odd.sets");
+    std::vector<std::string> sets;
+    for (std::string line; std::getline(in, line);)
+        if (!line.starts_with('#'))
+            sets.push_back(line);
+    EXPECT_FALSE(sets.empty());
+    return sets;
 }
 
 bool isMarked(PROJPOINT const& point) {

@@ -1,10 +1,11 @@
 #!/usr/bin/env python3
-"""Writes hotine.txt, oblique_mercator.txt, stereographic.txt, orthographic.txt, lambert_azimuthal.txt and gnomonic.txt:
+"""Writes hotine.txt, oblique-mercator.txt, stereographic.txt, orthographic.txt, lambert-azimuthal.txt and gnomonic.txt:
 worked examples as they were printed, and the definitions of Snyder (1987), for the orthographic the geometry itself,
 evaluated with 40 digits (mpmath). Run it in this folder."""
 import math
 import random
 
+import case_file
 from mpmath import (asin, atan, atan2, atanh, cos, degrees, log, matrix, mp, mpf, nstr, pi, radians, sign, sin, sqrt,
                     tan)
 
@@ -45,7 +46,7 @@ def hotine(p, lon, lat):  # pp. 69-75
     d = b * sqrt(1 - e**2) / (cos(phi0) * sqrt(1 - e**2 * sin(phi0)**2))
     root = sign(phi0) * sqrt(max(d**2 - 1, 0))
     big_e = (d + root) * t_of(e, phi0)**b
-    if p["usealpha"]:
+    if p["use_alpha"]:
         alpha, g = radians(p["alpha"]), ((d + root) - 1 / (d + root)) / 2
         gamma0 = asin(sin(alpha) / d)
         lam0 = radians(p["lon1"] or p["lon0"]) - asin(max(-1, min(1, g * tan(gamma0)))) / b
@@ -62,7 +63,7 @@ def hotine(p, lon, lat):  # pp. 69-75
     s, t, v = (q - 1 / q) / 2, (q + 1 / q) / 2, sin(angle)
     big_u = (s * sin(gamma0) - v * cos(gamma0)) / t
     v, u = big_a * log((1 - big_u) / (1 + big_u)) / (2 * b), atan2(s * cos(gamma0) + v * sin(gamma0), cos(angle))
-    if p["uoffset"]:
+    if p["u_offset"]:
         u -= atan2(root, cos(alpha))
     u *= big_a / b
     if not p["rotate"]:
@@ -161,10 +162,10 @@ def within(reach):
 
 def record(kind, ell, params):
     """The words of a case, and the values behind them."""
-    values = {"f": mpf(0), "a": SPHERE, "usealpha": 0, "uoffset": 0, "rotate": 0, "lon0": 0, "lon1": 0, "k0": mpf(1)}
+    values = {"f": mpf(0), "a": SPHERE, "use_alpha": 0, "u_offset": 0, "rotate": 0, "lon0": 0, "lon1": 0, "k0": mpf(1)}
     if ell != 48:
         values.update(a=mpf(ELLIPSOIDS[ell][0]), f=1 / mpf(ELLIPSOIDS[ell][1]))
-    words = [f"type={kind}", f"ellipsoid={ell}"]
+    words = [case_file.record(kind, ell)]
     for key, value in params.items():
         words.append(f"{key}={value}")
         values[key] = mpf(str(value))
@@ -172,8 +173,8 @@ def record(kind, ell, params):
 
 
 def cases(name, formula, kind, sets, pick, special, source):
-    with open(name + ".txt", "w") as out:
-        out.write("# Made by make_azimuthal_oblique.py; the format is explained in tests/support/cases.h.\n")
+    with case_file.rewritten(name + ".txt") as out:
+        out.write("# Made by make_azimuthal_oblique.py.\n")
         for words, geographic, projected, tolerance, origin in PUBLISHED.get(name, []):
             out.write(f"{words} | {geographic} | {projected} | {tolerance} | {origin}\n")
         out.write("# The definition, 40 digits.\n")
@@ -192,16 +193,16 @@ def cases(name, formula, kind, sets, pick, special, source):
 
 
 HOTINE_SETS = [
-    (3, dict(lat0=57, lon1="-133.6666666666667", alpha="-36.86989764166667", k0="0.9999", usealpha=1, rotate=1,
-             uoffset=1)),
+    (3, dict(lat0=57, lon1="-133.6666666666667", alpha="-36.86989764166667", k0="0.9999", use_alpha=1, rotate=1,
+             u_offset=1)),
     (15, dict(lat0=40, lat1=47.5, lon1=-122.3, lat2=25.7, lon2=-80.2, k0="0.9996", rotate=1)),
-    (12, dict(lat0="46.95240555555556", lon0="7.439583333333333", alpha=90, usealpha=1, rotate=1, uoffset=1)),
-    (47, dict(lat0=-18.9, lon1=46.4, alpha=18.9, k0="0.9995", usealpha=1)),
-    (47, dict(lat0=4, lon0=178.5, alpha="53.31582047222222", k0="0.99984", usealpha=1, rotate=1)),
-    (47, dict(lat0=0, lon0=-75, alpha=-60, usealpha=1, rotate=1, uoffset=1)),
-    (15, dict(lat0=15, lat1=44, lon1=87, lat2=0, lon2=0, k0="0.9999", rotate=1, uoffset=1)),
-    (3, dict(lat0=-35, lat1=-20, lon1=170, lat2=-45, lon2=-165, uoffset=1)),
-    (48, dict(lat0=30, lon0=20, alpha=45, usealpha=1, rotate=1)),
+    (12, dict(lat0="46.95240555555556", lon0="7.439583333333333", alpha=90, use_alpha=1, rotate=1, u_offset=1)),
+    (47, dict(lat0=-18.9, lon1=46.4, alpha=18.9, k0="0.9995", use_alpha=1)),
+    (47, dict(lat0=4, lon0=178.5, alpha="53.31582047222222", k0="0.99984", use_alpha=1, rotate=1)),
+    (47, dict(lat0=0, lon0=-75, alpha=-60, use_alpha=1, rotate=1, u_offset=1)),
+    (15, dict(lat0=15, lat1=44, lon1=87, lat2=0, lon2=0, k0="0.9999", rotate=1, u_offset=1)),
+    (3, dict(lat0=-35, lat1=-20, lon1=170, lat2=-45, lon2=-165, u_offset=1)),
+    (48, dict(lat0=30, lon0=20, alpha=45, use_alpha=1, rotate=1)),
 ]
 OBLIQUE_SETS = [
     (48, dict(lat1=45, lon1=0, lat2=1, lon2=-90)),
@@ -229,40 +230,40 @@ def around(lon0, lat0):
 
 PUBLISHED = {
     "hotine": [
-        ("type=12 ellipsoid=15 lat0=40 lat1=47.5 lon1=-122.3 lat2=25.7 lon2=-80.2 k0=0.9996 x0=4000000 y0=500000 "
+        ("type=hotine ellipsoid=clarke-1866 lat0=40 lat1=47.5 lon1=-122.3 lat2=25.7 lon2=-80.2 k0=0.9996 x0=4000000 y0=500000 "
          "rotate=1", "-74 40.8", "963436.1 4369142.8", 0.06, SNYDER),
-        ("type=12 ellipsoid=15 lat0=36 lon1=-77.7610558 alpha=14.3394883 usealpha=1",
+        ("type=hotine ellipsoid=clarke-1866 lat0=36 lon1=-77.7610558 alpha=14.3394883 use_alpha=1",
          "-76.87079527777777 38.80921277777777", "4414439.0 -2356.3", 0.06, SNYDER),
-        ("type=12 ellipsoid=24 lat0=4 lon1=115 alpha=53.31582047222222 k0=0.99984 usealpha=1",
+        ("type=hotine ellipsoid=everest-brunei lat0=4 lon1=115 alpha=53.31582047222222 k0=0.99984 use_alpha=1",
          "115.80550544444444 5.387253583333334", "901334.257 -69702.787", 0.0006,
          "EPSG guidance note 7-2, method 9812"),
-        ("type=10 ellipsoid=3 zone=2", "-134.5 58.5", "770081.060225 742439.408613", 2e-6, EPSG_ALASKA),
-        ("type=10 ellipsoid=3 zone=2", "-130 54.75", "1054692.521314 330875.570869", 2e-6, EPSG_ALASKA)],
+        ("type=state-plane-1983 ellipsoid=grs-1980-iugg-1980 zone=alaska-1", "-134.5 58.5", "770081.060225 742439.408613", 2e-6, EPSG_ALASKA),
+        ("type=state-plane-1983 ellipsoid=grs-1980-iugg-1980 zone=alaska-1", "-130 54.75", "1054692.521314 330875.570869", 2e-6, EPSG_ALASKA)],
     "stereographic": [
-        ("type=6 radius=1 lat0=40 lon0=-100 k0=1", "-75 30", "0.3807224 -0.1263802", 5.1e-8, SNYDER),
-        ("type=6 ellipsoid=15 lat0=40 lon0=-100 k0=0.9999", "-90 30", "971630.8 -1063049.3", 0.06, SNYDER),
-        ("type=6 ellipsoid=47 lat0=90 lon0=0 k0=0.994 x0=2000000 y0=2000000", "44 73", "3320416.75 632668.43", 0.006,
+        ("type=stereographic radius=1 lat0=40 lon0=-100 k0=1", "-75 30", "0.3807224 -0.1263802", 5.1e-8, SNYDER),
+        ("type=stereographic ellipsoid=clarke-1866 lat0=40 lon0=-100 k0=0.9999", "-90 30", "971630.8 -1063049.3", 0.06, SNYDER),
+        ("type=stereographic ellipsoid=wgs-84 lat0=90 lon0=0 k0=0.994 x0=2000000 y0=2000000", "44 73", "3320416.75 632668.43", 0.006,
          NOTE.format(9810))],
     "orthographic": [
-        ("type=7 radius=1 lat0=40 lon0=-100", "-110 30", "-0.1503837 -0.1651911", 5.1e-8, SNYDER),
-        ("type=7 ellipsoid=47 lat0=55 lon0=5", "2.12955 53.80939444444444", "-189011.711 -128640.567", 0.0006,
+        ("type=orthographic radius=1 lat0=40 lon0=-100", "-110 30", "-0.1503837 -0.1651911", 5.1e-8, SNYDER),
+        ("type=orthographic ellipsoid=wgs-84 lat0=55 lon0=5", "2.12955 53.80939444444444", "-189011.711 -128640.567", 0.0006,
          NOTE.format(9840))],
-    "lambert_azimuthal": [
-        ("type=20 radius=3 lat1=40 lon0=-100", "100 -20", "-4.2339303 4.0257775", 5.1e-8, SNYDER),
-        ("type=20 ellipsoid=15 lat1=40 lon0=-100", "-110 30", "-965932.1 -1056814.9", 0.06, SNYDER),
-        ("type=20 ellipsoid=34 lat1=90 lon0=-100", "5 80", "1077459.7 288704.5", 0.06, SNYDER),
-        ("type=20 ellipsoid=3 lat1=52 lon0=10 x0=4321000 y0=3210000", "5 50", "3962799.45 2999718.85", 0.006,
+    "lambert-azimuthal": [
+        ("type=lambert-azimuthal radius=3 lat1=40 lon0=-100", "100 -20", "-4.2339303 4.0257775", 5.1e-8, SNYDER),
+        ("type=lambert-azimuthal ellipsoid=clarke-1866 lat1=40 lon0=-100", "-110 30", "-965932.1 -1056814.9", 0.06, SNYDER),
+        ("type=lambert-azimuthal ellipsoid=international-1924 lat1=90 lon0=-100", "5 80", "1077459.7 288704.5", 0.06, SNYDER),
+        ("type=lambert-azimuthal ellipsoid=grs-1980-iugg-1980 lat1=52 lon0=10 x0=4321000 y0=3210000", "5 50", "3962799.45 2999718.85", 0.006,
          NOTE.format(9820))],
-    "gnomonic": [("type=27 radius=1 lat1=40 lon0=-100", "-110 30", "-0.1542826 -0.1694739", 5.1e-8, SNYDER)],
+    "gnomonic": [("type=gnomonic radius=1 lat1=40 lon0=-100", "-110 30", "-0.1542826 -0.1694739", 5.1e-8, SNYDER)],
 }
 
 cases("hotine", hotine, 12, HOTINE_SETS, within(75), lambda lon0, lat0: [(12.5, 90.0), (-60.0, -90.0)],
       "Snyder (1987), pp. 69-75")
-cases("oblique_mercator", oblique_mercator, 25, OBLIQUE_SETS, anywhere,
+cases("oblique-mercator", oblique_mercator, 25, OBLIQUE_SETS, anywhere,
       lambda lon0, lat0: [(12.5, 90.0), (180.0, -45.0), (-180.0, 10.0)], "Snyder (1987), pp. 69-70")
 cases("stereographic", stereographic, 6, azimuthal_sets("lat0", k0="0.9999"), within(150), around,
       "Snyder (1987), pp. 157-162")
 cases("orthographic", orthographic, 7, azimuthal_sets("lat0"), within(80), facing, "geometry of the ellipsoid")
-cases("lambert_azimuthal", lambert_azimuthal, 20, azimuthal_sets("lat1"), within(150), around,
+cases("lambert-azimuthal", lambert_azimuthal, 20, azimuthal_sets("lat1"), within(150), around,
       "Snyder (1987), pp. 185-189")
 cases("gnomonic", gnomonic, 27, azimuthal_sets("lat1"), within(80), facing, "Snyder (1987), p. 165")

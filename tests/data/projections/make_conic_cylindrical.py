@@ -3,6 +3,7 @@
 quotients, no series) evaluated with 40 digits (mpmath), and published worked examples. Run it in this folder."""
 import random
 
+import case_file
 from mpmath import asinh, atanh, cos, log, mp, mpf, pi, quad, radians, sin, sqrt, tan
 
 mp.dps = 40
@@ -102,48 +103,48 @@ def polyconic(ell, r, phi, lam):
 # file, type, formula, parameter sets, published examples with their printed digits
 TYPES = [
     ("mercator", 1, mercator, ["lon0=-179.25", "lon0=-75.5 lat0=-42", "lon0=179 lat0=33.25"], """
-type=1 radius=1 lon0=-180 | -75 35 | 1.8325957 0.6528366 | 5.1e-8 | {snyder}
-type=1 ellipsoid=35 lon0=51 scale=0.744260894 | 53 53 | 165704.29 5171848.07 | 0.011 | {epsg} 9805
+type=mercator radius=1 lon0=-180 | -75 35 | 1.8325957 0.6528366 | 5.1e-8 | {snyder}
+type=mercator ellipsoid=krassovsky-1942 lon0=51 scale=0.744260894 | 53 53 | 165704.29 5171848.07 | 0.011 | {epsg} 9805
 """),
     ("miller", 3, miller, ["lon0=0", "lon0=-179.5", "lon0=90"], """
-type=3 radius=1 | -75 50 | -1.3089969 0.9536371 | 5.1e-8 | {snyder}
+type=miller radius=1 | -75 50 | -1.3089969 0.9536371 | 5.1e-8 | {snyder}
 """),
-    ("equidistant_cylindrical", 13, equidistant_cylindrical, ["lon0=0", "lat1=-40 lon0=179.5", "lat1=60 lon0=10"], """
-type=13 ellipsoid=47 | 10 55 | 1113194.91 6097230.31 | 0.0051 | {epsg} 1028
+    ("equidistant-cylindrical", 13, equidistant_cylindrical, ["lon0=0", "lat1=-40 lon0=179.5", "lat1=60 lon0=10"], """
+type=equidistant-cylindrical ellipsoid=wgs-84 | 10 55 | 1113194.91 6097230.31 | 0.0051 | {epsg} 1028
 """),
-    ("lambert_conformal_conic", 5, lambert,
+    ("lambert-conformal-conic", 5, lambert,
      ["lat1=33 lat2=45 lat0=23 lon0=-96", "lat1=-28 lat2=-36 lat0=-32 lon0=179",
       "lat1=45 lat2=45.11 lat0=90 lon0=-179.75", "lat1=-20 lat2=60 lat0=-45 lon0=15", "lat1=1 lat2=-0.8 lon0=15",
       "lat1=-85 lat2=-89.9 lat0=-90"], """
-type=5 radius=1 lat1=33 lat2=45 lat0=23 lon0=-96 | -75 35 | 0.2966785 0.2462112 | 5.1e-8 | {snyder}
-type=5 ellipsoid=15 lat1=33 lat2=45 lat0=23 lon0=-96 | -75 35 | 1894410.9 1564649.5 | 0.051 | {snyder}
-type=5 ellipsoid=15 lat1=28.383333333333333 lat2=30.283333333333333 lat0=27.833333333333333 lon0=-99 \
+type=lambert-conformal-conic radius=1 lat1=33 lat2=45 lat0=23 lon0=-96 | -75 35 | 0.2966785 0.2462112 | 5.1e-8 | {snyder}
+type=lambert-conformal-conic ellipsoid=clarke-1866 lat1=33 lat2=45 lat0=23 lon0=-96 | -75 35 | 1894410.9 1564649.5 | 0.051 | {snyder}
+type=lambert-conformal-conic ellipsoid=clarke-1866 lat1=28.383333333333333 lat2=30.283333333333333 lat0=27.833333333333333 lon0=-99 \
 x0=609601.2192024384 scale=3.280833333333333 | -96 28.5 | 2963503.91 254759.80 | 0.0051 | {epsg} 9802
 """),
     ("albers", 2, albers,
      ["lat1=29.5 lat2=45.5 lat0=23 lon0=-96", "lat1=-18 lat2=-36 lon0=132", "lat1=60 lat2=20 lat0=40 lon0=178",
       "lat1=-10 lat2=40 lat0=-90 lon0=-179", "lat1=1 lat2=-0.9 lon0=20", "lat1=90 lat2=30 lat0=90 lon0=-20",
       "lat1=40 lat2=40.002 lat0=40"], """
-type=2 radius=1 lat1=29.5 lat2=45.5 lat0=23 lon0=-96 | -75 35 | 0.2952720 0.2416774 | 5.1e-8 | {snyder}
-type=2 ellipsoid=15 lat1=29.5 lat2=45.5 lat0=23 lon0=-96 | -75 35 | 1885472.7 1535925.0 | 0.051 | {snyder}
+type=albers radius=1 lat1=29.5 lat2=45.5 lat0=23 lon0=-96 | -75 35 | 0.2952720 0.2416774 | 5.1e-8 | {snyder}
+type=albers ellipsoid=clarke-1866 lat1=29.5 lat2=45.5 lat0=23 lon0=-96 | -75 35 | 1885472.7 1535925.0 | 0.051 | {snyder}
 """),
-    ("equidistant_conic", 26, equidistant_conic,
+    ("equidistant-conic", 26, equidistant_conic,
      ["lat1=29.5 lat2=45.5 lat0=23 lon0=-96", "lat1=-60 lat2=-15 lat0=-90 lon0=179", "lat1=1 lat2=-0.9 lon0=10",
       "lat1=90 lat2=40 lat0=60 lon0=77", "lat1=40 lat2=40.002 lat0=40"], """
-type=26 radius=1 lat1=29.5 lat2=45.5 lat0=23 lon0=-96 | -75 35 | 0.2952057 0.2424021 | 5.1e-8 | {snyder}
-type=26 ellipsoid=15 lat1=29.5 lat2=45.5 lat0=23 lon0=-96 | -75 35 | 1885051.9 1540507.6 | 0.051 | {snyder}
+type=equidistant-conic radius=1 lat1=29.5 lat2=45.5 lat0=23 lon0=-96 | -75 35 | 0.2952057 0.2424021 | 5.1e-8 | {snyder}
+type=equidistant-conic ellipsoid=clarke-1866 lat1=29.5 lat2=45.5 lat0=23 lon0=-96 | -75 35 | 1885051.9 1540507.6 | 0.051 | {snyder}
 """),
     ("sinusoidal", 19, sinusoidal, ["lon0=-90", "lon0=179", "lon0=0"], """
-type=19 radius=1 lon0=-90 | -75 -50 | 0.1682814 -0.8726646 | 5.1e-8 | {snyder}
-type=19 ellipsoid=15 lon0=-90 | -75 -50 | 1075471.5 -5540628.0 | 0.051 | {snyder}
+type=sinusoidal radius=1 lon0=-90 | -75 -50 | 0.1682814 -0.8726646 | 5.1e-8 | {snyder}
+type=sinusoidal ellipsoid=clarke-1866 lon0=-90 | -75 -50 | 1075471.5 -5540628.0 | 0.051 | {snyder}
 """),
     ("bonne", 21, bonne, ["lat1=40 lon0=-75", "lat1=-30 lon0=179", "lat1=90 lon0=20", "lat1=0.001", "lat1=-1e-14"], """
-type=21 radius=1 lat1=40 lon0=-75 | -85 30 | -0.1508418 -0.1661807 | 5.1e-8 | {snyder}
-type=21 ellipsoid=15 lat1=40 lon0=-75 | -85 30 | -962915.1 -1056065.0 | 0.051 | {snyder}
+type=bonne radius=1 lat1=40 lon0=-75 | -85 30 | -0.1508418 -0.1661807 | 5.1e-8 | {snyder}
+type=bonne ellipsoid=clarke-1866 lat1=40 lon0=-75 | -85 30 | -962915.1 -1056065.0 | 0.051 | {snyder}
 """),
     ("polyconic", 11, polyconic, ["lat0=30 lon0=-96", "lat0=-42.5 lon0=179.5", "lon0=0"], """
-type=11 radius=1 lat0=30 lon0=-96 | -75 40 | 0.2781798 0.2074541 | 5.1e-8 | {snyder}
-type=11 ellipsoid=15 lat0=30 lon0=-96 | -75 40 | 1776774.5 1319657.8 | 0.051 | {snyder}
+type=polyconic radius=1 lat0=30 lon0=-96 | -75 40 | 0.2781798 0.2074541 | 5.1e-8 | {snyder}
+type=polyconic ellipsoid=clarke-1866 lat0=30 lon0=-96 | -75 40 | 1776774.5 1319657.8 | 0.051 | {snyder}
 """),
 ]
 POLES = {1: [], 5: [1]}  # the poles that a type shows, 1 for that of the cone's side; of the others, both
@@ -160,8 +161,8 @@ def latitudes(rng, kind, side):
 
 def write(file, kind, formula, parameter_sets, published):
     rng = random.Random(kind)
-    with open(file + ".txt", "w") as out:
-        out.write("# Made by make_conic_cylindrical.py; the format is explained in tests/support/cases.h.\n")
+    with case_file.rewritten(file + ".txt") as out:
+        out.write("# Made by make_conic_cylindrical.py.\n")
         out.write("# Published worked examples, to the printed digits.\n" + published.strip().format(**SOURCES) + "\n")
         out.write("# The definition, 40 digits.\n")
         for i, words in enumerate(parameter_sets):
@@ -180,7 +181,7 @@ def write(file, kind, formula, parameter_sets, published):
                 x, y = axis * x, axis * y
                 size = float(max(abs(x), abs(y)))
                 tolerance = "5e-8" if size < 5e7 else f"{2e-15 * size:.1g}"
-                out.write(f"type={kind} ellipsoid={number} {words}{ways} | {lon!r} {lat!r} "
+                out.write(f"{case_file.record(kind, number)} {words}{ways} | {lon!r} {lat!r} "
                           f"| {mp.nstr(x, 17)} {mp.nstr(y, 17)} | {tolerance} | {ORIGIN}\n")
 
 
@@ -194,10 +195,10 @@ def append_equal_parallels(file):
             x, y = lambert(ell, record, radians(mpf(lat)), radians(mpf(lon) + 170))
             x, y = (mpf(ELLIPSOIDS[15][0]) * v for v in (x, y))
             x, y = x + mpf("152400.3048006096"), y + mpf("95169.31165862332")
-            out.write(f"type=9 zone=109 ellipsoid=15 | {lon!r} {lat!r} | {mp.nstr(x, 17)} {mp.nstr(y, 17)} "
+            out.write(f"type=state-plane-1927 zone=american-samoa ellipsoid=clarke-1866 | {lon!r} {lat!r} | {mp.nstr(x, 17)} {mp.nstr(y, 17)} "
                       f"| 5e-8 | {ORIGIN}\n")
 
 
 for row in TYPES:
     write(*row)
-append_equal_parallels("lambert_conformal_conic")
+append_equal_parallels("lambert-conformal-conic")

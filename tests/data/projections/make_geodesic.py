@@ -1,13 +1,14 @@
 #!/usr/bin/env python3
-"""Writes azimuthal_equidistant.txt and cassini.txt: geodesics by the integrals that define them (Karney 2013, (7) and
+"""Writes azimuthal-equidistant.txt and cassini.txt: geodesics by the integrals that define them (Karney 2013, (7) and
 (8)), from a start and an azimuth to an end, with 40 digits (mpmath). Run it in this folder."""
 import random
 
+import case_file
 from mpmath import asin, atan, atan2, cos, degrees, hypot, mp, mpf, nstr, pi, quad, radians, sin, sqrt, tan
 
 mp.dps = 40
-FIGURES = {"ellipsoid=47": ("6378137", "298.257223563"), "ellipsoid=15": ("6378206.4", "294.9786982"),
-           "ellipsoid=12": ("6377397.155", "299.1528128"), "ellipsoid=48": ("6370997", None),
+FIGURES = {"ellipsoid=wgs-84": ("6378137", "298.257223563"), "ellipsoid=clarke-1866": ("6378206.4", "294.9786982"),
+           "ellipsoid=bessel-1841": ("6377397.155", "299.1528128"), "ellipsoid=standard-sphere-of-6370997-meters": ("6370997", None),
            "radius=3396190 rf=169.8944472": ("3396190", "169.8944472"), "radius=6378137 rf=50": ("6378137", "50")}
 ORIGIN = "integrals along geodesics, 40 digits (mpmath)"
 
@@ -61,7 +62,7 @@ def azimuthal_equidistant(out):
             lam = pi - alpha1 if lat1 > 0 else alpha1
         else:
             length, phi2, lam = geodesic(a, f, radians(lat1), alpha1, sigma12)
-        record = f"type=28 {words} lat1={lat1} lon0={lon0}"
+        record = f"type=azimuthal-equidistant {words} lat1={lat1} lon0={lon0}"
         line(out, record, radians(lon0) + lam, phi2, length * sin(alpha1), length * cos(alpha1),
              tolerance_of(words, sigma12 / sin(sigma12)))
 
@@ -78,23 +79,23 @@ def cassini(out):
         length, phi2, lam = geodesic(a, f, foot, pi / 2, sigma12)
         east = rng.choice([-1, 1])
         y = meridian_distance(a, f, foot) - meridian_distance(a, f, radians(lat0))
-        line(out, f"type=16 {words} lat0={lat0} lon0={lon0}", radians(lon0) + east * lam, phi2, east * length, y,
+        line(out, f"type=cassini {words} lat0={lat0} lon0={lon0}", radians(lon0) + east * lam, phi2, east * length, y,
              tolerance_of(words, 1 / cos(sigma12)))
 
 
-HEADER = "# Made by make_geodesic.py; the format is explained in tests/support/cases.h.\n"
-with open("azimuthal_equidistant.txt", "w") as out:
+HEADER = "# Made by make_geodesic.py.\n"
+with case_file.rewritten("azimuthal-equidistant.txt") as out:
     out.write(HEADER + """# Published worked examples, to the printed digits.
-type=28 radius=3 lat1=40 lon0=-100 | 100 -20 | -5.8311398 5.5444634 | 1.1e-7 | Snyder (1987), Appendix A
-type=28 radius=6378388 rf=297 lat1=90 lon0=-100 | 5 80 | 1078828.3 289071.2 | 0.06 | Snyder (1987), Appendix A
+type=azimuthal-equidistant radius=3 lat1=40 lon0=-100 | 100 -20 | -5.8311398 5.5444634 | 1.1e-7 | Snyder (1987), Appendix A
+type=azimuthal-equidistant radius=6378388 rf=297 lat1=90 lon0=-100 | 5 80 | 1078828.3 289071.2 | 0.06 | Snyder (1987), Appendix A
 # That method's formulas are good to millimetres so close to the centre.
-type=28 ellipsoid=15 lat1=9.546708333333333 lon0=138.168744444444444 x0=40000 y0=60000 | 138.193030000000000 9.596525833333333 | 42665.90 65509.82 | 0.006 | EPSG guidance note 7-2, Modified Azimuthal Equidistant
+type=azimuthal-equidistant ellipsoid=clarke-1866 lat1=9.546708333333333 lon0=138.168744444444444 x0=40000 y0=60000 | 138.193030000000000 9.596525833333333 | 42665.90 65509.82 | 0.006 | EPSG guidance note 7-2, Modified Azimuthal Equidistant
 """)
     azimuthal_equidistant(out)
-with open("cassini.txt", "w") as out:
+with case_file.rewritten("cassini.txt") as out:
     out.write(HEADER + """# Published worked examples, to the printed digits.
-type=16 radius=1 lat0=-20 lon0=-75 | -90 25 | -0.2367759 0.7988243 | 5.1e-8 | Snyder (1987), Appendix A
-type=16 ellipsoid=15 lat0=40 lon0=-75 | -73 43 | 163071.1 335127.6 | 0.06 | Snyder (1987), Appendix A
-type=16 radius=31706587.88 rf=294.2606764 lat0=10.441666666666667 lon0=-61.333333333333333 x0=430000 y0=325000 | -62 10 | 66644.94 82536.22 | 0.006 | EPSG guidance note 7-2, Cassini-Soldner
+type=cassini radius=1 lat0=-20 lon0=-75 | -90 25 | -0.2367759 0.7988243 | 5.1e-8 | Snyder (1987), Appendix A
+type=cassini ellipsoid=clarke-1866 lat0=40 lon0=-75 | -73 43 | 163071.1 335127.6 | 0.06 | Snyder (1987), Appendix A
+type=cassini radius=31706587.88 rf=294.2606764 lat0=10.441666666666667 lon0=-61.333333333333333 x0=430000 y0=325000 | -62 10 | 66644.94 82536.22 | 0.006 | EPSG guidance note 7-2, Cassini-Soldner
 """)
     cassini(out)

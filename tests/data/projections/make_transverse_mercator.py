@@ -1,8 +1,9 @@
 #!/usr/bin/env python3
-"""Writes transverse_mercator.txt: the Transverse Mercator series of Snyder (1987), pp. 60-64, term by term as printed,
+"""Writes transverse-mercator.txt: the Transverse Mercator series of Snyder (1987), pp. 60-64, term by term as printed,
 and its spherical forms (pp. 58-60), evaluated with 40 digits (mpmath). Run it in this folder."""
 import random
 
+import case_file
 from mpmath import atan, cos, degrees, log, mp, mpf, pi, radians, sin, sqrt, tan
 
 mp.dps = 40
@@ -60,12 +61,12 @@ def spherical(r, k0, lat0, lon0, lon, lat):
 
 
 PUBLISHED = """# Published worked examples, to the printed digits.
-type=17 ellipsoid=15 lon0=-75 k0=0.9996 | -73.5 40.5 | 127106.5 4484124.4 | 0.05 | Snyder (1987), pp. 269-270
-type=17 radius=1 lon0=-75 | -73.5 40.5 | 0.0199077 0.7070276 | 5.1e-8 | Snyder (1987), p. 268
+type=transverse-mercator ellipsoid=clarke-1866 lon0=-75 k0=0.9996 | -73.5 40.5 | 127106.5 4484124.4 | 0.05 | Snyder (1987), pp. 269-270
+type=transverse-mercator radius=1 lon0=-75 | -73.5 40.5 | 0.0199077 0.7070276 | 5.1e-8 | Snyder (1987), p. 268
 """
 
-with open("transverse_mercator.txt", "w") as out:
-    out.write("# Made by make_transverse_mercator.py; the format is explained in tests/support/cases.h.\n" + PUBLISHED)
+with case_file.rewritten("transverse-mercator.txt") as out:
+    out.write("# Made by make_transverse_mercator.py.\n" + PUBLISHED)
     out.write("# The series itself, 40 digits.\n")
     rng = random.Random(3)
     origin = "series of Snyder (1987), pp. 58-64, 40 digits (mpmath)"
@@ -80,10 +81,10 @@ with open("transverse_mercator.txt", "w") as out:
         kind = 17 + i % 2
         if i % 5 == 4:
             x, y = spherical(mpf(6370997), mpf(k0), lat0, lon0, mpf(repr(lon)), mpf(repr(lat)))
-            out.write(f"type={kind} ellipsoid=48 lat0={lat0} lon0={lon0} k0={k0} | {lon!r} {lat!r} "
+            out.write(f"{case_file.record(kind, 48)} lat0={lat0} lon0={lon0} k0={k0} | {lon!r} {lat!r} "
                       f"| {mp.nstr(x, 17)} {mp.nstr(y, 17)} | 1e-6 | {origin}\n")
             continue
-        record = f"type={kind} ellipsoid={ell} lat0={lat0} lon0={lon0} k0={k0}"
+        record = f"{case_file.record(kind, ell)} lat0={lat0} lon0={lon0} k0={k0}"
         x, y = ellipsoidal(a, f, mpf(k0), lat0, lon0, mpf(repr(lon)), mpf(repr(lat)))
         out.write(f"{record} forward | {lon!r} {lat!r} | {mp.nstr(x, 17)} {mp.nstr(y, 17)} | 1e-6 | {origin}\n")
         if abs(lat) == 90:

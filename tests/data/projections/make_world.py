@@ -4,6 +4,7 @@ evaluated with 40 digits (mpmath): Mollweide, Eckert IV and VI, Van der Grinten 
 as the spline and the central differences through his table. Run it in this folder."""
 import random
 
+import case_file
 from mpmath import asin, cos, findroot, floor, lu_solve, matrix, mp, mpf, nstr, pi, sin, sqrt, tan
 
 mp.dps = 40
@@ -102,8 +103,8 @@ def robinson_sterling(r, lam, phi):
 
 def write(name, kind, project, origin, published="", has_lon0=True):
     rng = random.Random(kind)
-    with open(name, "w") as out:
-        out.write("# Made by make_world.py; the format is explained in tests/support/cases.h.\n" + published)
+    with case_file.rewritten(name) as out:
+        out.write("# Made by make_world.py.\n" + published)
         for i in range(24):
             ellipsoid = rng.choice(list(RADII))
             lon0 = rng.choice([-177, -85.5, 0, 9, 117.25, 179]) if has_lon0 else 0
@@ -111,7 +112,7 @@ def write(name, kind, project, origin, published="", has_lon0=True):
             away = [0, 0, -180, 120, 180, 0][i] if i < 6 else round(rng.uniform(-180, 180), 6)
             lon = mpf(repr(lon0)) + mpf(repr(away))
             x, y = project(mpf(RADII[ellipsoid]), mpf(repr(away)) * pi / 180, mpf(repr(lat)) * pi / 180)
-            record = f"type={kind} ellipsoid={ellipsoid}" + (f" lon0={lon0}" if has_lon0 else "")
+            record = case_file.record(kind, ellipsoid) + (f" lon0={lon0}" if has_lon0 else "")
             record += " forward" if abs(lat) == 90 else ""  # the northing's last digit is metres of latitude there
             tolerance = "1e-6" if lat == 89.9 else "5e-8"
             out.write(f"{record} | {nstr(lon, 15)} {lat!r} | {nstr(x, 18)} {nstr(y, 18)} | {tolerance} | {origin}, "
@@ -120,16 +121,16 @@ def write(name, kind, project, origin, published="", has_lon0=True):
 
 SNYDER = "definition of Snyder (1987)"
 write("mollweide.txt", 8, mollweide, SNYDER, """# Published worked example, to the printed digits.
-type=8 radius=1 lon0=-90 | -75 -50 | 0.1788845 -0.9208758 | 5.1e-8 | Snyder (1987), Appendix A
+type=mollweide radius=1 lon0=-90 | -75 -50 | 0.1788845 -0.9208758 | 5.1e-8 | Snyder (1987), Appendix A
 """)
-write("eckert_iv.txt", 23, eckert4, SNYDER, """# Published worked example, to the printed digits.
-type=23 radius=1 lon0=-90 | -75 -50 | 0.1875270 -0.9519210 | 5.1e-8 | Snyder (1987), Appendix A
+write("eckert-4.txt", 23, eckert4, SNYDER, """# Published worked example, to the printed digits.
+type=eckert-4 radius=1 lon0=-90 | -75 -50 | 0.1875270 -0.9519210 | 5.1e-8 | Snyder (1987), Appendix A
 """)
-write("eckert_vi.txt", 24, eckert6, SNYDER, """# Published worked example, to the printed digits.
-type=24 radius=1 lon0=-90 | -75 -50 | 0.1693623 -0.9570223 | 5.1e-8 | Snyder (1987), Appendix A
+write("eckert-6.txt", 24, eckert6, SNYDER, """# Published worked example, to the printed digits.
+type=eckert-6 radius=1 lon0=-90 | -75 -50 | 0.1693623 -0.9570223 | 5.1e-8 | Snyder (1987), Appendix A
 """)
-write("van_der_grinten.txt", 15, van_der_grinten, SNYDER, """# Published worked example, to the printed digits.
-type=15 radius=1 lon0=-85 | -160 -50 | -1.1954154 -0.9960733 | 5.1e-8 | Snyder (1987), Appendix A
+write("van-der-grinten.txt", 15, van_der_grinten, SNYDER, """# Published worked example, to the printed digits.
+type=van-der-grinten radius=1 lon0=-85 | -160 -50 | -1.1954154 -0.9960733 | 5.1e-8 | Snyder (1987), Appendix A
 """)
 write("robinson.txt", 14, robinson, "not-a-knot spline through Robinson's table", has_lon0=False)
-write("robinson_sterling.txt", 22, robinson_sterling, "Stirling's differences in Robinson's table")
+write("robinson-sterling.txt", 22, robinson_sterling, "Stirling's differences in Robinson's table")
