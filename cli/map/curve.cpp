@@ -193,16 +193,47 @@ constexpr double opposite = -0.9; // the cosine of the angle between two directi
 
 struct Step {
     MapPoint from, to;
+
+    MapPoint middle() const { return {(from.x + to.x) / 2, (from.y + to.y) / 2}; }
 };
 
 /// Whether a step passes the middle of another one, the other way round.
 bool runsBack(Step const& step, Step const& other, double width) {
-    MapPoint const middle{(step.from.x + step.to.x) / 2, (step.from.y + step.to.y) / 2};
     MapPoint const a{step.to.x - step.from.x, step.to.y - step.from.y};
     MapPoint const b{other.to.x - other.from.x, other.to.y - other.from.y};
     return a.x * b.x + a.y * b.y < opposite * std::hypot(a.x, a.y) * std::hypot(b.x, b.y) &&
-           distanceFrom(other.from, other.to, middle) <= width;
+           distanceFrom(other.from, other.to, step.middle()) <= width;
 }
+
+/// Steps sorted into upright strips of the picture, so that of many only the near ones are looked at.
+class Strips {
+public:
+    /// width: how far from a point its near steps may be.
+    Strips(std::span<Step const> steps, double width) {
+        auto const [first, last] = std::ranges::minmax(steps, {}, leftOf);
+        m_left = leftOf(first) - width;
+        m_strips.resize(static_cast<std::size_t>((leftOf(last) - m_left) / stripWidth) + 1);
+        for (Step const& step : steps) {
+            std::size_t const right = strip(std::max(step.from.x, step.to.x) + width + 1);
+            for (std::size_t i = strip(leftOf(step) - width - 1); i <= right; ++i)
+                m_strips[i].push_back(step);
+        }
+    }
+
+    std::span<Step const> near(MapPoint const& point) const { return m_strips[strip(point.x)]; }
+
+private:
+    static constexpr double stripWidth = 50;
+
+    static double leftOf(Step const& step) { return std::min(step.from.x, step.to.x); }
+    std::size_t strip(double x) const {
+        return static_cast<std::size_t>(
+            std::clamp((x - m_left) / stripWidth, 0.0, static_cast<double>(m_strips.size() - 1)));
+    }
+
+    double m_left;
+    std::vector<std::vector<Step>> m_strips;
+};
 
 } // namespace
 
@@ -211,10 +242,14 @@ std::vector<std::vector<MapPoint>> withoutSeams(std::vector<std::vector<MapPoint
     for (auto const& line : lines)
         for (std::size_t i = 0; i + 1 < line.size(); ++i)
             steps.push_back({line[i], line[i + 1]});
+    if (steps.empty())
+        return {};
+    Strips const strips(steps, width);
     std::vector<std::vector<MapPoint>> result;
     Step const* last = nullptr; // the step before, if it is in the result
     for (Step const& step : steps) {
-        bool const seam = std::ranges::any_of(steps, [&](Step const& other) { return runsBack(step, other, width); });
+        bool const seam = std::ranges::any_of(strips.near(step.middle()),
+                                              [&](Step const& other) { return runsBack(step, other, width); });
         if (!seam && !(last && last->to.x == step.from.x && last->to.y == step.from.y))
             result.push_back({step.from});
         if (!seam)

@@ -1,6 +1,7 @@
 #include "cli/text/svg.h"
 
 #include <cmath>
+#include <vector>
 
 namespace ZrProj::Command {
 namespace {
