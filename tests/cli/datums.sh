@@ -19,20 +19,10 @@ check 'header, angles and lines' 1 $'id,lon,lat,longitude,latitude\n1,100W,40N,-
     datum --from nad27 --to wgs84 <<<$'id,lon,lat\n1,100W,40N\n2,x,40'
 
 refused 'no datums' 'the datums are missing; give --from and --to' datum --from nad27
-refused 'unknown' 'unknown datum "tokio"; the nearest: *"Tokyo"*' datum --from tokio --to wgs84
-refused 'no code' 'no datum has the number or POSC code 9999;*' datum --from 9999 --to wgs84
 refused 'one way' 'points can be converted from "NAD 1927 - CONUS (NADCON)", not to it: NADCON *' datum --from nad27 --to 232
 refused 'one way' 'points can be converted from "*\(MRE\)", not to it: regression *' datum --from nad27 --to 229
 refused 'no name' '"method=none" is no datum;*' datum --define method=none --from x --to wgs84
-refused 'no method' 'the datum "x" has no method;*' datum --define 'x: dx=1' --from x --to wgs84
-refused 'wrong method' 'method: "nadcon" is none of *' datum --define 'x: method=nadcon' --from x --to wgs84
-refused 'wrong key' 'a datum has no field "dq"; there are *' datum --define 'x: method=none, dq=1' --from x --to wgs84
-refused 'wrong number' 'dx: "1m" is not a number' datum --define 'x: method=none, dx=1m' --from x --to wgs84
-refused 'twice' 'the datum "x" has "DX" twice' datum --define 'x: method=none, dx=1, DX=1' --from x --to wgs84
-refused 'the library refuses' 'the datum "x" cannot be used: Ellipsoid radius *' \
-    datum --define 'x: method=molodensky, dx=1' --from x --to wgs84
 
-refused 'a short name' 'the name "NAD27" is one of the catalogue*' datum --define 'NAD27: method=none' --from nad27 --to wgs84
 
 # The Amazon is beyond the equations of Brazil's east, and Tokyo beyond everything.
 check 'equations beyond their area' 1 "$("$zrproj" datum --from 227 --to wgs84 2>/dev/null <<<$'-40 -20\n-67 -1\n140 36')" \

@@ -5,27 +5,17 @@ refused() { check "$1" 2 '' "zrproj: $2" "${@:3}" </dev/null; }
 
 refused 'none' 'no projection; give --utm*' forward
 refused 'two' 'more than one projection*' forward --utm 17N -p 4
-refused 'unknown' 'unknown projection "merkator"; the nearest: *"Mercator"*' forward -p merkator
 refused 'ambiguous' '"lambert" fits more than one projection: "Lambert Conformal Conic", "Lambert Azimuthal Equal Area"' \
     forward -p lambert
-refused 'unused' '--lat1 is not used by Transverse Mercator, which uses: --ellipsoid,*--lat0' forward -p 17 --lat1 40
 refused 'the library refuses' '--lat1: Standard parallels (Lat1, Lat2) cannot be similar*' forward -p 5
 refused 'no words of the library' '--lat1: not a value*' forward -p 'oblique mercator (' --lat2 1 --lat1 0
-refused 'bad number' '--lon0: "45N" has a latitude'\''s letter' forward -p 17 --lon0 45N
-refused 'scale' '--k0: "0" is not greater than zero' forward -p 17 --k0 0
-refused 'told by the zone' '--south has no place beside --utm*' forward --utm 17N --south
-refused 'zone' '--utm: "61N" is no zone*' forward --utm 61N
 refused 'units' '--units: "yards" is none of*' forward --utm 17N --units yards
 refused 'precision' '--precision: "1.5" *' forward --utm 17N --precision 1.5
 refused 'nothing to convert' 'Unprojected Lat/Long leaves points*' forward -p 0
 refused 'unknown option' '*--frob*' forward --frob
 refused 'no command' 'no command*'
 
-refused 'year without the zone' 'the zone "California VII" has no definition of 1983; give --year 1927' \
-    forward --state-plane 'california vii'
 refused 'misspelt' 'unknown State Plane zone "Delaware"; the nearest: "Deleware"' forward --state-plane Delaware
-refused 'code of another year' 'the POSC code 26741 is that of a definition of 1927*' \
-    forward --state-plane 26741 --year 1983
 refused 'no such code' 'no State Plane zone has the USGS or POSC code 5;*' forward --state-plane 5
 refused 'year' '--year: "1984" is neither*' forward --state-plane 401 --year 1984
 
