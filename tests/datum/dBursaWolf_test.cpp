@@ -64,7 +64,7 @@ TEST(BursaWolf, NeedsNoLoop) {
     double const lats[] = {-90, -89.999, -60, -30, -1e-9, 0, 20, 45, 70, 89, 90};
     test::forEachLevel([&](formulas::Level) {
         for (auto const& r : records) {
-            auto request = test::datumRequest(0, 0);
+            auto request = test::datumRequest(DatumTypeUserDefined, DatumTypeUserDefined);
             request.SourceParams = r;
             test::DatumHandle const handle(request);
             for (double const lat : lats)

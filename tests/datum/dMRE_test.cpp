@@ -39,7 +39,7 @@ TEST(Regression, GivesThePublishedExamples) {
         double const lat = std::copysign(std::abs(latD) + latM / 60 + latS / 3600, latD);
         double const lon = lonD + lonM / 60 + lonS / 3600;
         test::forEachLevel([&](formulas::Level) {
-            auto const p = DatumHandle(toOrFromWgs84(static_cast<int>(type), true))(lon, lat);
+            auto const p = DatumHandle(toOrFromWgs84(static_cast<DatumType>(type), true))(lon, lat);
             EXPECT_NEAR((p.y - lat) * 3600, north, 0.0006) << line;
             EXPECT_NEAR((p.x - lon) * 3600, east, 0.0006) << line;
         });

@@ -16,7 +16,7 @@ bool converts(CDatumTransform& transform) {
 } // namespace
 
 TEST(DatumTransform, OwnsItsHandle) {
-    DATUMXFORM request = datumRequest(5, 3);
+    DATUMXFORM request = datumRequest(DatumTypeEuropean1950Mean, DatumTypeWorldGeodeticSystem1984);
     CDatumTransform transform;
     EXPECT_FALSE(transform.IsCreated());
     EXPECT_FALSE(transform.GetInfo(&request));
@@ -32,7 +32,7 @@ TEST(DatumTransform, OwnsItsHandle) {
 }
 
 TEST(DatumTransform, CopiesDeeply) {
-    DATUMXFORM const request = datumRequest(5, 3);
+    DATUMXFORM const request = datumRequest(DatumTypeEuropean1950Mean, DatumTypeWorldGeodeticSystem1984);
     CDatumTransform source(&request);
     DATUMPOINT broken{std::numeric_limits<double>::quiet_NaN(), 0};
     EXPECT_TRUE(source.Convert(&broken, 1));
@@ -47,7 +47,7 @@ TEST(DatumTransform, CopiesDeeply) {
 
 // What the address sanitizer watches: no sharer frees what another still uses.
 TEST(DatumTransform, SharesItsHandleOnAssignment) {
-    DATUMXFORM const request = datumRequest(5, 3);
+    DATUMXFORM const request = datumRequest(DatumTypeEuropean1950Mean, DatumTypeWorldGeodeticSystem1984);
     auto first = std::make_unique<CDatumTransform>(&request);
     CDatumTransform second(&request);
     second = *first;

@@ -20,15 +20,15 @@ namespace {
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 constexpr double infinity = std::numeric_limits<double>::infinity();
 
-DATUM2WGS84 paramsOf(int type, bool fromWgs84) {
+DATUM2WGS84 paramsOf(DatumType type, bool fromWgs84) {
     DATUM2WGS84 params{};
-    EXPECT_TRUE(DatGetDatumParams(static_cast<DatumType>(type), &params));
+    EXPECT_TRUE(DatGetDatumParams(type, &params));
     params.bFromWGS84 = fromWgs84;
     return params;
 }
 
 DATUMXFORM ownEnds(DATUM2WGS84 const& source, DATUM2WGS84 const& destination) {
-    DATUMXFORM request = datumRequest(0, 0);
+    DATUMXFORM request = datumRequest(DatumTypeUserDefined, DatumTypeUserDefined);
     request.SourceParams = source;
     request.DestinationParams = destination;
     return request;
@@ -55,7 +55,7 @@ void expectRefused(DATUMXFORM const& request) {
 } // namespace
 
 TEST(DatumConversion, RefusesBadArguments) {
-    DatumHandle const handle(datumRequest(2, 3));
+    DatumHandle const handle(datumRequest(DatumTypeNorthAmericanDatum1927, DatumTypeWorldGeodeticSystem1984));
     ErrorHost host;
     DATUMPOINT point{-90, 40};
     DATUMXFORM request{};
@@ -72,23 +72,27 @@ TEST(DatumConversion, RefusesBadArguments) {
 }
 
 TEST(DatumConversion, RefusesWhatCannotBeRun) {
-    for (int const oneWay : {224, 229, 231, 232, 233}) {
-        expectRefused(datumRequest(2, oneWay));
-        expectRefused(datumRequest(0, oneWay));
+    for (DatumType const oneWay :
+         {DatumTypeAustralianGeodetic1966Mre, DatumTypeNad1927ConusMre, DatumTypeSouthAmerican1969Mre,
+          DatumTypeNad1927ConusNadcon, DatumTypeNad1927PuertoRicoVirginIslandsNadcon}) {
+        expectRefused(datumRequest(DatumTypeNorthAmericanDatum1927, oneWay));
+        expectRefused(datumRequest(DatumTypeUserDefined, oneWay));
     }
     for (auto const method : {DatumMethodNadcon, DatumMethodMRE}) {
         DATUM2WGS84 own{};
         own.Method = method;
         expectRefused(ownEnds(own, {}));
         expectRefused(ownEnds({}, own));
-        DATUMXFORM request = datumRequest(0, 3);
+        DATUMXFORM request = datumRequest(DatumTypeUserDefined, DatumTypeWorldGeodeticSystem1984);
         request.SourceParams = own;
         expectRefused(request);
     }
 }
 
 TEST(DatumConversion, LeavesPointsOfOneDatumAlone) {
-    for (int const type : {1, 2, 215, 229, 232}) {
+    for (DatumType const type :
+         {DatumTypeNorthAmericanDatum1983, DatumTypeNorthAmericanDatum1927, DatumTypeWorldGeodeticSystem1972BursaWolf,
+          DatumTypeNad1927ConusMre, DatumTypeNad1927ConusNadcon}) {
         DatumHandle const handle(datumRequest(type, type));
         DATUMPOINT points[] = {{500, 100}, {notANumber, DBL_MAX}};
         EXPECT_TRUE(DatConvertDatum(handle.handle, points, 2));
@@ -101,22 +105,24 @@ TEST(DatumConversion, LeavesPointsOfOneDatumAlone) {
 
 TEST(DatumConversion, NormalisesAndKeepsTheCallersSide) {
     test::forEachLevel([](formulas::Level) {
-        for (int const type : {2, 217}) {
-            DatumHandle const handle(datumRequest(type, 3));
+        for (DatumType const type : {DatumTypeNorthAmericanDatum1927, DatumTypeDhdnBursaWolf}) {
+            DatumHandle const handle(datumRequest(type, DatumTypeWorldGeodeticSystem1984));
             auto const east = handle(-160, 40);
             EXPECT_GT(std::abs(east.x + 160), 1e-5);
             expectNear(handle(200, 40), {east.x + 360, east.y});
             expectNear(handle(560, 40), {east.x + 360, east.y});
             auto const west = handle(160, 40);
             expectNear(handle(-200, 40), {west.x - 360, west.y});
-            expectNear(handle(180, 40), {handle(-180, 40).x + (type == 2 ? 360 : 0), handle(-180, 40).y}, 1e-11);
+            expectNear(handle(180, 40),
+                       {handle(-180, 40).x + (type == DatumTypeNorthAmericanDatum1927 ? 360 : 0), handle(-180, 40).y},
+                       1e-11);
             expectNear(handle(10, 100), handle(10, 80), 0);
             expectNear(handle(10, -100), handle(10, -80), 0);
             expectNear(handle(10, 260), handle(10, 80), 0);
             expectNear(handle(0, 0), handle(360, 180), 0);
             EXPECT_FALSE(DatHadUnplottables(handle.handle));
         }
-        DatumHandle const nothing(datumRequest(0, 0));
+        DatumHandle const nothing(datumRequest(DatumTypeUserDefined, DatumTypeUserDefined));
         expectNear(nothing(-359.5, 10), {-359.5, 10}, 1e-13);
         expectNear(nothing(-365, -95), {-5, -85}, 0);
     });
@@ -124,7 +130,7 @@ TEST(DatumConversion, NormalisesAndKeepsTheCallersSide) {
 
 TEST(DatumConversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
     test::forEachLevel([](formulas::Level) {
-        DatumHandle const handle(datumRequest(5, 215));
+        DatumHandle const handle(datumRequest(DatumTypeEuropean1950Mean, DatumTypeWorldGeodeticSystem1972BursaWolf));
         auto const good = handle(9, 45);
         for (auto const& bad : {DATUMPOINT{9, notANumber},
                                 {notANumber, 45},
@@ -148,7 +154,7 @@ TEST(DatumConversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
 // The record's flag is the direction: set for neither end, both go towards WGS 84.
 TEST(DatumConversion, AppliesOwnRecordsInTheirDirection) {
     test::forEachLevel([](formulas::Level) {
-        for (int const type : {8, 217}) {
+        for (DatumType const type : {DatumTypeAdindanMean, DatumTypeDhdnBursaWolf}) {
             DatumHandle const from(toOrFromWgs84(type, true)), to(toOrFromWgs84(type, false));
             auto const forth = paramsOf(type, false), back = paramsOf(type, true);
             auto const p = from(30, 15), q = to(30, 15);
@@ -159,7 +165,9 @@ TEST(DatumConversion, AppliesOwnRecordsInTheirDirection) {
             auto request = ownEnds(forth, back); // any byte but 0 sets the flag
             std::memset(&request.DestinationParams.bFromWGS84, 0x80, 1);
             expectNear(DatumHandle(request)(30, 15), to(p.x, p.y));
-            request = datumRequest(0, 3); // the caller's figures of a catalogue ellipsoid are not believed
+            request = datumRequest(
+                DatumTypeUserDefined,
+                DatumTypeWorldGeodeticSystem1984); // the caller's figures of a catalogue ellipsoid are not believed
             request.SourceParams = forth;
             request.SourceParams.MajorRadius = 1;
             expectNear(DatumHandle(request)(30, 15), p);
@@ -169,14 +177,14 @@ TEST(DatumConversion, AppliesOwnRecordsInTheirDirection) {
 
 TEST(DatumConversion, MarksWhatAFormulaCannotGive) {
     test::forEachLevel([](formulas::Level) {
-        auto own = paramsOf(217, false);
+        auto own = paramsOf(DatumTypeDhdnBursaWolf, false);
         own.Scale = -1e6; // shrinks the Earth to the point (dX, dY, dZ)
         expectNear(DatumHandle(ownEnds(own, {}))(10, 20), DatumHandle(ownEnds(own, {}))(50, -60), 0);
         own.dX = own.dY = own.dZ = 0;
         EXPECT_TRUE(isMarked(DatumHandle(ownEnds(own, {}))(10, 20)));
         own.bFromWGS84 = true;
         EXPECT_TRUE(isMarked(DatumHandle(ownEnds(own, {}))(10, 20)));
-        own = paramsOf(2, false);
+        own = paramsOf(DatumTypeNorthAmericanDatum1927, false);
         own.dX = notANumber;
         DatumHandle const handle(ownEnds(own, {}));
         EXPECT_TRUE(isMarked(handle(10, 20)));
@@ -187,18 +195,23 @@ TEST(DatumConversion, MarksWhatAFormulaCannotGive) {
 }
 
 TEST(DatumConversion, AppliesAPrimeMeridianAsAShift) {
-    DatumHandle const paris(datumRequest(147, 148)); // one datum but for meridian, ellipsoid and shifts
+    DatumHandle const paris(
+        datumRequest(DatumTypeNtfFranceParisMeridian,
+                     DatumTypeNtfFranceGreenwichMeridian)); // one datum but for meridian, ellipsoid and shifts
     EXPECT_NEAR(paris(0, 48.85).x, 2.337229167, 2e-3);
-    DatumHandle const bursaWolf(datumRequest(222, 3));
+    DatumHandle const bursaWolf(
+        datumRequest(DatumTypeNtfFranceParisMeridianBursaWolf, DatumTypeWorldGeodeticSystem1984));
     EXPECT_NEAR(bursaWolf(0, 48.85).x, 2.337229167, 2e-3);
-    DatumHandle const back(datumRequest(3, 222));
+    DatumHandle const back(datumRequest(DatumTypeWorldGeodeticSystem1984, DatumTypeNtfFranceParisMeridianBursaWolf));
     EXPECT_NEAR(back(2.337229167, 48.85).x, 0, 2e-3);
 }
 
 TEST(DatumConversion, PolesAreConvertedInLatitude) {
     test::forEachLevel([](formulas::Level) {
         for (double const pole : {90.0, -90.0}) {
-            DatumHandle const molodensky(datumRequest(2, 3)), bursaWolf(datumRequest(217, 3));
+            DatumHandle const molodensky(
+                datumRequest(DatumTypeNorthAmericanDatum1927, DatumTypeWorldGeodeticSystem1984)),
+                bursaWolf(datumRequest(DatumTypeDhdnBursaWolf, DatumTypeWorldGeodeticSystem1984));
             EXPECT_NEAR(molodensky(30, pole).y, pole, 1e-2);
             EXPECT_NEAR(bursaWolf(30, pole).y, pole, 1e-2);
             EXPECT_FALSE(DatHadUnplottables(molodensky.handle));
@@ -208,10 +221,18 @@ TEST(DatumConversion, PolesAreConvertedInLatitude) {
 
 // The first step leaves a longitude without meaning, up to 1e17 degrees: the second may turn by it, but not run away.
 TEST(DatumConversion, PolesAreConvertedThroughTwoSteps) {
-    int const datums[] = {2, 3, 5, 8, 147, 106, 217, 220, 222};
+    DatumType const datums[] = {DatumTypeNorthAmericanDatum1927,
+                                DatumTypeWorldGeodeticSystem1984,
+                                DatumTypeEuropean1950Mean,
+                                DatumTypeAdindanMean,
+                                DatumTypeNtfFranceParisMeridian,
+                                DatumTypeKusaieAstro1951,
+                                DatumTypeDhdnBursaWolf,
+                                DatumTypeMrtEverestModifiedBursaWolf,
+                                DatumTypeNtfFranceParisMeridianBursaWolf};
     test::forEachLevel([&](formulas::Level) {
-        for (int const from : datums)
-            for (int const to : datums)
+        for (DatumType const from : datums)
+            for (DatumType const to : datums)
                 for (double const pole : {90.0, -90.0})
                     for (double const longitude : {-180.0, -77.0, 0.0, 120.0, 180.0}) {
                         if (from == to)
@@ -229,10 +250,10 @@ TEST(DatumConversion, PolesAreConvertedThroughTwoSteps) {
 TEST(DatumConversion, StepsTakeALongitudeWithoutItsTurns) {
     test::forEachLevel([&](formulas::Level) {
         for (double const shift : {1e12, 1e18, -1e18}) {
-            auto far = paramsOf(2, false);
+            auto far = paramsOf(DatumTypeNorthAmericanDatum1927, false);
             far.dX = shift;
             far.dZ = 0;
-            DATUM2WGS84 const next = paramsOf(5, true);
+            DATUM2WGS84 const next = paramsOf(DatumTypeEuropean1950Mean, true);
             auto const left = DatumHandle(ownEnds(far, {}))(20, 0);
             auto const both = DatumHandle(ownEnds(far, next))(20, 0);
             auto const alone = DatumHandle(ownEnds({}, next))(left.x, left.y);
@@ -268,14 +289,15 @@ TEST(DatumConversion, IsNotHitByTheHostsTraps) {
         for (double const y : inputs)
             points.push_back({x, y});
     auto const count = static_cast<int>(points.size());
-    auto own = paramsOf(217, false);
+    auto own = paramsOf(DatumTypeDhdnBursaWolf, false);
     own.Scale = -1e6;
     own.bFromWGS84 = true; // divides by zero
     bool untouched = false;
     {
         TrapsEnabled const traps;
-        for (int const type : {2, 217, 229}) {
-            DatumHandle const handle(datumRequest(type, 222));
+        for (DatumType const type :
+             {DatumTypeNorthAmericanDatum1927, DatumTypeDhdnBursaWolf, DatumTypeNad1927ConusMre}) {
+            DatumHandle const handle(datumRequest(type, DatumTypeNtfFranceParisMeridianBursaWolf));
             auto some = points;
             DatConvertDatum(handle.handle, some.data(), count);
         }

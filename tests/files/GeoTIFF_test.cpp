@@ -324,9 +324,9 @@ TEST(GeoTIFF, RefusesRecordsThatTagsCannotSay) {
         sphere.MajorRadius = 6371000;
         EXPECT_EQ(Made(sphere, DatumTypeNone).refusal, "");
     }
-    EXPECT_NE(Made(wgs, DatumTypeNorthAmericanDatum1927).refusal, ""); // another ellipsoid
-    EXPECT_NE(Made(wgs, static_cast<DatumType>(222)).refusal, "");     // from Paris
-    EXPECT_NE(Made(wgs, DatumTypeUserDefined).refusal, "");            // without its parameters
+    EXPECT_NE(Made(wgs, DatumTypeNorthAmericanDatum1927).refusal, "");          // another ellipsoid
+    EXPECT_NE(Made(wgs, DatumTypeNtfFranceParisMeridianBursaWolf).refusal, ""); // from Paris
+    EXPECT_NE(Made(wgs, DatumTypeUserDefined).refusal, "");                     // without its parameters
     EXPECT_NE(Made(wgs, static_cast<DatumType>(-7)).refusal, "");
     PROJDATA beyond = recordOf(ProjTypeTransverseMercator, EllipsoidTypeWgs84);
     beyond.Lat0 = 100;

@@ -41,7 +41,7 @@ void fill(Map& map, int type) {
     p.Zone = StateZoneTypeCaliforniaI;
     p.Ellipsoid = type % 2 ? EllipsoidTypeUserDefined : EllipsoidTypeClarke1866;
     p.MajorRadius = 6378000.5, p.Flattening = 0.0033;
-    map.datum = static_cast<DatumType>(5);
+    map.datum = DatumTypeEuropean1950Mean;
     DATUM2WGS84& d = map.parameters;
     d.Method = static_cast<DatumMethod>(type % 7);
     d.Ellipsoid = type % 7 == 2 ? EllipsoidTypeUserDefined : EllipsoidTypeClarke1866;

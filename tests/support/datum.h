@@ -9,17 +9,17 @@
 
 namespace ZrProj::test {
 
-/// By their numbers; a user-defined end (0) carries nothing yet.
-inline DATUMXFORM datumRequest(int source, int destination) {
+/// A user-defined end carries nothing yet.
+inline DATUMXFORM datumRequest(DatumType source, DatumType destination) {
     DATUMXFORM request{};
-    request.Source = static_cast<DatumType>(source);
-    request.Destination = static_cast<DatumType>(destination);
+    request.Source = source;
+    request.Destination = destination;
     return request;
 }
 
 /// From a datum to WGS 84 ("from"), or from WGS 84 to it, and nothing else: the other end does nothing.
-inline DATUMXFORM toOrFromWgs84(int datum, bool from) {
-    return from ? datumRequest(datum, 0) : datumRequest(0, datum);
+inline DATUMXFORM toOrFromWgs84(DatumType datum, bool from) {
+    return from ? datumRequest(datum, DatumTypeUserDefined) : datumRequest(DatumTypeUserDefined, datum);
 }
 
 struct DatumHandle {
