@@ -18,7 +18,8 @@ constexpr int answerSendReport = 1;
 constexpr int answerFailed = 3;
 constexpr std::uint16_t fullReport = 0x4000;
 
-/// One call of the host's callback, looked up afresh. Where there is none, or it throws, the report failed.
+/// Calls the host's callback once, looked up afresh, and returns its answer. Where there is none, or it throws, the
+/// report has failed.
 int tellHost(_ZRERRINFO const& info) noexcept {
     ZrCallerInstance const* const host = ZrGetCallerInstancePtr();
     ZrErrorFunc const callback = host ? host->GetErrorFunc() : nullptr;

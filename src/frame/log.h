@@ -9,13 +9,14 @@ namespace ZrProj {
 /// switches it off. Not to be called while another thread logs.
 void LogInit(int enabled, char const* fileName) noexcept;
 
+/// Whether the log is on.
 bool LogIsEnabled() noexcept;
 
 /// Appends the text, every "\n" as CR LF, at most 1024 bytes of it. Does nothing while the log is off. The file is
 /// opened and closed by each call, so that the log survives a crash; a file that cannot be opened loses the line.
 void LogWrite(char const* text) noexcept;
 
-/// LogWrite of a formatted text; what is over 1039 bytes is cut.
+/// Appends a formatted text as LogWrite does; what is over 1039 bytes is cut.
 [[gnu::format(printf, 1, 2)]] void LogPrintf(char const* format, ...) noexcept;
 
 } // namespace ZrProj

@@ -1,4 +1,5 @@
-// What happens when the library is loaded, and when it goes: the log is set up and framed.
+// What happens when the library is loaded and when it is unloaded: the log is set up, and its lines stand between two
+// headings with the time.
 #include "log.h"
 
 #include "host/platform.h"

@@ -15,20 +15,20 @@ struct Controls {
     std::size_t size() const { return source.size(); }
 };
 
-/// And none of them marked.
+/// Whether all coordinates are finite and none of the points is marked.
 bool areFinite(Controls const& controls) noexcept;
 
-/// The middle of some points' bounding box, and the half of its longer side.
+/// The centre of some points' bounding box, and half of its longer side.
 struct Extent {
     GEOREFPOINT centre;
     double halfSize;
 };
 
-/// Of at least one point.
+/// The extent of the points; there must be at least one.
 Extent extentOf(std::span<GEOREFPOINT const> points) noexcept;
 
-/// What is no more than rounding, of coordinates of this extent and where they lie, against the extent itself: the
-/// tolerance for a rank test. A millionth of a pixel in 100,000 is more.
+/// The tolerance of a rank test for points of this extent: how large the rounding of their coordinates, which grows
+/// with the distance from the origin, may get beside the extent itself. A millionth of a pixel in 100,000 is above it.
 double rankTolerance(Extent const& extent) noexcept;
 
 } // namespace ZrProj

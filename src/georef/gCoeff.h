@@ -5,10 +5,11 @@
 
 namespace ZrProj {
 
-/// X = A x + B y + C and Y = D x + E y + F of the record.
+/// The map X = A x + B y + C and Y = D x + E y + F of the record's coefficients.
 formulas::Polynomial coefficientMap(GEOREF const& georef) noexcept;
 
-/// Writes a finite affine map into the record's A to F. False, nothing written, where C or F would not be finite.
+/// Writes a finite affine map into the record's A to F. Returns false, with nothing written, where C or F would not be
+/// finite.
 bool setCoefficients(GEOREF& georef, formulas::Polynomial const& map) noexcept;
 
 } // namespace ZrProj

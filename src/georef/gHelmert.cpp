@@ -9,7 +9,7 @@
 namespace ZrProj {
 namespace {
 
-/// The mean of the points. Counted from the first one, so that for points all in one place it is that place exactly.
+/// The mean of the points. It is counted from the first one, so that for coincident points it is exactly their point.
 GEOREFPOINT centroid(std::span<GEOREFPOINT const> points) noexcept {
     if (points.empty())
         return {};

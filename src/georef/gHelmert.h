@@ -6,8 +6,8 @@
 
 namespace ZrProj {
 
-/// X = a x - b y + c, Y = b x + a y + d, by least squares. Where the controls are all in one place, or there are fewer
-/// than two, no scale can be told: the coefficients are NaN.
+/// Fits X = a x - b y + c and Y = b x + a y + d to the controls by least squares. Where the controls are coincident, or
+/// fewer than two, which raises an assertion, no scale can be told and the coefficients are NaN.
 formulas::Polynomial fitHelmert(Controls const& controls) noexcept;
 
 } // namespace ZrProj

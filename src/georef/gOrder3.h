@@ -8,8 +8,9 @@
 
 namespace ZrProj {
 
-/// The polynomial of 3, 4, 6 or 10 terms through the controls, or nearest to them by least squares. Nothing, with an
-/// assertion, for too few controls; nothing where they do not determine the terms. May run out of memory.
+/// Fits a polynomial of 3, 4, 6 or 10 terms to the controls by least squares; with as many controls as terms it meets
+/// them. Returns nothing where the controls do not determine the terms, and nothing, with an assertion, for too few of
+/// them. Throws when memory runs out.
 std::optional<formulas::Polynomial> fitPolynomial(int terms, Controls const& controls);
 
 } // namespace ZrProj

@@ -9,7 +9,7 @@
 
 namespace ZrProj {
 
-/// A system's block. The handle is the address of `record`, whose arrays are `source` and `target`.
+/// The memory block of a system. The handle is the address of `record`, whose arrays are `source` and `target`.
 struct GeorefBlock {
     std::atomic<int> owners{1};
     std::vector<GEOREFPOINT> source, target;
@@ -22,7 +22,7 @@ struct GeorefBlock {
     }
 };
 
-/// Makes the system's block live until one more RefDeleteSystem. Returns the handle; null stays null.
+/// Adds an owner, so that the block lives until one more RefDeleteSystem. Returns the handle; null stays null.
 inline void* shareSystem(void* system) noexcept {
     if (system)
         GeorefBlock::of(system).owners.fetch_add(1, std::memory_order_relaxed);

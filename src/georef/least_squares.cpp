@@ -12,7 +12,7 @@ double dot(std::span<double const> a, std::span<double const> b) {
     return std::inner_product(a.begin(), a.end(), b.begin(), 0.0);
 }
 
-/// x - 2 v (v^T x)
+/// Replaces x by its reflection x - 2 v (v^T x); v is a unit vector.
 void reflect(std::span<double const> v, std::span<double> x) {
     double const twice = 2 * dot(v, x);
     for (std::size_t i = 0; i < v.size(); ++i)
@@ -26,15 +26,15 @@ Factorisation::Factorisation(Matrix matrix)
     std::iota(m_columns.begin(), m_columns.end(), std::size_t{0});
 }
 
-/// Moves the column that has most left to the place of the step.
-void Factorisation::bringForward(std::size_t step) {
-    auto const rest = [&](std::size_t column) {
+/// Swaps the column whose part below the rows already eliminated is the longest with the column of the step.
+void Factorisation::pivot(std::size_t step) {
+    auto const squaredLengthBelow = [&](std::size_t column) {
         auto const below = m_reflectors.column(column).subspan(step);
         return dot(below, below);
     };
     std::size_t longest = step;
     for (std::size_t i = step + 1; i < m_columns.size(); ++i)
-        if (rest(i) > rest(longest))
+        if (squaredLengthBelow(i) > squaredLengthBelow(longest))
             longest = i;
     std::swap(m_columns[step], m_columns[longest]);
     if (longest != step)
@@ -60,7 +60,7 @@ std::optional<Factorisation> Factorisation::of(Matrix matrix, double tolerance) 
         return std::nullopt;
     Factorisation result(std::move(matrix));
     for (std::size_t step = 0; step < result.m_columns.size(); ++step) {
-        result.bringForward(step);
+        result.pivot(step);
         result.eliminate(step);
         if (!(std::fabs(result.m_diagonal[step]) > tolerance * std::fabs(result.m_diagonal[0])))
             return std::nullopt;

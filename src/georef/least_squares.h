@@ -8,7 +8,7 @@
 
 namespace ZrProj {
 
-/// A matrix, column after column.
+/// A matrix, stored column after column.
 struct Matrix {
     std::size_t rows, columns;
     std::vector<double> values;
@@ -25,29 +25,33 @@ struct Matrix {
 /// Source    Golub & Van Loan (2013), Matrix Computations, 4th ed., algorithms 5.1.1 and 5.4.1.
 class Factorisation {
 public:
-    /// Nothing where the columns are dependent: a part of a column, smaller than `tolerance` times the longest column,
-    /// is all that is not made up of others.
+    /// Factorises a matrix. Returns nothing where it does not have full rank: where what is left of some column, less
+    /// its projection on the others, is no longer than `tolerance` times the longest column; and where it has fewer
+    /// rows than columns.
     static std::optional<Factorisation> of(Matrix matrix, double tolerance);
 
-    /// Householder vectors, each beginning at its own row; I - 2 v v^T.
+    /// How many Householder reflections I - 2 v v^T make up Q.
     std::size_t reflections() const { return m_reflectors.columns; }
+    /// The unit vector v of a reflection, from row i on; it has zeros above.
     std::span<double const> reflector(std::size_t i) const { return m_reflectors.column(i).subspan(i); }
 
+    /// Multiplies a vector, which has as many numbers as A has rows, by Q^T in place.
     void applyQTransposed(std::span<double> vector) const;
+    /// Multiplies a vector by Q in place.
     void applyQ(std::span<double> vector) const;
-    /// The x of R P^T x = y; y has as many numbers as A has columns.
+    /// The solution x of R P^T x = y; y has at least as many numbers as A has columns.
     std::vector<double> solveTriangle(std::span<double const> y) const;
-    /// The x that makes A x - b shortest.
+    /// The x that makes the residuals A x - b shortest.
     std::vector<double> solve(std::span<double const> b) const;
 
 private:
     explicit Factorisation(Matrix matrix);
-    void bringForward(std::size_t step);
+    void pivot(std::size_t step);
     void eliminate(std::size_t step);
 
-    Matrix m_reflectors;                // on and below the diagonal; R above it
-    std::vector<double> m_diagonal;     // of R
-    std::vector<std::size_t> m_columns; // the column of A that stands at each place
+    Matrix m_reflectors;                // on and below the diagonal; R stands above it
+    std::vector<double> m_diagonal;     // the diagonal of R
+    std::vector<std::size_t> m_columns; // the permutation P: the column of A that each of the columns was
 };
 
 } // namespace ZrProj

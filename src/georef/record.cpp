@@ -19,7 +19,7 @@ bool hasControls(GEOREF const& georef) noexcept {
     return georef.pSource && georef.pTarget;
 }
 
-/// Scales what the record maps from.
+/// Scales the source coordinates: the controls, and the coefficients that are applied to them.
 void scaleSource(GEOREF& georef, double sx, double sy) noexcept {
     for (std::int32_t i = 0; i < georef.nControls; ++i) {
         georef.pSource[i].x *= sx;
@@ -33,7 +33,7 @@ void scaleSource(GEOREF& georef, double sx, double sy) noexcept {
     }
 }
 
-/// May run out of memory.
+/// Fits affine coefficients to the record's controls. Throws when memory runs out.
 bool fitCoefficients(GEOREF& georef) {
     auto const count = static_cast<std::size_t>(georef.nControls);
     Controls const controls{{georef.pSource, count}, {georef.pTarget, count}};

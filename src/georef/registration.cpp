@@ -20,7 +20,7 @@ struct CImageRegistration::Fitted {
             fitted->owners.fetch_add(1, std::memory_order_relaxed);
         return fitted;
     }
-    static void letGo(Fitted* fitted) {
+    static void release(Fitted* fitted) {
         if (fitted && fitted->owners.fetch_sub(1, std::memory_order_acq_rel) == 1)
             std::unique_ptr<Fitted>{fitted}.reset();
     }
@@ -31,17 +31,17 @@ CImageRegistration::CImageRegistration() = default;
 CImageRegistration::CImageRegistration(CImageRegistration const& other) : m_fitted(Fitted::share(other.m_fitted)) {}
 
 CImageRegistration::~CImageRegistration() {
-    Fitted::letGo(m_fitted);
+    Fitted::release(m_fitted);
 }
 
 CImageRegistration& CImageRegistration::operator=(CImageRegistration const& other) {
-    Fitted::letGo(std::exchange(m_fitted, Fitted::share(other.m_fitted)));
+    Fitted::release(std::exchange(m_fitted, Fitted::share(other.m_fitted)));
     return *this;
 }
 
 bool CImageRegistration::Calibrate(WarpingMethod method, GEOREFPOINT const* source, GEOREFPOINT const* target,
                                    int count) {
-    Fitted::letGo(std::exchange(m_fitted, nullptr));
+    Fitted::release(std::exchange(m_fitted, nullptr));
     if (!source || !target || count < 1)
         return false;
     auto const size = static_cast<std::size_t>(count);

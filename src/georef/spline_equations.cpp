@@ -22,12 +22,12 @@ SplineEquations::SplineEquations(formulas::Warp const& warp, Factorisation const
     for (std::size_t i = 0; i < m_count; ++i)
         formulas::georefKernels().basisRow(warp, i, m_values.data() + i * m_count);
     for (std::size_t i = 0; i < affine.reflections(); ++i)
-        project(affine.reflector(i), i);
+        reflectBothSides(affine.reflector(i), i);
 }
 
-/// H K H of the reflection H = I - 2 v v^T, as K - v q^T - q v^T with q = 2 (K v - v (v^T K v)). The reflector has
-/// zeros before its place `at`.
-void SplineEquations::project(std::span<double const> reflector, std::size_t at) {
+/// Replaces K by H K H, H = I - 2 v v^T being the reflection: K - v q^T - q v^T with q = 2 (K v - v (v^T K v)). The
+/// reflector v is given from row `at` on and has zeros above.
+void SplineEquations::reflectBothSides(std::span<double const> reflector, std::size_t at) {
     std::vector<double> v(m_count), q(m_count);
     std::ranges::copy(reflector, v.begin() + static_cast<std::ptrdiff_t>(at));
     for (std::size_t i = 0; i < m_count; ++i)
@@ -42,12 +42,12 @@ void SplineEquations::project(std::span<double const> reflector, std::size_t at)
     }
 }
 
-formulas::SymmetricMatrix SplineEquations::rest() {
+formulas::SymmetricMatrix SplineEquations::trailingBlock() {
     return {m_values.data() + affineTerms * (m_count + 1), m_count - affineTerms, m_count};
 }
 
 bool SplineEquations::factorise() {
-    auto const matrix = rest();
+    auto const matrix = trailingBlock();
     double largest = 0;
     for (std::size_t i = 0; i < matrix.size; ++i)
         largest = std::max(largest, matrix.row(i)[i]);
@@ -63,19 +63,19 @@ std::optional<SplineEquations> SplineEquations::of(formulas::Warp const& warp, F
     return result;
 }
 
-SplineEquations::Solution SplineEquations::solve(std::vector<double> y) const {
-    m_affine->applyQTransposed(y);
+SplineEquations::Solution SplineEquations::solve(std::vector<double> targets) const {
+    m_affine->applyQTransposed(targets);
     std::vector<double> z(m_count);
-    for (std::size_t i = affineTerms; i < m_count; ++i) // L z' = the rest of y
-        z[i] = (y[i] - dot(row(i) + affineTerms, z.data() + affineTerms, i - affineTerms)) / row(i)[i];
+    for (std::size_t i = affineTerms; i < m_count; ++i) // L z' = Q^T t, from the fourth row on
+        z[i] = (targets[i] - dot(row(i) + affineTerms, z.data() + affineTerms, i - affineTerms)) / row(i)[i];
     for (std::size_t i = m_count; i-- > affineTerms;) { // L^T z = z'
         z[i] /= row(i)[i];
         for (std::size_t j = affineTerms; j < i; ++j)
             z[j] -= row(i)[j] * z[i];
     }
     for (std::size_t i = 0; i < affineTerms; ++i)
-        y[i] -= dot(row(i) + affineTerms, z.data() + affineTerms, m_count - affineTerms);
-    Solution solution{std::move(z), m_affine->solveTriangle(y)};
+        targets[i] -= dot(row(i) + affineTerms, z.data() + affineTerms, m_count - affineTerms);
+    Solution solution{std::move(z), m_affine->solveTriangle(targets)};
     m_affine->applyQ(solution.weights);
     return solution;
 }

@@ -1,10 +1,11 @@
-// The equations of a warp that is a spline. With the basis values K of every control seen from every other, the terms
-// P = (1, u, v) and the values t that are wanted at the controls, weights w and affine coefficients a solve
+// The equations of a warp that is a spline. With the matrix K of the basis between every two controls, the affine terms
+// P = (1, u, v) at the controls, and the targets t, the weights w and the affine coefficients a solve
 //
 //     K w + P a = t,   P^T w = 0.
 //
-// The factorisation P = Q R splits space into the three dimensions of affine maps and the rest: with w = Q (0, z), what
-// is left is a system in z alone whose matrix, the rest of Q^T K Q, is positive definite for each of the bases.
+// The factorisation P = Q R splits space into the three dimensions of affine maps and their orthogonal complement: with
+// w = Q (0, z), what is left is a system in z alone whose matrix, the trailing block of Q^T K Q without its first three
+// rows and columns, is positive definite for each of the bases.
 //
 // Source    Wahba (1990), Spline Models for Observational Data, pp. 30-33; Wendland (2005), Scattered Data
 //           Approximation, chapters 6 and 8, for the definiteness.
@@ -21,27 +22,30 @@ namespace ZrProj {
 
 class SplineEquations {
 public:
-    /// Nothing where the matrix is not positive definite to the precision of its numbers. `affine` is P's
-    /// factorisation; it is referred to. `matrix` is room for as many numbers as the controls have pairs.
+    /// Sets the equations up and factorises them. Returns nothing where the trailing block is not positive definite to
+    /// the precision of its numbers. `affine` is P's factorisation, which must outlive the result; `matrix` has the
+    /// size of K, the square of the number of controls, whatever its values.
     static std::optional<SplineEquations> of(formulas::Warp const& warp, Factorisation const& affine,
                                              std::vector<double> matrix);
 
+    /// The weights w, one a control, and the affine coefficients a of 1, u and v.
     struct Solution {
         std::vector<double> weights;
-        std::vector<double> plane; // 1, u, v
+        std::vector<double> affine;
     };
-    Solution solve(std::vector<double> y) const; // y: what is wanted at the controls
+    /// Solves for the targets of one coordinate, one a control.
+    Solution solve(std::vector<double> targets) const;
 
 private:
     SplineEquations(formulas::Warp const& warp, Factorisation const& affine, std::vector<double> matrix);
-    void project(std::span<double const> reflector, std::size_t at);
+    void reflectBothSides(std::span<double const> reflector, std::size_t at);
     bool factorise();
-    formulas::SymmetricMatrix rest();
+    formulas::SymmetricMatrix trailingBlock();
     double const* row(std::size_t i) const { return m_values.data() + i * m_count; }
 
     Factorisation const* m_affine;
     std::size_t m_count;
-    std::vector<double> m_values; // Q^T K Q, row after row, and of the rest its Cholesky factor
+    std::vector<double> m_values; // Q^T K Q, row after row; its trailing block is replaced by the Cholesky factor L
 };
 
 } // namespace ZrProj

@@ -57,15 +57,16 @@ FittedWarp emptyWarp(WarpingMethod method, std::span<GEOREFPOINT const> source, 
     return fitted;
 }
 
-bool areTwoInOnePlace(formulas::Warp const& warp) {
-    std::vector<std::pair<double, double>> places(warp.controls);
-    for (std::size_t i = 0; i < places.size(); ++i)
-        places[i] = {warp.u[i], warp.v[i]};
-    std::ranges::sort(places);
-    return std::ranges::adjacent_find(places) != places.end();
+bool areAnyCoincident(formulas::Warp const& warp) {
+    std::vector<std::pair<double, double>> points(warp.controls);
+    for (std::size_t i = 0; i < points.size(); ++i)
+        points[i] = {warp.u[i], warp.v[i]};
+    std::ranges::sort(points);
+    return std::ranges::adjacent_find(points) != points.end();
 }
 
-/// Places the controls in the unit s, in which some bases count. False where they are too close together for one.
+/// Places the controls in units of their mean neighbour distance s, in which some bases are defined. Returns false
+/// where they are too close together for that.
 bool chooseUnit(FittedWarp& fitted, std::span<GEOREFPOINT const> source) {
     auto const& warp = fitted.warp;
     placeControls(fitted, source, warp.perUnit / meanNeighbourDistance(warp.u, warp.v, warp.controls));
@@ -80,8 +81,8 @@ Matrix affineTerms(formulas::Warp const& warp) {
     return matrix;
 }
 
-/// What a warp lacks at the controls, in x and in y.
-struct Lack {
+/// The residuals of a warp at its controls, target less mapped, in x and in y.
+struct Residuals {
     std::vector<double> x, y;
 
     double greatest() const {
@@ -92,18 +93,18 @@ struct Lack {
     }
 };
 
-Lack lackOf(formulas::Warp const& warp, Controls const& controls) {
+Residuals residualsOf(formulas::Warp const& warp, Controls const& controls) {
     std::vector<GEOREFPOINT> mapped(controls.source.begin(), controls.source.end());
     formulas::georefKernels().mapByWarp(warp, mapped.data(), mapped.size());
-    Lack lack{std::vector<double>(mapped.size()), std::vector<double>(mapped.size())};
+    Residuals residuals{std::vector<double>(mapped.size()), std::vector<double>(mapped.size())};
     for (std::size_t i = 0; i < mapped.size(); ++i) {
-        lack.x[i] = controls.target[i].x - mapped[i].x;
-        lack.y[i] = controls.target[i].y - mapped[i].y;
+        residuals.x[i] = controls.target[i].x - mapped[i].x;
+        residuals.y[i] = controls.target[i].y - mapped[i].y;
     }
-    return lack;
+    return residuals;
 }
 
-/// The affine least-squares map of one coordinate into `plane`, and what it lacks into `weights`.
+/// Fits the affine least-squares map of one coordinate; its coefficients go into `plane`, its residuals into `weights`.
 void fitDistances(formulas::Warp const& warp, Factorisation const& affine, std::span<GEOREFPOINT const> target,
                   double GEOREFPOINT::*coordinate, double (&plane)[3], double* weights) {
     std::vector<double> wanted(target.size());
@@ -118,22 +119,23 @@ void add(std::span<double const> what, double* to) {
         *to++ += value;
 }
 
-/// Solves twice, the second time for what rounding left. False where the controls are not met after that.
+/// Solves twice, the second time for the residuals that rounding left. Returns false where the controls are not met
+/// even then.
 bool fitSpline(FittedWarp& fitted, Factorisation const& affine, std::vector<double> matrix, Controls const& controls) {
     auto const equations = SplineEquations::of(fitted.warp, affine, std::move(matrix));
     if (!equations)
         return false;
-    auto lack = lackOf(fitted.warp, controls);
-    double const size = lack.greatest();
+    auto residuals = residualsOf(fitted.warp, controls);
+    double const size = residuals.greatest();
     for (int round = 0; round < 2; ++round) {
-        auto const x = equations->solve(lack.x), y = equations->solve(lack.y);
+        auto const x = equations->solve(residuals.x), y = equations->solve(residuals.y);
         add(x.weights, fitted.weightsX());
         add(y.weights, fitted.weightsY());
-        add(x.plane, fitted.warp.x);
-        add(y.plane, fitted.warp.y);
-        lack = lackOf(fitted.warp, controls);
+        add(x.affine, fitted.warp.x);
+        add(y.affine, fitted.warp.y);
+        residuals = residualsOf(fitted.warp, controls);
     }
-    return lack.greatest() <= 1e-7 * size;
+    return residuals.greatest() <= 1e-7 * size;
 }
 
 std::vector<GEOREFPOINT> countedFrom(GEOREFPOINT const& centre, std::span<GEOREFPOINT const> points) {
@@ -154,9 +156,9 @@ std::optional<FittedWarp> fitWarp(WarpingMethod method, Controls const& controls
         return std::nullopt;
     auto const extent = extentOf(controls.source);
     auto fitted = emptyWarp(method, controls.source, extent);
-    if (areTwoInOnePlace(fitted.warp))
+    if (areAnyCoincident(fitted.warp))
         return std::nullopt;
-    std::vector<double> matrix; // before the long work: there may be no room for it
+    std::vector<double> matrix; // made before the long work, since there may be no memory for it
     if (method != WarpingMethodInverseDistanceSquared)
         matrix.resize(controls.size() * controls.size());
     if (hasUnit(method) && !chooseUnit(fitted, controls.source))
@@ -165,7 +167,7 @@ std::optional<FittedWarp> fitWarp(WarpingMethod method, Controls const& controls
     if (!affine)
         return std::nullopt;
     auto const centre = extentOf(controls.target).centre;
-    auto const target = countedFrom(centre, controls.target); // small numbers: what is lacking shows in full
+    auto const target = countedFrom(centre, controls.target); // small numbers, whose residuals keep their digits
     auto& warp = fitted.warp;
     if (method == WarpingMethodInverseDistanceSquared) {
         fitDistances(warp, *affine, target, &GEOREFPOINT::x, warp.x, fitted.weightsX());

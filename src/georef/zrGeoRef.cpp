@@ -17,7 +17,7 @@
 namespace ZrProj {
 namespace {
 
-/// Reports an internal inconsistency at the place of the call. Always false.
+/// Reports a failed assertion with the line of the call. Always returns false, so that a caller can return it.
 bool inconsistent(int line = __builtin_LINE()) noexcept {
     return AssertFailed(".\\zrGeoRef.cpp", line);
 }
@@ -57,7 +57,7 @@ bool fit(GeorefBlock& block) {
     return map.has_value();
 }
 
-/// Gives the block copies of the record and its controls. A count below 1 is none.
+/// Copies the record and its controls into the block. A count below 1 means no controls.
 void takeRecord(GeorefBlock& block, GEOREF const& georef) {
     auto const count = static_cast<std::size_t>(std::max(georef.nControls, 0));
     block.record = georef;
@@ -70,7 +70,7 @@ void takeRecord(GeorefBlock& block, GEOREF const& georef) {
     block.record.nControls = static_cast<std::int32_t>(count);
 }
 
-/// May run out of memory.
+/// A block with its method fitted to its controls; null where that fails. Throws when memory runs out.
 std::unique_ptr<GeorefBlock> fittedBlock(GEOREF const& georef) {
     auto block = std::make_unique<GeorefBlock>();
     takeRecord(*block, georef);
@@ -86,12 +86,12 @@ void map(GeorefBlock const& block, std::span<GEOREFPOINT> points) {
         formulas::georefKernels().mapByPolynomial(block.polynomial, points.data(), points.size());
 }
 
-/// A number that may be infinite or NaN, as callers are given it.
+/// The number as callers are given it: DBL_MAX where it is infinite or NaN.
 double marked(double value) {
     return std::isfinite(value) ? value : DBL_MAX;
 }
 
-/// May run out of memory.
+/// Computes the residuals' lengths and their mean into whichever output is not null. Throws when memory runs out.
 void computeError(GeorefBlock const& block, double* meanError, double* pointErrors) {
     auto mapped = block.source;
     map(block, mapped);

@@ -45,10 +45,10 @@ private:
 #endif
 };
 
-/// Clears the flags of division by zero, invalid operation and overflow. Underflow and inexact are ordinary.
+/// Clears the flags of division by zero, invalid operation and overflow. Underflow and inexact occur in good results.
 void clearArithmeticFlags() noexcept;
 
-/// Whether one of the three has been raised since.
+/// Whether one of the three has been raised since they were cleared.
 bool arithmeticFlagRaised() noexcept;
 
 /// Runs `work` in the default environment. The call is kept out of line, so that no arithmetic of it moves across the

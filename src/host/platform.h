@@ -15,14 +15,14 @@ using FileName = std::array<char, 260>;
 /// An environment variable's value, or null where it does not exist.
 char const* environmentVariable(char const* name) noexcept;
 
-/// Where the diagnostic log goes.
+/// The name of the file that the diagnostic log goes to.
 FileName logFileName() noexcept;
 
 /// The directory of the running program, without a closing separator; empty where it cannot be told.
 std::string executableDirectory();
 
-/// A plain file, open for reading at any place until this goes. Links are followed; pipes, devices and directories are
-/// not opened, and nothing waits.
+/// A plain file, open for reading at any offset as long as the object lives. Links are followed; pipes, devices and
+/// directories are not opened, and nothing waits.
 class PlainFile {
 public:
     explicit PlainFile(std::string const& name) noexcept;
@@ -30,12 +30,13 @@ public:
     PlainFile(PlainFile const&) = delete;
     PlainFile& operator=(PlainFile const&) = delete;
 
+    /// Whether the file could be opened and is a plain one.
     bool isOpen() const noexcept { return open_; }
-    /// Not open because there is nothing of that name.
+    /// Whether it is not open because there is nothing of that name.
     bool isMissing() const noexcept { return missing_; }
-    /// In bytes, when it was opened.
+    /// The size in bytes that it had when it was opened.
     std::uint64_t size() const noexcept { return size_; }
-    /// False when the file does not give all of the bytes.
+    /// Reads `length` bytes from `offset` on. Returns false when the file does not give all of them.
     bool read(std::uint64_t offset, void* buffer, std::size_t length) const noexcept;
 
 private:
@@ -52,7 +53,8 @@ void appendToFile(char const* fileName, std::string_view text) noexcept;
 /// The local time as ctime writes it, its line feed included: "Thu Jan  1 00:00:00 1970\n".
 std::array<char, 26> localTimeText() noexcept;
 
-/// Called by the platform when the library has been loaded and when it is about to go; defined by the frame.
+/// What the library does when it has been loaded and when it is about to be unloaded. The platform calls both;
+/// frame/module.cpp defines them.
 void onModuleStart() noexcept;
 void onModuleEnd() noexcept;
 

@@ -12,6 +12,7 @@
 
 namespace ZrProj {
 
+/// An entry of a section, without the blanks around its key and its value.
 struct ProfileEntry {
     std::string key, value;
 };
@@ -19,14 +20,14 @@ struct ProfileEntry {
 /// The user's own profile, "zrproj.ini" in the directory where programs keep their settings; empty where there is none.
 std::string defaultProfileName();
 
-/// The entries of a section in the file's order. A file that does not exist has none; nothing for one that cannot be
-/// read, is no plain file, or has more than 1 MiB.
+/// The entries of a section in the file's order; a file that does not exist has none. Returns nothing for a file that
+/// cannot be read, is no plain file, or has more than 1 MiB.
 std::optional<std::vector<ProfileEntry>> readProfile(std::string const& file, std::string_view section);
 
 /// Sets an entry, or, without a value, removes it. The file, and the directory of the default one, is made where it
 /// does not exist; every other line stays as it was, byte for byte. Whatever stops this half-way leaves the file as it
-/// was before or as it is meant to be. Writers wait for each other, up to ten seconds. False when nothing was written,
-/// or there was nothing to remove.
+/// was before or as it is meant to be. Writers wait for each other, up to ten seconds. Returns false when nothing was
+/// written, and when there was nothing to remove.
 bool writeProfile(std::string const& file, std::string_view section, std::string_view key,
                   std::optional<std::string_view> value);
 

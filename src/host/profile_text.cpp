@@ -62,12 +62,12 @@ std::string_view lineEnd(std::string_view text) {
     return feed != std::string_view::npos && feed > 0 && text[feed - 1] == '\r' ? "\r\n" : "\n";
 }
 
-/// Where in the text a line ends.
+/// The offset in the text at which a line ends.
 std::size_t endOf(Line const& line, std::string_view text) {
     return static_cast<std::size_t>(line.text.data() - text.data()) + line.text.size();
 }
 
-/// The place behind the last line of the section's first part that is not blank; nothing where there is no section.
+/// The offset behind the last line of the section's first part that is not blank; nothing where there is no section.
 std::optional<std::size_t> sectionEnd(std::vector<Line> const& lines, std::string_view text) {
     auto line = std::ranges::find(lines, true, &Line::inSection);
     if (line == lines.end())
@@ -79,7 +79,7 @@ std::optional<std::size_t> sectionEnd(std::vector<Line> const& lines, std::strin
     return end;
 }
 
-/// The lines put in at a place of the text, closed by line ends.
+/// The text with lines inserted at an offset, each closed by a line end.
 std::string inserted(std::string_view text, std::size_t at, std::initializer_list<std::string_view> lines) {
     std::string_view const end = lineEnd(text);
     std::string result(text.substr(0, at));

@@ -12,8 +12,8 @@ constexpr unsigned fullReport = 0x4000;
 ZrCallerInstance defaultInstance;
 std::atomic<ZrCallerInstance*> currentInstance = &defaultInstance;
 
-/// Where the last extension's dot stands, npos where there is none. As in the file systems' own names, a dot that
-/// begins a name is part of it.
+/// The offset of the last extension's dot, npos where there is none. As in the file systems' own names, a dot that a
+/// name begins with is part of the name.
 std::size_t extensionDot(std::string_view fileName) {
     std::size_t const separator = fileName.find_last_of("/\\");
     std::size_t const nameStart = separator == std::string_view::npos ? 0 : separator + 1;
