@@ -29,7 +29,7 @@ namespace {
 
 static_assert(std::endian::native == std::endian::little, "the grids' words are read as they stand");
 
-/// Reports an internal inconsistency at the place of the call. Always false.
+/// Reports a failed assertion with the line of the call. Always returns false, so that a caller can return it.
 bool inconsistent(int line = __builtin_LINE()) noexcept {
     return AssertFailed(".\\dNadcon.cpp", line);
 }

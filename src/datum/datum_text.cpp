@@ -16,7 +16,7 @@
 namespace ZrProj {
 namespace {
 
-/// The record is byte-packed: its numbers are reached by their place.
+/// A number of the record, which is byte-packed: its numbers are reached by their offsets.
 struct NumberField {
     std::string_view key;
     std::size_t offset;

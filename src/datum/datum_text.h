@@ -13,7 +13,7 @@ namespace ZrProj {
 /// to read the same double back (17 at most), and a decimal point whatever the locale.
 std::string datumText(DATUM2WGS84 const& record);
 
-/// Reads what datumText writes, in any order and letter case; fields left out are zero. Nothing for a text with
+/// Reads what datumText writes, in any order and letter case; fields left out are zero. Returns nothing for a text with
 /// anything else in it.
 std::optional<DATUM2WGS84> readDatumText(std::string_view text);
 

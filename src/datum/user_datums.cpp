@@ -24,13 +24,13 @@ constexpr std::size_t longestName = 255;
 
 std::mutex profileMutex;
 
-/// The name that the host set; empty: the default one. Held by the mutex.
+/// The file name that the host set; empty for the default one. The mutex guards it.
 std::string& chosenProfile() {
     static std::string name;
     return name;
 }
 
-/// Empty where there is no place for one.
+/// The profile's file name; empty where neither the host nor the system names one.
 std::string profileName() {
     std::scoped_lock const lock(profileMutex);
     return chosenProfile().empty() ? defaultProfileName() : chosenProfile();
@@ -114,10 +114,10 @@ int NDatNumDatums() {
 bool NDatGetDatumName(int index, char* name, int nameSize) {
     return name && index >= 0 && guarded([&] {
                auto const datums = userDatums();
-               auto const place = static_cast<std::size_t>(index);
-               if (place >= datums.size() || nameSize <= static_cast<int>(datums[place].name.size()))
+               auto const i = static_cast<std::size_t>(index);
+               if (i >= datums.size() || nameSize <= static_cast<int>(datums[i].name.size()))
                    return false;
-               copyText(name, datums[place].name);
+               copyText(name, datums[i].name);
                return true;
            });
 }

@@ -9,7 +9,7 @@
 namespace ZrProj {
 namespace {
 
-/// Reports an internal inconsistency at the place of the call. Always false.
+/// Reports a failed assertion with the line of the call. Always returns false, so that a caller can return it.
 bool inconsistent(int line = __builtin_LINE()) noexcept {
     return AssertFailed(".\\zrDatum.cpp", line);
 }

@@ -31,7 +31,7 @@ struct Source {
     }
 };
 
-/// In the order in which they count.
+/// The sources in the order in which they count.
 struct Sources {
     Source reference, rsf, world, tags;
 

@@ -45,8 +45,8 @@ bool readPoints(std::FILE& file, GEOREF& georef) {
     return true;
 }
 
-/// Reads the controls into an empty record; a file that holds fewer than it claims leaves none. False, and reported,
-/// when there is no memory for them.
+/// Reads the controls into an empty record; a file that holds fewer than it claims leaves none. Reports an
+/// error and returns false when there is no memory for them.
 bool readControls(std::FILE& file, GEOREF& georef) {
     TextLine line;
     int const count = readLine(file, line) ? claimedCount(line.text()) : 0;

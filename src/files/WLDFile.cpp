@@ -14,7 +14,7 @@ namespace {
 
 constexpr char sourceFile[] = ".\\WLDFile.cpp";
 
-/// In the order of the file's lines.
+/// The coefficients in the order of the file's lines.
 constexpr std::array coefficients{&GEOREF::A, &GEOREF::D, &GEOREF::B, &GEOREF::E, &GEOREF::C, &GEOREF::F};
 
 /// What the file says; a cleared record where it has fewer lines than coefficients.

@@ -109,7 +109,7 @@ bool takeWord(std::string_view& text, std::string_view word) {
     return true;
 }
 
-/// The version that a header names; nothing where it is no header.
+/// The version that a header names; nothing where the line is no header.
 std::optional<double> headerVersion(std::string_view line) {
     if (!takeWord(line, referenceHeader) || !takeWord(line, ":") || !takeWord(line, "Version"))
         return {};
@@ -144,7 +144,7 @@ public:
     LineReader(ReferenceRequest const& wanted, MapRecord& record, std::uint64_t fileBytes)
         : wanted_(wanted), record_(record), fileBytes_(fileBytes) {}
 
-    /// False when memory runs out.
+    /// Takes a line in. Returns false when memory runs out.
     bool take(std::string_view line) {
         std::optional<KeyedLine> const parts = splitLine(line);
         if (!parts)

@@ -32,7 +32,8 @@ std::vector<std::string> caseVariants(std::string const& name);
 /// Opens the first of the names that is a plain file, after them the first of their variants; null where there is none.
 Stream openSideFile(std::span<std::string const> names);
 
-/// Deletes a side file and its variants, but never `image`. False when one of them is there and cannot be deleted.
+/// Deletes a side file and its variants, but never `image`. Returns false when one of them is there and
+/// cannot be deleted.
 bool deleteSideFile(std::string const& name, std::string const& image);
 
 } // namespace ZrProj

@@ -55,10 +55,10 @@ void appendNumber(std::string& text, double value);
 /// may follow. Beyond the range of doubles it is infinite or 0. The text has at most 300 characters.
 double readNumber(std::string_view text);
 
-/// The same for whole numbers. Beyond the range of int it is the bound that it lies behind.
+/// Reads a whole number in the same way. One beyond the range of int becomes the bound that it lies behind.
 int readInteger(std::string_view text);
 
-/// A line's text, at most 255 characters; a null character ends it.
+/// The text of a line, at most 255 characters; a null character ends it.
 class TextLine {
 public:
     bool isFull() const { return length_ + 1 == text_.size(); }
@@ -89,11 +89,11 @@ public:
     explicit OutputFile(std::string const& name) : stream_(createFile(name)) {}
 
     bool isOpen() const { return stream_ != nullptr; }
-    /// False when this, or anything before it, could not be written.
+    /// Writes a text. Returns false when it, or anything before it, could not be written.
     bool write(std::string_view text) {
         return std::fwrite(text.data(), 1, text.size(), stream_.get()) == text.size() && !std::ferror(stream_.get());
     }
-    /// The same once all of it is out.
+    /// Closes the file. Returns whether all of it has been written.
     bool close() {
         bool const good = !std::ferror(stream_.get());
         return std::fclose(stream_.release()) == 0 && good;

@@ -66,12 +66,12 @@ PlainFile::~PlainFile() {
 bool PlainFile::read(std::uint64_t offset, void* buffer, std::size_t length) const noexcept {
     auto* out = static_cast<char*>(buffer);
     while (length > 0) {
-        OVERLAPPED place = {};
-        place.Offset = static_cast<DWORD>(offset);
-        place.OffsetHigh = static_cast<DWORD>(offset >> 32);
+        OVERLAPPED position = {};
+        position.Offset = static_cast<DWORD>(offset);
+        position.OffsetHigh = static_cast<DWORD>(offset >> 32);
         auto const wanted = static_cast<DWORD>(std::min<std::size_t>(length, 1U << 30));
         DWORD count = 0;
-        if (!ReadFile(handleOf(handle_), out, wanted, &count, &place) || count == 0)
+        if (!ReadFile(handleOf(handle_), out, wanted, &count, &position) || count == 0)
             return false;
         out += count;
         offset += count;

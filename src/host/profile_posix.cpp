@@ -1,5 +1,5 @@
-// Profiles on POSIX systems. A new text goes into a file of its own beside the profile, is synced, and takes the
-// profile's place; a file of locks beside it keeps writers apart (the profile itself is replaced, and a lock with it).
+// Profiles on POSIX systems. A new text goes into a file of its own beside the profile, is synced, and replaces
+// the profile; a file of locks beside it keeps writers apart (the profile itself is replaced, and a lock with it).
 #if !defined(_WIN32)
 
 #include "host/platform.h"
@@ -31,7 +31,7 @@ public:
 
     int value() const { return value_; }
     explicit operator bool() const { return value_ >= 0; }
-    /// False when closing tells of a write that failed.
+    /// Closes the file. Returns false when that tells of a write that failed.
     bool shut() { return value_ < 0 || close(std::exchange(value_, -1)) == 0; }
 
 private:

@@ -30,8 +30,8 @@ std::size_t digitCount(std::string_view text) {
     return std::min(text.find_first_not_of("0123456789"), text.size());
 }
 
-/// Takes digits, and a point followed by digits, off the text. Nothing where it does not begin so, and for a number
-/// that no double holds.
+/// Takes digits, and a point followed by digits, off the text. Returns nothing where it does not begin so, and
+/// for a number that no double holds.
 std::optional<Part> takePart(std::string_view& text) {
     std::size_t length = digitCount(text);
     if (length == 0)

@@ -23,7 +23,7 @@ formulas::ParametersInDegrees parametersOf(PROJDATA const& record) noexcept;
 /// Writes every field to the log, a line each; nothing while the log is off or for null.
 void logRecord(PROJDATA const* record) noexcept;
 
-/// The same in an older and shorter form.
+/// Writes the fields that matter most to the log, in an older and shorter form.
 void logRecordBriefly(PROJDATA const* record) noexcept;
 
 } // namespace ZrProj

@@ -76,7 +76,7 @@ void setAzimuth(PROJDATA& data, ZoneDefinition const& zone) {
         data.bUOffset = true;
 }
 
-/// False where the zone has no definition; the position is then cleared only.
+/// Writes a zone's definition into a record. Returns false where the zone has none; the position is then cleared only.
 bool applyDefinition(PROJDATA& data, ZoneDefinition const& zone) {
     clearPosition(data);
     if (zone.method == ZoneMethod::None)

@@ -16,7 +16,7 @@
 namespace ZrProj {
 namespace {
 
-/// Reports an internal inconsistency at the place of the call. Always false.
+/// Reports a failed assertion with the line of the call. Always returns false, so that a caller can return it.
 bool inconsistent(int line = __builtin_LINE()) noexcept {
     return AssertFailed(".\\zrProj.cpp", line);
 }
@@ -25,7 +25,8 @@ bool isStatePlane(ProjType type) {
     return type == ProjTypeStatePlane1927 || type == ProjTypeStatePlane1983;
 }
 
-/// Completes radius and flattening from the catalogue, or checks the caller's own. False: the record has no ellipsoid.
+/// Completes radius and flattening from the catalogue, or checks the caller's own. Returns false for a record without
+/// an ellipsoid.
 bool completeEllipsoid(PROJDATA& data) noexcept {
     if (data.Ellipsoid < 0 || data.Ellipsoid >= EllipsoidTypeNone) {
         LogPrintf("Bad ellipsoid type!\n");
