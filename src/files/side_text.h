@@ -74,12 +74,13 @@ private:
     std::size_t length_ = 0;
 };
 
-/// Reads the next line, dropping carriage returns and the line feed that ends it. False at the end of the file: a last
-/// line that no line feed ends counts as missing. A line that is longer than `line` holds goes on as the next one.
+/// Reads the next line, dropping carriage returns and the line feed that ends it. Returns false at the end of the file:
+/// a last line that no line feed ends counts as missing. A line that is longer than `line` holds goes on as the next
+/// one.
 bool readLine(std::FILE& file, TextLine& line);
 
 /// Takes the next token off the text: characters between blanks, or between a quotation mark, single or double, and the
-/// next single one. Nothing where only blanks are left.
+/// next single one. Returns nothing where only blanks are left.
 std::optional<std::string_view> takeToken(std::string_view& text);
 
 /// A text file being written. What was written counts only when close() has said so: a full disk may show as late as

@@ -20,7 +20,7 @@
 //     boundaryIsBeside                  whether that lies a little inside of where paths are cut
 //     bool chordFollows(from, to)       whether the segment between two points of the boundary is near enough to it
 //     referenceBegin, referenceEnd      a part of the boundary, and
-//     PROJPOINT outside(t)              the points of the complement just outside of it
+//     PROJPOINT outside(t)              the points just outside of it
 //     PROJPOINT pointOfComplement()     a point well inside of the complement
 //     bool complementCanBeEnclosed()    whether a path in the area may go all around the complement
 //     bool areaIsLeft()                 whether the area is to the left of who follows the boundary
