@@ -14,7 +14,7 @@
 #include "formulas/centred_frame.h"
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/geodesic.h"
+#include "formulas/geodesic_course.h"
 #include "formulas/longitude.h"
 #include "formulas/meridian.h"
 #include "formulas/world.h"
@@ -80,26 +80,17 @@ struct Polar {
     }
 };
 
-/// A geodesic from the centre, its length in units of the semi-minor axis.
-template <class R> struct Course {
-    SinCos<R> alpha1;
-    R length;
-};
-
 struct Ellipsoidal {
-    GeodesicSeries series;
-    double f, b, lambda0;
-    SinCos<double> beta1;
-    double focus; // the size of the astroid about the antipode, as an arc
+    GeodesicsFromCentre geodesics;
+    double b, lambda0;
 
     explicit Ellipsoidal(Parameters const& given)
-        : series(given.f), f(given.f), b(given.a * (1 - f)), lambda0(given.lon0), beta1(series.reduced(given.lat1)),
-          focus(f * pi * beta1.cos * beta1.cos * (1 - 0.25 * f * beta1.sin * beta1.sin)) {}
+        : geodesics(given.f, given.lat1), b(given.a * (1 - given.f)), lambda0(given.lon0) {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         R const lambda = longitudeFrom(lambda0, p.lon);
-        auto const course = courseTo(series.reduced(p.lat), abs(lambda));
-        R const tau12 = course.length / series.line(centre<R>(), course.alpha1).A1;
+        auto const course = geodesics.courseTo(geodesics.series.reduced(p.lat), abs(lambda));
+        R const tau12 = course.length / geodesics.line(course.alpha1).A1;
         R const north = select(tau12 > pi - 4 * seam, abs(course.alpha1.cos), course.alpha1.cos);
         R const rho = b * course.length;
         return {copySign(rho * course.alpha1.sin, lambda), rho * north};
@@ -107,73 +98,13 @@ struct Ellipsoidal {
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
         R const x = abs(inUnitsOf(b, p.x)), y = inUnitsOf(b, p.y);
-        auto const line = series.line(centre<R>(), angleOfPoint<R>({x, y}));
+        auto const line = geodesics.line(angleOfPoint<R>({x, y}));
         R const tau12 = sqrt(x * x + y * y) / line.A1;
-        auto const end = series.end(line, smaller(tau12, R(pi)));
+        auto const end = geodesics.series.end(line, smaller(tau12, R(pi)));
         auto const inside =
             (tau12 < pi - 2 * seam) | ((y > -10 * coordinateNoise) & (tau12 <= pi * (1 + coordinateNoise)));
-        return {lambda0 + copySign(end.lambda12, p.x), select(inside, series.geodetic(end.beta2), R(unplottable))};
-    }
-
-private:
-    template <class R> SinCos<R> centre() const { return {beta1.sin, beta1.cos}; }
-
-    /// The geodesic to a place east of the centre. Two or three steps of Newton's method; a few more, up to 25, within
-    /// metres of where the antipode's astroid ends.
-    template <class R> Course<R> courseTo(SinCos<R> beta, R lambda) const {
-        auto course = estimate(beta, lambda);
-        auto arrived = lambda != lambda;
-        for (int i = 0; i < 40 && !all(arrived); ++i) {
-            auto const line = series.line(centre<R>(), course.alpha1);
-            auto const end = series.end(line, course.length / line.A1);
-            auto const miss = series.miss(end, beta, lambda);
-            R const reach = (1 - f) * series.reducedLength(line, end);
-            R const turn = clamped(miss.right / larger(reach, R(1e-13)), -0.5, 0.5);
-            auto const turned = angleOfPoint(sumOf(course.alpha1, sinCos(turn)));
-            course.alpha1 = {select(arrived, course.alpha1.sin, turned.sin),
-                             select(arrived, course.alpha1.cos, turned.cos)};
-            course.length = course.length + select(arrived, R(0.0), miss.ahead / (1 - f));
-            arrived = arrived | isLast(miss, turn);
-        }
-        return course;
-    }
-
-    /// Within some 1e-5 of the geodesic.
-    template <class R> Course<R> estimate(SinCos<R> beta, R lambda) const {
-        auto const first = onSphere(beta, lambda);
-        auto const second = onSphere(beta, lambda + f * beta1.cos * first.alpha1.sin * first.sigma12);
-        Course<R> const usual{second.alpha1, lengthOf(second)};
-        auto const antipodal = second.sigma12 > pi - 3 * focus;
-        if (!any(antipodal)) // most often; the values of the others are the same either way
-            return usual;
-        R const x = (pi - lambda) * (beta1.cos / focus), y = (beta.sin * beta1.cos + beta.cos * beta1.sin) / focus;
-        auto const before = beforeFocus(x, y);
-        return {{select(antipodal, before.angle.cos, usual.alpha1.sin),
-                 select(antipodal, before.angle.sin, usual.alpha1.cos)},
-                select(antipodal, pi - focus * before.kappa, usual.length)};
-    }
-
-    /// A great circle from the centre to a place on the auxiliary sphere.
-    template <class R> struct Circle {
-        SinCos<R> alpha1, arc;
-        R sigma12;
-    };
-
-    template <class R> Circle<R> onSphere(SinCos<R> beta, R omega) const {
-        auto const half = sinCos(0.5 * omega);
-        R const versine = 2.0 * half.sin * half.sin, east = 2.0 * beta.cos * half.sin * half.cos;
-        R const north = beta1.cos * beta.sin - beta1.sin * beta.cos * (1.0 - versine);
-        R const up = beta1.sin * beta.sin + beta1.cos * beta.cos * (1.0 - versine);
-        R const across = sqrt(east * east + north * north);
-        return {angleOfPoint<R>({east, north}), {across, up}, atan2(across, up)};
-    }
-
-    /// The length of the geodesic, (15) to the first order in k^2.
-    template <class R> R lengthOf(Circle<R> const& circle) const {
-        R const north = circle.alpha1.cos * beta1.cos; // cos alpha0 times cos sigma1; times sin sigma1 it is sin beta1
-        double const sin2 = beta1.sin * beta1.sin;
-        R const wave = (north * north - sin2) * circle.arc.cos - 2.0 * north * beta1.sin * circle.arc.sin;
-        return circle.sigma12 + series.ep2 / 4 * ((north * north + sin2) * circle.sigma12 - wave * circle.arc.sin);
+        return {lambda0 + copySign(end.lambda12, p.x),
+                select(inside, geodesics.series.geodetic(end.beta2), R(unplottable))};
     }
 };
 

@@ -3,57 +3,30 @@
 //
 // Source    Snyder (1987), Map Projections: A Working Manual, pp. 66-75, alternates B (azimuth) and A (two points);
 //           equation numbers are his.
-// Departs   sqrt(D^2 - 1) is written as tan(phi0) sqrt((1 - e^2) / (1 - e^2 sin^2 phi0)), good on the equator and for
-//           the azimuth 90; the line keeps the azimuth's quadrant, so that azimuths beyond 90 mean what they say; the
-//           line of two points is a cross product; the latitude comes from a series instead of (7-9).
+// Departs   sqrt(D^2 - 1) as in gauss_sphere.h, good for the azimuth 90 as well; the line keeps the azimuth's quadrant,
+//           so that azimuths beyond 90 mean what they say; the line of two points is a cross product; the latitude comes
+//           from a series instead of (7-9).
 // Accuracy  5e-8 m as far as 75 degrees from the centre; round trip 1e-12 degrees or 2e-8 m.
 // Domain    all but the line's two poles, and longitudes within 180 / B degrees of lambda0: a strip along the opposite
 //           meridian, 1.2 degrees wide at most on the Earth, would cover what the map shows already. Nothing when there
 //           is no such line: two points alike, a centre beyond the line's highest latitude.
 //
 // phi0            the centre's latitude; alpha the line's azimuth there, u and v along the line and to its right
-// B, E            the sphere that carries the line has longitudes B (lambda - lambda0) and isometric latitudes
-//                 B psi + log E, psi being that of the ellipsoid
+// gammac          the angle by which u and v are turned to x and y: alpha, or what the system says (IOGP 2019, 9812, 9815)
+// B, E            of the sphere that carries the line, see gauss_sphere.h
 // lambda0, gamma0 where the line crosses the equator of that sphere, and its azimuth there; D is that of (9-14)
 #include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/isometric_latitude.h"
-#include "formulas/longitude.h"
-#include "formulas/oblique_cylinder.h"
+#include "formulas/gauss_sphere.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
 
-/// The sphere that carries the line, fitted at the centre's latitude.
-struct LineSphere {
-    double e, B, logE, D;
-    double tangent; // sqrt(D^2 - 1), with the sign of phi0
-    double size;    // A / B over a k0
-
-    LineSphere(double flattening, double phi0) : e(std::sqrt(flattening * (2 - flattening))) {
-        double const s = std::sin(phi0), c = std::cos(phi0), sine = std::fabs(s);
-        double const root = 1 - flattening, w = std::sqrt(1 - e * e * s * s);
-        double const excess = e * e / (root * root) * c * c * c * c; // B^2 - 1
-        B = std::sqrt(1 + excess);                                   // (9-11)
-        size = root / (w * w);                                       // (9-12)
-        D = B * root / (c * w);                                      // (9-14)
-        tangent = s * root / (c * w);
-        // (9-36), the large parts of its two logarithms taken off each other.
-        double const gap = std::log((B + sine) * root / ((1 + sine) * w)) + eccentricPart(sine);
-        logE = std::copysign(gap - excess / (B + 1) * isometricOf(sine, c), s);
-    }
-
-    double eccentricPart(double sine) const { return e * std::atanh(e * sine); }
-
-    /// Of a latitude's sine, not below 0, and cosine.
-    double isometricOf(double sine, double cosine) const { return std::log((1 + sine) / cosine) - eccentricPart(sine); }
-
-    /// The isometric latitude on the sphere of a geodetic latitude.
-    double isometricOn(double phi) const {
-        double const psi = isometricOf(std::fabs(std::sin(phi)), std::cos(phi));
-        return B * std::copysign(psi, std::sin(phi)) + logE;
-    }
-};
+/// Of an angle; the cosine of a right angle is 0.
+SinCos<double> exactSinCos(double angle) {
+    double const cosine = std::cos(angle);
+    return {std::sin(angle), std::fabs(cosine) < edge ? 0 : cosine};
+}
 
 /// The line, by the longitude where it crosses the sphere's equator and its azimuth at the centre.
 struct Line {
@@ -63,9 +36,10 @@ struct Line {
     double heading() const { return cosAlpha < 0 ? -1 : 1; } // north or south
 };
 
-Line lineOfAzimuth(LineSphere const& sphere, Parameters const& given) {
-    double const cosine = std::cos(given.azimuth), lambdac = given.lon1 != 0 ? given.lon1 : given.lon0;
-    Line line{0, std::sin(given.azimuth), std::fabs(cosine) < edge ? 0 : cosine, true};
+Line lineOfAzimuth(GaussSphere const& sphere, Parameters const& given) {
+    double const lambdac = given.lon1 != 0 ? given.lon1 : given.lon0;
+    auto const alpha = exactSinCos(given.azimuth);
+    Line line{0, alpha.sin, alpha.cos, true};
     double const toCentre =
         std::atan2(line.heading() * sphere.tangent * line.sinAlpha, std::fabs(line.cosAlpha) * sphere.D);
     line.lambda0 = lambdac - toCentre / sphere.B; // (9-38)
@@ -73,7 +47,7 @@ Line lineOfAzimuth(LineSphere const& sphere, Parameters const& given) {
 }
 
 /// The line through two points, heading north, from the crossing of the equator nearer to them.
-Line lineOfPoints(LineSphere const& sphere, Parameters const& given) {
+Line lineOfPoints(GaussSphere const& sphere, Parameters const& given) {
     double const q1 = sphere.isometricOn(given.lat1), q2 = sphere.isometricOn(given.lat2);
     double const c1 = 1 / std::cosh(q1), c2 = 1 / std::cosh(q2), s1 = std::tanh(q1), s2 = std::tanh(q2);
     // The line's pole: the cross product of the points, which lie at the longitudes -L and L from the middle.
@@ -91,7 +65,7 @@ Line lineOfPoints(LineSphere const& sphere, Parameters const& given) {
 /// The ellipsoid goes B times around the sphere. West of L = -pi the map would cover what it shows in the east; the two
 /// meridians where it closes are one curve, which stands for the eastern one. How far east of it, on the sphere, a
 /// place counts as on it.
-double seamOf(LineSphere const& sphere) {
+double seamOf(GaussSphere const& sphere) {
     return sphere.B > 1 ? 4 * edge : -1;
 }
 
@@ -102,7 +76,7 @@ template <class R> Condition<R> isWest(R L, R cosine, double seam) {
 
 /// The line on its sphere. Its pole lies 90 degrees west of where it crosses the equator.
 struct Setting {
-    LineSphere sphere;
+    GaussSphere sphere;
     Line line;
     ObliqueCylinder cylinder;
     bool defined;
@@ -116,6 +90,11 @@ struct Setting {
 
     /// u of the centre over A / B, (9-39).
     double centre() const { return std::atan2(line.heading() * sphere.tangent, std::fabs(line.cosAlpha)); }
+
+    /// gammac; the line's own azimuth where two points define it.
+    SinCos<double> rectification(Parameters const& given) const {
+        return given.useAzimuth ? exactSinCos(given.rectifiedAngle) : SinCos<double>{line.sinAlpha, line.cosAlpha};
+    }
 };
 
 struct Hotine {
@@ -128,11 +107,12 @@ struct Hotine {
 
     Hotine(Parameters const& given, Setting const& at)
         : B(at.sphere.B), logE(at.sphere.logE), lambda0(at.line.lambda0), seam(seamOf(at.sphere)),
-          size(given.a * given.k0 * at.sphere.size), origin(given.offsetByU ? at.centre() : 0), cylinder(at.cylinder),
+          size(given.a * given.k0 * at.sphere.radius), origin(given.offsetByU ? at.centre() : 0), cylinder(at.cylinder),
           isometricLatitude(given.f) {
         if (given.rotate) { // (9-33), (9-34)
-            xu = ya = at.line.sinAlpha;
-            yu = at.line.cosAlpha;
+            auto const turn = at.rectification(given);
+            xu = ya = turn.sin;
+            yu = turn.cos;
             xa = -yu;
         }
     }
@@ -183,7 +163,7 @@ bool offsetSplitObject(ParametersInDegrees const& given, PROJPOINT const* points
 
 MapEdges edges(ParametersInDegrees const& given) noexcept {
     Setting const at(inRadians(given));
-    LineSphere const& sphere = at.sphere;
+    GaussSphere const& sphere = at.sphere;
     IsometricLatitude const isometricLatitude(given.f);
     auto const latitude = [&](SinCos<double> chi) {
         return isometricLatitude.geodetic((isometric(chi) - sphere.logE) / sphere.B);

@@ -21,6 +21,7 @@ template <AngleUnit> struct ParametersIn {
     double rectifiedAngle = 0; // from the rectified to the skew grid
     double coLatitude = 0;     // of the axis of an oblique cone
     double height = 0;         // of a plane of projection above the ellipsoid, in the unit of `a`
+    double zoneWidth = 0;      // of the longitudes that a zone of a zoned grid has; lon0 is where zone 1 begins
     bool useAzimuth = false;   // the line is given by its azimuth, not by two points
     bool rotate = false;       // x and y are east and north, not along the line and across
     bool offsetByU = false;    // distances along the line count from the centre
@@ -44,6 +45,7 @@ using ParametersInDegrees = ParametersIn<AngleUnit::degrees>;
             .rectifiedAngle = given.rectifiedAngle * degree,
             .coLatitude = given.coLatitude * degree,
             .height = given.height,
+            .zoneWidth = given.zoneWidth * degree,
             .useAzimuth = given.useAzimuth,
             .rotate = given.rotate,
             .offsetByU = given.offsetByU};

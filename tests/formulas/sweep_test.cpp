@@ -228,12 +228,20 @@ Projection atScalarLevel(std::string const& words) {
     return Projection(words);
 }
 
-class Sweep : public testing::TestWithParam<ProjType> {
+/// Parameter sets, in words, of one projection.
+struct Sets {
+    std::string name;
+    std::vector<std::string> words;
+
+    friend std::ostream& operator<<(std::ostream& out, Sets const& sets) { return out << sets.name; }
+};
+
+class Sweep : public testing::TestWithParam<Sets> {
 protected:
-    /// Calls check(projection) for each of the type's parameter sets at each processor level.
+    /// Calls check(projection) for each of the parameter sets at each processor level.
     template <class Check> static void forEachProjection(Check const& check) {
         test::forEachLevel([&](formulas::Level) {
-            for (auto const& words : test::parameterSets(GetParam())) {
+            for (auto const& words : GetParam().words) {
                 Projection projection(words);
                 check(projection);
             }
@@ -241,15 +249,38 @@ protected:
     }
 };
 
-std::string nameOf(testing::TestParamInfo<ProjType> const& type) {
-    char name[64] = "";
-    ProjGetProjectionInfo(type.param, name);
-    std::string text = name;
+std::string lettersOf(std::string text) {
     std::erase_if(text, [](unsigned char c) { return !std::isalnum(c); });
     return text;
 }
 
-INSTANTIATE_TEST_SUITE_P(Projections, Sweep, testing::ValuesIn(test::projectingTypes()), nameOf);
+std::vector<Sets> setsOfTypes() {
+    std::vector<Sets> all;
+    for (auto const type : test::projectingTypes()) {
+        char name[64] = "";
+        ProjGetProjectionInfo(type, name);
+        all.push_back({lettersOf(name), test::parameterSets(type)});
+    }
+    return all;
+}
+
+std::vector<Sets> setsOfFormulas() {
+    std::vector<Sets> all;
+    for (auto const& words : test::formulaParameterSets()) {
+        auto const name = lettersOf(words.substr(0, words.find(' ')));
+        if (all.empty() || all.back().name != name)
+            all.push_back({name, {}});
+        all.back().words.push_back(words);
+    }
+    return all;
+}
+
+std::string nameOf(testing::TestParamInfo<Sets> const& sets) {
+    return sets.param.name;
+}
+
+INSTANTIATE_TEST_SUITE_P(Projections, Sweep, testing::ValuesIn(setsOfTypes()), nameOf);
+INSTANTIATE_TEST_SUITE_P(Formulas, Sweep, testing::ValuesIn(setsOfFormulas()), nameOf);
 
 } // namespace
 

@@ -1,5 +1,6 @@
 // What the tests and the benchmarks know of each projection: tests/data/projections has a file a type, named by the
-// type's key. Lines that start with # are comments; a line of the others is
+// type's key, and a file a method that only systems reach. Lines that start with # are comments; a line of the others
+// is
 //
 //     sweep | RECORD                               a parameter set for the checks that sweep them all
 //     bench [VARIANT] | RECORD | BOX | PROJ        a row of the benchmarks: where its points lie (west, east, south and
@@ -25,7 +26,7 @@ struct ProjectionCase {
     bool forward = true, inverse = true;
     PROJPOINT geographic{}, map{};
     double tolerance = 0;
-    std::string line;
+    std::string words, line;
 };
 
 /// The files that hold reference values, in alphabetical order.

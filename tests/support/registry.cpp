@@ -1,5 +1,7 @@
 #include "support/registry.h"
 
+#include "formulas/levels.h"
+#include "host/fpenv.h"
 #include "proj/projection_table.h"
 #include "support/words.h"
 
@@ -10,12 +12,24 @@
 #include <cfloat>
 #include <cmath>
 #include <cstdint>
+#include <filesystem>
 #include <fstream>
+#include <iterator>
 #include <limits>
 #include <random>
 
 namespace ZrProj::test {
 namespace {
+
+/// The parameter sets of a file.
+std::vector<std::string> sweepsOf(std::filesystem::path const& file) {
+    std::ifstream in(file);
+    std::vector<std::string> sets;
+    for (std::string line; std::getline(in, line);)
+        if (line.starts_with("sweep |"))
+            sets.push_back(fieldsOf(line).at(1));
+    return sets;
+}
 
 /// Where the projection is centred: longitude and latitude.
 PROJPOINT centreOf(PROJDATA const& r) {
@@ -76,10 +90,45 @@ void addNeighbours(std::vector<PROJPOINT>& points, PROJPOINT centre) {
 
 } // namespace
 
-Projection::Projection(std::string const& words) : words_(words), record_(recordOf(words)), projector_(&record_) {
-    EXPECT_TRUE(projector_.GetInfo(&record_)) << words;
+Projection::Projection(std::string const& words) : words_(words), record_(recordOf(words)) {
+    if (auto const given = formulaOf(words)) {
+        direct_ = Direct{formulas::formulaOf(given->method).value(), given->parameters, {}};
+        auto& converter = direct_->converter;
+        converter.xOrg = given->x0;
+        converter.yOrg = given->y0;
+        converter.scale = given->scale;
+        direct_->formula.prepare(converter, inRadians(given->parameters));
+        return;
+    }
+    EXPECT_TRUE(projector_.Create(&record_) && projector_.GetInfo(&record_)) << words;
     if (record_.Type == ProjTypeStatePlane1927 || record_.Type == ProjTypeStatePlane1983)
         ProjGetStateZoneParams(&record_);
+}
+
+bool Projection::Direct::run(formulas::Converter::Run conversion, std::span<PROJPOINT> points) {
+    if (!conversion) {
+        std::ranges::fill(points, PROJPOINT{DBL_MAX, DBL_MAX});
+        return true;
+    }
+    auto const convert = [&] { return conversion(converter, points.data(), int(points.size())); };
+    return !withDefaultFloatingPoint(convert).failed;
+}
+
+bool Projection::tryForward(std::span<PROJPOINT> points) {
+    return direct_ ? direct_->run(direct_->converter.forward, points)
+                   : projector_.Forward(points.data(), int(points.size()));
+}
+
+bool Projection::tryInverse(std::span<PROJPOINT> points) {
+    return direct_ ? direct_->run(direct_->converter.inverse, points)
+                   : projector_.Inverse(points.data(), int(points.size()));
+}
+
+bool Projection::isInRange(PROJPOINT const& point) {
+    if (direct_)
+        return direct_->converter.forward && isGeographic(point) &&
+               direct_->formula.inProjection(direct_->parameters, point);
+    return projector_.LLInProjection(&point);
 }
 
 std::vector<PROJPOINT> Projection::forward(std::vector<PROJPOINT> points) {
@@ -127,12 +176,19 @@ bool Projection::isBesideUnplottable(PROJPOINT const& point, double degrees) {
 }
 
 std::vector<std::string> parameterSets(ProjType type) {
-    std::ifstream in(std::string(ZRPROJ_TEST_DATA "/projections/") + projectionRow(type)->key + ".txt");
-    std::vector<std::string> sets;
-    for (std::string line; std::getline(in, line);)
-        if (line.starts_with("sweep |"))
-            sets.push_back(fieldsOf(line).at(1));
+    auto const sets = sweepsOf(std::string(ZRPROJ_TEST_DATA "/projections/") + projectionRow(type)->key + ".txt");
     EXPECT_FALSE(sets.empty()) << type;
+    return sets;
+}
+
+std::vector<std::string> formulaParameterSets() {
+    std::vector<std::string> sets;
+    for (auto const& entry : std::filesystem::directory_iterator(ZRPROJ_TEST_DATA "/projections"))
+        if (entry.path().extension() == ".txt")
+            std::ranges::copy(sweepsOf(entry.path()), std::back_inserter(sets));
+    std::erase_if(sets, [](std::string const& words) { return !words.starts_with("method="); });
+    std::ranges::sort(sets);
+    EXPECT_FALSE(sets.empty());
     return sets;
 }
 

@@ -1,8 +1,12 @@
-// Every projection type with several sets of parameters, for the checks that sweep them all.
+// Every projection type, and every formula that only systems reach, with several sets of parameters, for the checks
+// that sweep them all.
 #pragma once
+
+#include "formulas/converter.h"
 
 #include <zrproj/projection.h>
 
+#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -26,9 +30,9 @@ public:
     PROJPOINT inverse(PROJPOINT point) { return inverse(std::vector{point}).front(); }
 
     /// Converts the points in place; false when the call failed.
-    bool tryForward(std::span<PROJPOINT> points) { return projector_.Forward(points.data(), int(points.size())); }
-    bool tryInverse(std::span<PROJPOINT> points) { return projector_.Inverse(points.data(), int(points.size())); }
-    bool isInRange(PROJPOINT const& point) { return projector_.LLInProjection(&point); }
+    bool tryForward(std::span<PROJPOINT> points);
+    bool tryInverse(std::span<PROJPOINT> points);
+    bool isInRange(PROJPOINT const& point);
 
     /// Points all over the globe and where projections are delicate: poles, centre and antipode, the meridians
     /// opposite to the centre and 90 degrees from it, the antimeridian, standard parallels, -0.0.
@@ -47,13 +51,24 @@ public:
     double mapLength(double metres) const { return metres * record_.Scale * record_.MajorRadius / 6378137; }
 
 private:
+    /// A formula run as a handle runs it, without one.
+    struct Direct {
+        formulas::Formula formula;
+        formulas::ParametersInDegrees parameters;
+        formulas::Converter converter;
+
+        bool run(formulas::Converter::Run conversion, std::span<PROJPOINT> points);
+    };
+
     std::string words_;
     PROJDATA record_;
     CProjector projector_;
+    std::optional<Direct> direct_; // in place of the projector
 };
 
-/// The parameter sets of a type, in words.
+/// The parameter sets of a type, in words; those of all formulas that only systems reach.
 std::vector<std::string> parameterSets(ProjType type);
+std::vector<std::string> formulaParameterSets();
 
 /// Records that pass validation but define no map, or one that hardly anybody wants.
 std::vector<std::string> oddParameterSets();

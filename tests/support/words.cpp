@@ -3,7 +3,9 @@
 #include "proj/parameter_table.h"
 #include "proj/projection_table.h"
 
+#include <algorithm>
 #include <cctype>
+#include <map>
 #include <sstream>
 #include <stdexcept>
 
@@ -51,6 +53,76 @@ StateZoneType zoneOf(std::string const& key) {
     throw std::invalid_argument("no zone " + key);
 }
 
+using formulas::Method;
+std::map<std::string, Method> const methods{
+    {"colombia-urban", Method::colombiaUrban},
+    {"cylindrical-equal-area", Method::cylindricalEqualArea},
+    {"equal-earth", Method::equalEarth},
+    {"gauss-schreiber", Method::gaussSchreiber},
+    {"gnomonic-ellipsoid", Method::gnomonicEllipsoid},
+    {"guam", Method::guam},
+    {"hotine", Method::hotine},
+    {"hyperbolic-cassini", Method::hyperbolicCassini},
+    {"krovak", Method::krovak},
+    {"krovak-modified", Method::krovakModified},
+    {"laborde", Method::laborde},
+    {"lambert-near-conformal", Method::lambertNearConformal},
+    {"new-zealand-map-grid", Method::newZealandMapGrid},
+    {"oblique-stereographic", Method::obliqueStereographic},
+    {"transverse-mercator-exact", Method::transverseMercatorExact},
+    {"transverse-mercator-zoned", Method::transverseMercatorZoned},
+    {"tunisia-mining-grid", Method::tunisiaMiningGrid},
+};
+
+using formulas::ParametersInDegrees;
+std::map<std::string, double ParametersInDegrees::*> const formulaNumbers{
+    {"radius", &ParametersInDegrees::a},
+    {"flattening", &ParametersInDegrees::f},
+    {"lat0", &ParametersInDegrees::lat0},
+    {"lon0", &ParametersInDegrees::lon0},
+    {"lat1", &ParametersInDegrees::lat1},
+    {"k0", &ParametersInDegrees::k0},
+    {"alpha", &ParametersInDegrees::azimuth},
+    {"rectified", &ParametersInDegrees::rectifiedAngle},
+    {"height", &ParametersInDegrees::height},
+    {"colatitude", &ParametersInDegrees::coLatitude},
+    {"zone_width", &ParametersInDegrees::zoneWidth},
+};
+std::map<std::string, bool ParametersInDegrees::*> const formulaFlags{
+    {"use_alpha", &ParametersInDegrees::useAzimuth},
+    {"rotate", &ParametersInDegrees::rotate},
+    {"u_offset", &ParametersInDegrees::offsetByU},
+};
+std::map<std::string, double FormulaWords::*> const frameNumbers{
+    {"x0", &FormulaWords::x0}, {"y0", &FormulaWords::y0}, {"scale", &FormulaWords::scale}};
+
+void setWord(FormulaWords& formula, std::string const& key, std::string const& text) {
+    if (key == "method")
+        formula.method = methods.at(text);
+    else if (key == "rf")
+        formula.parameters.f = 1 / std::stod(text);
+    else if (auto const frame = frameNumbers.find(key); frame != frameNumbers.end())
+        formula.*frame->second = std::stod(text);
+    else if (auto const flag = formulaFlags.find(key); flag != formulaFlags.end())
+        formula.parameters.*flag->second = text == "1";
+    else
+        formula.parameters.*formulaNumbers.at(key) = std::stod(text);
+}
+
+PROJDATA recordLike(FormulaWords const& formula) {
+    auto const& given = formula.parameters;
+    PROJDATA record{};
+    record.MajorRadius = given.a;
+    record.Flattening = given.f;
+    record.Lat0 = given.lat0;
+    record.Lon0 = given.lon0;
+    record.Lat1 = given.lat1;
+    record.xOrg = formula.x0;
+    record.yOrg = formula.y0;
+    record.Scale = formula.scale;
+    return record;
+}
+
 void setWord(PROJDATA& record, std::string const& key, std::string const& text) {
     if (key == "rf") {
         record.Flattening = 1 / std::stod(text);
@@ -81,16 +153,31 @@ void setWord(PROJDATA& record, std::string const& key, std::string const& text) 
     }
 }
 
-} // namespace
-
-PROJDATA recordOf(std::string const& words) {
-    PROJDATA record{};
+/// Calls take(key, text) for each word "key=text".
+template <class Take> void forEachWord(std::string const& words, Take const& take) {
     std::istringstream in(words);
     for (std::string word; in >> word;) {
         auto const equals = std::min(word.find('='), word.size() - 1);
-        setWord(record, word.substr(0, equals), word.substr(equals + 1));
+        take(word.substr(0, equals), word.substr(equals + 1));
     }
+}
+
+} // namespace
+
+PROJDATA recordOf(std::string const& words) {
+    if (auto const formula = formulaOf(words))
+        return recordLike(*formula);
+    PROJDATA record{};
+    forEachWord(words, [&](std::string const& key, std::string const& text) { setWord(record, key, text); });
     return record;
+}
+
+std::optional<FormulaWords> formulaOf(std::string const& words) {
+    if (!words.starts_with("method="))
+        return std::nullopt;
+    FormulaWords formula;
+    forEachWord(words, [&](std::string const& key, std::string const& text) { setWord(formula, key, text); });
+    return formula;
 }
 
 std::vector<std::string> fieldsOf(std::string const& line) {

@@ -84,18 +84,25 @@ def cassini(out):
 
 
 HEADER = "# Made by make_geodesic.py.\n"
-with case_file.rewritten("azimuthal-equidistant.txt") as out:
-    out.write(HEADER + """# Published worked examples, to the printed digits.
+
+
+def write_files():
+    with case_file.rewritten("azimuthal-equidistant.txt") as out:
+        out.write(HEADER + """# Published worked examples, to the printed digits.
 type=azimuthal-equidistant radius=3 lat1=40 lon0=-100 | 100 -20 | -5.8311398 5.5444634 | 1.1e-7 | Snyder (1987), Appendix A
 type=azimuthal-equidistant radius=6378388 rf=297 lat1=90 lon0=-100 | 5 80 | 1078828.3 289071.2 | 0.06 | Snyder (1987), Appendix A
 # That method's formulas are good to millimetres so close to the centre.
 type=azimuthal-equidistant ellipsoid=clarke-1866 lat1=9.546708333333333 lon0=138.168744444444444 x0=40000 y0=60000 | 138.193030000000000 9.596525833333333 | 42665.90 65509.82 | 0.006 | EPSG guidance note 7-2, Modified Azimuthal Equidistant
 """)
-    azimuthal_equidistant(out)
-with case_file.rewritten("cassini.txt") as out:
-    out.write(HEADER + """# Published worked examples, to the printed digits.
+        azimuthal_equidistant(out)
+    with case_file.rewritten("cassini.txt") as out:
+        out.write(HEADER + """# Published worked examples, to the printed digits.
 type=cassini radius=1 lat0=-20 lon0=-75 | -90 25 | -0.2367759 0.7988243 | 5.1e-8 | Snyder (1987), Appendix A
 type=cassini ellipsoid=clarke-1866 lat0=40 lon0=-75 | -73 43 | 163071.1 335127.6 | 0.06 | Snyder (1987), Appendix A
 type=cassini radius=31706587.88 rf=294.2606764 lat0=10.441666666666667 lon0=-61.333333333333333 x0=430000 y0=325000 | -62 10 | 66644.94 82536.22 | 0.006 | EPSG guidance note 7-2, Cassini-Soldner
 """)
-    cassini(out)
+        cassini(out)
+
+
+if __name__ == "__main__":
+    write_files()
