@@ -4,7 +4,7 @@
     make_register.py PROJ_DB
 
 Each table stands in a header of its own, sorted by code, a row a line, with the row's name as a comment. Texts stand once
-each in texts.h, and a text that ends another one is that one's tail. Angles become degrees and lengths metres here, by
+each in texts.h, packed, and a text that ends another one is that one's tail. Angles become degrees and lengths metres here, by
 exact fractions of the register's decimals, so that each number is the double next to the exact value.
 """
 import collections
@@ -80,7 +80,7 @@ def key(name):
 
 
 class Texts:
-    """The pool: each text once, and only where no other one ends with it."""
+    """The pool: each text once, and only where no other one ends with it; frequent pairs of bytes are one byte."""
 
     def __init__(self):
         self.wanted = set()
@@ -93,13 +93,64 @@ class Texts:
         reversed_order = sorted(self.wanted, key=lambda text: text[::-1])
         pairs = zip(reversed_order, reversed_order[1:] + [""])
         self.kept = sorted(text for text, following in pairs if not following.endswith(text))
-        self.offsets, position = {}, 0
+        pieces = {text: self.pieces_of(text) for text in self.kept}
+        self.pairs, packed = packed_by_pairs({piece for cut in pieces.values() for piece in cut})
+        self.packed, self.offsets, position = {}, {}, 0
         for text in self.kept:
-            for tail in range(len(text) + 1):
-                if text[tail:] in self.wanted:
-                    self.offsets.setdefault(text[tail:], position + len(text[:tail].encode()))
-            position += len(text.encode()) + 1
+            tail = text
+            for piece in pieces[text]:
+                self.offsets.setdefault(tail, position)
+                tail = tail[len(piece):]
+                position += len(packed[piece])
+            self.offsets.setdefault(tail, position)
+            position += 1
+            self.packed[text] = b"".join(packed[piece] for piece in pieces[text])
         self.size = position
+
+    def pieces_of(self, text):
+        """A text cut where other texts begin that it ends with: no pair may lie across."""
+        cuts = [0] + [i for i in range(1, len(text)) if text[i:] in self.wanted] + [len(text)]
+        return [text[i:j] for i, j in zip(cuts, cuts[1:])]
+
+
+def packed_by_pairs(texts):
+    """Re-Pair (Larsson and Moffat 2000): the most frequent pair of bytes becomes a byte that occurs nowhere, again and again.
+    The pairs by their bytes, and each text's bytes."""
+    texts = sorted(texts)
+    sequences = [list(text.encode()) for text in texts]
+    used = {byte for sequence in sequences for byte in sequence}
+    counts, users = collections.Counter(), collections.defaultdict(set)
+
+    def count(i, sign):
+        for pair in zip(sequences[i], sequences[i][1:]):
+            counts[pair] += sign
+            users[pair].add(i)
+
+    for i in range(len(sequences)):
+        count(i, 1)
+    pairs = {}
+    for byte in sorted(set(range(1, 256)) - used):
+        pair = max(counts, key=lambda p: (counts[p], p))
+        pairs[byte] = pair
+        for i in users.pop(pair):
+            count(i, -1)
+            sequences[i] = with_pair_as(sequences[i], pair, byte)
+            count(i, 1)
+        counts += collections.Counter()  # drops what is no more
+    return pairs, {text: bytes(sequence) for text, sequence in zip(texts, sequences)}
+
+
+def with_pair_as(sequence, pair, byte):
+    packed, i = [], 0
+    while i < len(sequence):
+        found = tuple(sequence[i:i + 2]) == pair
+        packed.append(byte if found else sequence[i])
+        i += 2 if found else 1
+    return packed
+
+
+def literal(data):
+    return "".join(chr(c) if 32 <= c < 127 and c not in b'"\\\\?' else f"\\{c:03o}" for c in data)
 
 
 def beginnings(names, limit, least):
@@ -396,9 +447,12 @@ class Register:
         version = f"EPSG Geodetic Parameter Dataset {self.head['EPSG.VERSION']} of {self.head['EPSG.DATE']}"
         self.write_file(folder / "version.h", "The register's edition and terms.",
                         f'inline constexpr char version[] = "{version}";\ninline constexpr char terms[] =\n    "{TERMS}";\n')
-        lines = "\n".join('    "' + text.replace("\\", "\\\\").replace('"', '\\"') + '\\0"' for text in self.text.kept)
-        self.write_file(folder / "texts.h", "Every name of the register, each ended by a 0.",
-                        f"inline constexpr char texts[] =\n{lines};\n")
+        self.write_file(folder / "pairs.h", "The bytes of texts that stand for two others each; 0, 0 for one that stands for itself.",
+                        "inline constexpr unsigned char pairs[256][2] = {\n" + "".join(
+                            f"    {{{', '.join(map(str, self.text.pairs.get(byte, (0, 0))))}}},\n" for byte in range(256)) + "};\n")
+        lines = "\n".join(f'    "{literal(self.text.packed[text])}\\0" // {text}' for text in self.text.kept)
+        self.write_file(folder / "texts.h", "Every name of the register, each ended by a 0, in the bytes of pairs.h.",
+                        f"inline constexpr char texts[] =\n{lines}\n    ;\n")
 
     def write_file(self, path, what, body):
         head = HEAD

@@ -19,7 +19,7 @@ using namespace rows;
 struct Names {
     std::span<std::uint16_t const> order;
     std::span<AliasRow const> aliases;
-    char const* (*name)(std::size_t row);
+    std::string (*name)(std::size_t row);
     Code (*code)(std::size_t row);
 };
 
@@ -73,7 +73,7 @@ std::string keyOf(std::string_view name) {
 }
 
 std::string textOf(AliasRow const& alias) {
-    return std::string(at(beginnings[alias.beginning])) + at(alias.rest);
+    return at(beginnings[alias.beginning]) + at(alias.rest);
 }
 
 bool equalButForCase(std::string_view a, std::string_view b) {
@@ -159,7 +159,7 @@ Code codeOfParts(std::string_view name, std::string_view key) {
     Code const base = conversion == name.npos ? 0 : codeNamed(Thing::system, name.substr(0, conversion));
     if (base == 0)
         return codeOfOgc(key);
-    std::string const current = std::string(nameOf(Thing::system, base)) + std::string(name.substr(conversion));
+    std::string const current = nameOf(Thing::system, base) + std::string(name.substr(conversion));
     return current == name ? 0 : codeNamed(Thing::system, current);
 }
 
@@ -202,10 +202,10 @@ Code codeNamed(Thing thing, std::string_view name) {
     return thing == Thing::system ? codeOfParts(name, key) : 0;
 }
 
-std::string_view nameOf(Thing thing, Code code) {
-    auto const nameIn = [code](auto const& table) -> std::string_view {
+std::string nameOf(Thing thing, Code code) {
+    auto const nameIn = [code](auto const& table) -> std::string {
         auto const* row = find(table, code);
-        return row ? at(row->name) : "";
+        return row ? at(row->name) : std::string();
     };
     switch (thing) {
     case Thing::system:

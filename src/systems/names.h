@@ -18,7 +18,7 @@ enum class Thing { system, datum, ellipsoid, meridian, unit };
 Code codeNamed(Thing thing, std::string_view name);
 
 /// The register's name, "" for an unknown code.
-std::string_view nameOf(Thing thing, Code code);
+std::string nameOf(Thing thing, Code code);
 
 /// What ESRI calls it, "" where no name of ESRI's is known.
 std::string esriNameOf(Thing thing, Code code);

@@ -5,6 +5,8 @@
 
 #include <algorithm>
 #include <cmath>
+#include <memory>
+#include <string>
 
 namespace ZrProj::systems {
 namespace {
@@ -48,9 +50,13 @@ Code replacementOf(Code code) {
     return row ? row->replacement : 0;
 }
 
+/// The geographic system that a system stands on, or is.
+SystemRow const& baseOf(SystemRow const& row) {
+    return row.conversion == geographic ? row : *find(systems, row.base);
+}
+
 Definition definitionOfRow(SystemRow const& row) {
-    bool const projected = row.conversion != geographic;
-    SystemRow const& base = projected ? *find(systems, row.base) : row;
+    SystemRow const& base = baseOf(row);
     Definition definition;
     definition.name = at(row.name);
     definition.code = row.code;
@@ -60,7 +66,7 @@ Definition definitionOfRow(SystemRow const& row) {
     definition.area = areaOf(areas[row.area]);
     definition.deprecated = row.deprecated;
     definition.replacement = replacementOf(row.code);
-    if (projected) {
+    if (row.conversion != geographic) {
         definition.baseName = at(base.name);
         definition.baseCode = base.code;
         setConversion(definition, conversions[row.conversion]);
@@ -69,8 +75,20 @@ Definition definitionOfRow(SystemRow const& row) {
     return definition;
 }
 
+/// The names of all systems, unpacked when the first is asked for, and kept: callers have their addresses.
+std::vector<std::string> const& namesOfSystems() {
+    static auto const* const names = [] {
+        auto unpacked = std::make_unique<std::vector<std::string>>();
+        for (SystemRow const& row : systems)
+            unpacked->push_back(at(row.name));
+        return unpacked.release();
+    }();
+    return *names;
+}
+
 Entry entryOf(SystemRow const& row) {
-    return {row.code, at(row.name), row.conversion != geographic, row.deprecated};
+    auto const& name = namesOfSystems()[static_cast<std::size_t>(&row - systems)];
+    return {row.code, name.c_str(), row.conversion != geographic, row.deprecated};
 }
 
 bool contains(AreaRow const& row, double longitude, double latitude) {
@@ -147,6 +165,14 @@ std::size_t entryCount() {
 
 Entry entry(std::size_t n) {
     return entryOf(systems[n]);
+}
+
+std::vector<Code> systemsOn(Code datum) {
+    std::vector<Code> codes;
+    for (SystemRow const& row : systems)
+        if (baseOf(row).base == datum)
+            codes.push_back(row.code);
+    return codes;
 }
 
 std::vector<Entry> systemsAt(double longitude, double latitude) {

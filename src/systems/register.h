@@ -34,6 +34,9 @@ struct Entry {
 std::size_t entryCount();
 Entry entry(std::size_t n); // n < entryCount()
 
+/// The codes of the systems that stand on a datum.
+std::vector<Code> systemsOn(Code datum);
+
 /// The systems in force whose area of use has a place, the smallest area first; degrees.
 std::vector<Entry> systemsAt(double longitude, double latitude);
 

@@ -7,7 +7,7 @@
 
 namespace ZrProj::systems::rows {
 
-/// Where a name begins in `texts`; it ends at the next 0.
+/// Where a name begins in `texts`, packed; it ends at the next 0.
 using Text = std::uint32_t;
 
 struct UnitRow {

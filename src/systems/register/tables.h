@@ -14,6 +14,7 @@
 #include "systems/register/meridian_aliases.h"
 #include "systems/register/meridian_names.h"
 #include "systems/register/meridians.h"
+#include "systems/register/pairs.h"
 #include "systems/register/parts.h"
 #include "systems/register/replacements.h"
 #include "systems/register/system_aliases.h"
@@ -29,11 +30,24 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <string>
 
 namespace ZrProj::systems::rows {
 
-inline char const* at(Text text) {
-    return texts + text;
+inline void unpack(std::string& to, unsigned char byte) {
+    if (pairs[byte][0] == 0) {
+        to += static_cast<char>(byte);
+        return;
+    }
+    unpack(to, pairs[byte][0]);
+    unpack(to, pairs[byte][1]);
+}
+
+inline std::string at(Text text) {
+    std::string unpacked;
+    for (char const* byte = texts + text; *byte != 0; ++byte)
+        unpack(unpacked, static_cast<unsigned char>(*byte));
+    return unpacked;
 }
 
 /// The row of a table that has a code, or null.
