@@ -1,0 +1,25 @@
+// Which system of the register a definition is, by what it says: numbers, not names alone.
+#pragma once
+
+#include "systems/definition.h"
+
+#include <string>
+
+namespace ZrProj::systems {
+
+/// What a definition says other than a second one of the register, a phrase for people; "" when they say the same.
+/// Names count for datums alone, which have no other content than their figure.
+std::string difference(Definition const& said, Definition const& registered);
+
+/// The code of the register's system that says the same; 0 when none does. The code and the name in the definition come
+/// first, then a system in force before a deprecated one.
+Code recognise(Definition const& definition);
+
+/// A definition that a text gave, and what there is to tell about it.
+struct Reconciled {
+    Definition definition; // with the register's code, name and area where it is of the register; else without a code
+    std::string noticed;   // where a code or name is contradicted by the numbers, which are taken; else ""
+};
+Reconciled reconcile(Definition definition);
+
+} // namespace ZrProj::systems

@@ -1,0 +1,99 @@
+#include "systems/recognition.h"
+
+#include "systems/register.h"
+
+#include <gtest/gtest.h>
+
+using namespace ZrProj::systems;
+
+namespace {
+
+/// A definition as a text gives it that has neither codes nor areas.
+Definition withoutCodes(Code code) {
+    Definition system = *definitionOf(code);
+    system.code = system.baseCode = system.conversionCode = system.replacement = 0;
+    system.datum.code = system.datum.ellipsoid.code = system.datum.meridian.code = 0;
+    system.unit.code = system.angularUnit.code = 0;
+    system.area.reset();
+    system.deprecated = false;
+    return system;
+}
+
+} // namespace
+
+TEST(Recognition, EverySystemByNamesAndNumbers) {
+    for (std::size_t i = 0; i < entryCount(); ++i) {
+        auto const registered = *definitionOf(entry(i).code);
+        auto const& said = registered.deprecated ? registered : withoutCodes(registered.code);
+        EXPECT_EQ(recognise(said), registered.code) << registered.name;
+    }
+}
+
+TEST(Recognition, ByContentWhenTheNameIsAnother) {
+    for (Code const code : {4326, 32617, 2154, 27700, 28992, 3857, 31467, 2277, 27572}) {
+        Definition system = withoutCodes(code);
+        system.name = "the county's own";
+        EXPECT_EQ(recognise(system), code);
+    }
+}
+
+TEST(Recognition, RoundedNumbersAreTheSame) {
+    Definition system = withoutCodes(2277);
+    system.unit.factor = 0.304800609601;
+    system.parameters[Parameter::falseEasting] += 4e-5;
+    system.parameters[Parameter::standardParallel1] += 4e-10;
+    system.datum.ellipsoid.inverseFlattening = 298.257222;
+    EXPECT_EQ(recognise(system), 2277);
+}
+
+TEST(Recognition, NumbersGoBeforeNames) {
+    struct {
+        Code code;
+        void (*change)(Definition&);
+        char const* told;
+    } const cases[] = {
+        {32617, [](Definition& d) { d.parameters[Parameter::longitudeOfOrigin] = -80; },
+         "the longitude of origin -80 degrees instead of -81 degrees"},
+        {32617, [](Definition& d) { d.datum.ellipsoid.semiMajor = 6378140; },
+         "the semi-major axis 6378140 m instead of 6378137 m"},
+        {32617, [](Definition& d) { d.unit.factor = 0.3048; }, "the unit 0.3048 m instead of 1 m"},
+        {2053, [](Definition& d) { d.y = Sense::positive; }, "axes that grow the other way"},
+        {27572, [](Definition& d) { d.datum.meridian.longitude = 0; },
+         "the prime meridian 0 degrees instead of 2.33722917 degrees"},
+        {3857, [](Definition& d) { d.method = Method::sinusoidal; },
+         "the method Sinusoidal instead of Popular Visualisation Pseudo Mercator"},
+    };
+    for (auto const& c : cases) {
+        Definition system = *definitionOf(c.code);
+        c.change(system);
+        EXPECT_EQ(recognise(system), 0);
+        auto const reconciled = reconcile(system);
+        EXPECT_EQ(reconciled.definition.code, 0);
+        EXPECT_NE(reconciled.noticed.find(c.told), std::string::npos) << reconciled.noticed;
+    }
+}
+
+TEST(Recognition, ADatumOfAnotherNameOnTheSameFigure) {
+    // NAD83 and ETRS89 share an ellipsoid.
+    Definition system = withoutCodes(26917);
+    system.datum.name = "European Terrestrial Reference System 1989";
+    system.baseName = "ETRS89";
+    EXPECT_EQ(recognise(system), 0);
+    EXPECT_NE(reconcile(system).noticed.find("instead of North American Datum 1983"), std::string::npos);
+    // No name at all says nothing against what the system itself is called, but is no datum of the register either.
+    system.datum.name = "unknown";
+    system.baseName = "unknown";
+    EXPECT_EQ(recognise(system), 26917);
+    system.name = "unknown";
+    EXPECT_EQ(recognise(system), 0);
+}
+
+TEST(Recognition, WhatIsRecognisedIsTheRegistersButForItsShift) {
+    Definition system = withoutCodes(31467);
+    system.datum.toWgs84 = ToWgs84{598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7};
+    auto const reconciled = reconcile(system);
+    EXPECT_EQ(reconciled.noticed, "");
+    EXPECT_EQ(reconciled.definition.code, 31467);
+    EXPECT_TRUE(reconciled.definition.area);
+    EXPECT_EQ(reconciled.definition.datum.toWgs84, system.datum.toWgs84);
+}
