@@ -8,6 +8,7 @@
 #include <cmath>
 #include <numbers>
 #include <random>
+#include <string_view>
 
 using namespace ZrProj;
 using test::Faults;
@@ -110,14 +111,29 @@ std::vector<PROJPOINT> smoothPoints(Projection& projection, double reach) {
     return points;
 }
 
-template <class Check> void forEachProjection(std::initializer_list<ProjType> types, Check const& check) {
+template <class Check> void forEachSet(std::vector<std::string> const& sets, Check const& check) {
     test::forEachLevel([&](formulas::Level) {
-        for (auto const type : types)
-            for (auto const& words : test::parameterSets(type)) {
-                Projection projection(words);
-                check(projection);
-            }
+        for (auto const& words : sets) {
+            Projection projection(words);
+            check(projection);
+        }
     });
+}
+
+template <class Check> void forEachProjection(std::initializer_list<ProjType> types, Check const& check) {
+    for (auto const type : types)
+        forEachSet(test::parameterSets(type), check);
+}
+
+/// The same for formulas that only systems reach, by their methods.
+template <class Check> void forEachFormula(std::initializer_list<std::string_view> methods, Check const& check) {
+    for (auto const method : methods) {
+        auto sets = test::formulaParameterSets();
+        std::erase_if(
+            sets, [&](std::string const& words) { return !words.starts_with("method=" + std::string(method) + ' '); });
+        EXPECT_FALSE(sets.empty()) << method;
+        forEachSet(sets, check);
+    }
 }
 
 void expectConformal(Projection& projection, double reach, double tolerance) {
@@ -128,6 +144,15 @@ void expectConformal(Projection& projection, double reach, double tolerance) {
         auto const [east, north] = mapSteps(projection, point);
         Vector const turned = mirrored ? Vector{east.y, -east.x} : Vector{-east.y, east.x};
         if (double const off = length(turned - north) / length(north); !(off <= tolerance))
+            faults.add(point, " is off by ", off);
+    }
+}
+
+void expectEqualArea(Projection& projection) {
+    Faults faults(projection.words());
+    for (auto const& point : smoothPoints(projection, 170)) {
+        auto const [east, north] = mapSteps(projection, point);
+        if (double const off = cross(east, north) - 1; !(std::fabs(off) <= 1e-8))
             faults.add(point, " is off by ", off);
     }
 }
@@ -149,17 +174,18 @@ TEST(Distortion, ConformalProjectionsKeepAngles) {
                       [](Projection& projection) { expectConformal(projection, 3, 1e-7); });
 }
 
+TEST(Distortion, ConformalFormulasKeepAngles) {
+    forEachFormula({"gauss-schreiber", "hotine", "krovak", "laborde", "oblique-stereographic"},
+                   [](Projection& projection) { expectConformal(projection, 60, 1e-8); });
+    forEachFormula({"transverse-mercator-exact"},
+                   [](Projection& projection) { expectConformal(projection, 40, 1e-8); });
+}
+
 TEST(Distortion, EqualAreaProjectionsKeepAreas) {
     forEachProjection({ProjTypeAlbersEqualAreaConic, ProjTypeMollweide, ProjTypeSinusoidal,
                        ProjTypeLambertAzimuthalEqualArea, ProjTypeBonne, ProjTypeEckertIV, ProjTypeEckertVI},
-                      [](Projection& projection) {
-                          Faults faults(projection.words());
-                          for (auto const& point : smoothPoints(projection, 170)) {
-                              auto const [east, north] = mapSteps(projection, point);
-                              if (double const off = cross(east, north) - 1; !(std::fabs(off) <= 1e-8))
-                                  faults.add(point, " is off by ", off);
-                          }
-                      });
+                      expectEqualArea);
+    forEachFormula({"cylindrical-equal-area", "equal-earth"}, expectEqualArea);
 }
 
 TEST(Distortion, EquidistantCylindricalAndConicKeepMeridiansAndTheirParallels) {

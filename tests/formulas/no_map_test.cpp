@@ -26,6 +26,15 @@ TEST(NoMap, EveryPointIsMarked) {
             "type=oblique-mercator ellipsoid=standard-sphere-of-6370997-meters lat1=30 lon1=10 lat2=-30 lon2=190", // antipodes
             "type=oblique-mercator ellipsoid=standard-sphere-of-6370997-meters lat1=30 lon1=10 lat2=120 lon2=40",
             "type=azimuthal-equidistant radius=6378137 flattening=0.0201 lat1=35",
+            "method=colombia-urban radius=6378137 rf=298.257222101 height=100000",
+            "method=cylindrical-equal-area radius=6378137 lat1=90", // a parallel without length
+            "method=gnomonic-ellipsoid radius=6378137 flattening=0.0201",
+            "method=krovak radius=6378137 lat0=49.5 colatitude=30 lat1=-78.5",
+            "method=lambert-near-conformal radius=6378137 lat0=0",        // no cone
+            "method=new-zealand-map-grid radius=6378388 rf=297 lat0=-42", // the polynomial is another origin's
+            "method=transverse-mercator-exact radius=6378137 flattening=0.0201",
+            "method=transverse-mercator-zoned radius=6378137 rf=298.257223563",
+            "method=transverse-mercator-zoned radius=6378137 rf=298.257223563 zone_width=7",
         }) {
         SCOPED_TRACE(words);
         test::forEachLevel([&](formulas::Level) {
