@@ -1,5 +1,5 @@
 // A hole that is cut at the edge of the map would share that edge with the ring around it. So the two are made one ring
-// first, joined by a bridge that is walked in both directions; after the cut the bridge is taken out again.
+// first, joined by a bridge, a segment that is walked both ways; after the cut the bridge is taken out again.
 #include "cli/geojson/clip.h"
 
 #include <algorithm>
@@ -13,9 +13,9 @@
 namespace ZrProj::Command {
 namespace {
 
-constexpr double insets = 1e-8, rounding = 1e-12; // degrees; of what is cut, and of turned longitudes
+constexpr double insets = 1e-8, rounding = 1e-12; // degrees: by cuts, by whole turns
 
-/// Whether a cut left a line or ring as it was, but for turns of the globe.
+/// Whether a cut left a line or ring as it was, but for whole turns of longitude.
 bool isWhole(std::vector<Places> const& cut, Places const& given, double within = insets) {
     auto const agree = [&](PROJPOINT const& a, PROJPOINT const& b) {
         return std::fabs(std::remainder(a.x - b.x, 360)) <= within && std::fabs(a.y - b.y) <= within;
@@ -23,7 +23,7 @@ bool isWhole(std::vector<Places> const& cut, Places const& given, double within 
     return cut.size() == 1 && std::ranges::equal(cut.front(), given, agree);
 }
 
-/// What was cut of a path. Extras stay on one that is whole.
+/// The pieces that a cut left of a path. One that is whole keeps its extras.
 Paths pathsOf(std::vector<Places> cut, Path const& given) {
     bool const whole = isWhole(cut, given.points);
     Paths paths;
@@ -32,8 +32,8 @@ Paths pathsOf(std::vector<Places> cut, Path const& given) {
     return paths;
 }
 
-/// How often a ring goes around the globe, eastwards.
-long turns(Places const& ring) {
+/// The winding number of a ring: how often it goes around the globe, eastwards.
+long windingNumber(Places const& ring) {
     double sum = 0;
     for (std::size_t i = 0; i < ring.size(); ++i)
         if (double const step = ring[(i + 1) % ring.size()].x - ring[i].x; std::isfinite(step))
@@ -47,8 +47,8 @@ struct Detour {
     Places hole;      // its first point is also its last
 };
 
-/// Along a bridge that the map shows whole. Neither end is on the map's edge: there the cut moves it, a little inside,
-/// and not to the last digit the same in both directions.
+/// Finds a detour along a bridge that the map shows whole. Neither end is on the map's edge: there the cut moves it, a
+/// little inside, and not to the last digit the same on both ways.
 std::optional<Detour> findDetour(CProjector& map, Places const& ring, Places hole) {
     constexpr std::size_t tried = 16; // of either
     std::size_t const step = ring.size() / tried + 1, holeStep = hole.size() / tried + 1;
@@ -64,16 +64,16 @@ std::optional<Detour> findDetour(CProjector& map, Places const& ring, Places hol
     return std::nullopt;
 }
 
-/// One ring of a ring and its detours. Where both go around a pole, what is between them goes around none.
+/// Joins a ring and its detours to one ring. Where both go around a pole, what is between them goes around none.
 Places join(Places const& ring, std::vector<Detour> detours) {
     std::ranges::stable_sort(detours, {}, &Detour::from);
     Places joined;
-    long around = turns(ring);
+    long around = windingNumber(ring);
     auto detour = detours.begin();
     for (std::size_t i = 0; i < ring.size(); ++i) {
         joined.push_back(ring[i]);
         for (; detour != detours.end() && detour->from == i; ++detour) {
-            long const more = turns(detour->hole);
+            long const more = windingNumber(detour->hole);
             bool const isAgainst = around * more > 0;
             if (isAgainst)
                 std::ranges::reverse(detour->hole);
@@ -85,9 +85,9 @@ Places join(Places const& ring, std::vector<Detour> detours) {
     return joined;
 }
 
-/// The edges of rings; one that is walked twice is none. The cut may have turned a part of a ring around, so directions
-/// do not count.
-class Edges {
+/// The segments of rings; one that is walked twice is none. The cut may have turned a part of a ring around, so their
+/// orientation does not count.
+class Segments {
 public:
     void add(PROJPOINT const& a, PROJPOINT const& b) {
         if (a.x == b.x && a.y == b.y)
@@ -96,45 +96,45 @@ public:
         toggle({b.x, b.y, a.x, a.y});
     }
 
-    /// Takes the edges out, ring by ring. An even number of them meets in every point, so each walk comes back.
+    /// Takes the segments out, ring by ring. An even number of them meets in every point, so each walk comes back.
     Paths rings() {
         Paths result;
-        while (!m_edges.empty()) {
+        while (!m_segments.empty()) {
             Path& ring = result.emplace_back();
-            for (auto edge = m_edges.begin(); edge != m_edges.end();) {
-                auto const [x, y, nextX, nextY] = *edge;
+            for (auto segment = m_segments.begin(); segment != m_segments.end();) {
+                auto const [x, y, nextX, nextY] = *segment;
                 ring.points.push_back({x, y});
                 toggle({x, y, nextX, nextY});
                 toggle({nextX, nextY, x, y});
-                edge = findFrom({nextX, nextY});
+                segment = findFrom({nextX, nextY});
             }
         }
         return result;
     }
 
 private:
-    using Edge = std::array<double, 4>; // two places
+    using Segment = std::array<double, 4>; // longitude and latitude of both ends
 
-    void toggle(Edge const& edge) {
-        if (auto const [there, isNew] = m_edges.insert(edge); !isNew)
-            m_edges.erase(there);
+    void toggle(Segment const& segment) {
+        if (auto const [there, isNew] = m_segments.insert(segment); !isNew)
+            m_segments.erase(there);
     }
 
-    std::set<Edge>::iterator findFrom(PROJPOINT const& place) {
-        auto const found = m_edges.lower_bound({place.x, place.y, -HUGE_VAL, -HUGE_VAL});
-        bool const isThere = found != m_edges.end() && (*found)[0] == place.x && (*found)[1] == place.y;
-        return isThere ? found : m_edges.end();
+    std::set<Segment>::iterator findFrom(PROJPOINT const& point) {
+        auto const found = m_segments.lower_bound({point.x, point.y, -HUGE_VAL, -HUGE_VAL});
+        bool const isThere = found != m_segments.end() && (*found)[0] == point.x && (*found)[1] == point.y;
+        return isThere ? found : m_segments.end();
     }
 
-    std::set<Edge> m_edges; // both ways
+    std::set<Segment> m_segments; // each of them both ways
 };
 
 Paths withoutBridges(std::vector<Places> const& rings) {
-    Edges edges;
+    Segments segments;
     for (Places const& ring : rings)
         for (std::size_t i = 0; i < ring.size(); ++i)
-            edges.add(ring[i], ring[(i + 1) % ring.size()]);
-    return edges.rings();
+            segments.add(ring[i], ring[(i + 1) % ring.size()]);
+    return segments.rings();
 }
 
 void append(Paths& paths, Paths more) {

@@ -17,7 +17,7 @@ constexpr int deepest = 200; // nesting, of lists and objects
 
 /// An object that is not at its end yet.
 struct OpenObject {
-    enum class Place { Root, Features, Geometry, Geometries } place;
+    enum class Role { Root, Features, Geometry, Geometries } role;
     enum class List { None, Geometries, Features } list = List::None; // what it is in
     GeoObject object = {};
     std::string key = {};
@@ -53,7 +53,7 @@ private:
 
     bool fail(std::string const& reason);
     void fault(std::string const& reason);
-    std::string place() const;
+    std::string location() const;
     template <class Integer> bool integer(Integer value);
     bool number(double value, std::string const& text);
     bool scalar(std::string_view text, Scalar kind);
@@ -83,19 +83,19 @@ private:
     int m_level = 0; // of lists and objects in coordinates
 };
 
-std::string Builder::place() const {
+std::string Builder::location() const {
     return " (line " + std::to_string(m_source.line()) + ", byte " + std::to_string(m_source.position()) + ')';
 }
 
 bool Builder::fail(std::string const& reason) {
-    m_failure = reason + place();
+    m_failure = reason + location();
     return false;
 }
 
 /// Something wrong with the present feature; the first thing is told.
 void Builder::fault(std::string const& reason) {
     if (m_fault.empty())
-        m_fault = reason + place();
+        m_fault = reason + location();
 }
 
 bool Builder::deeper() {
@@ -201,13 +201,13 @@ bool Builder::key(std::string& name) {
 // Objects and lists.
 
 void Builder::openObject() {
-    using Place = OpenObject::Place;
-    Place place = Place::Root;
+    using Role = OpenObject::Role;
+    Role role = Role::Root;
     if (!m_open.empty() && top().list != OpenObject::List::None)
-        place = top().list == OpenObject::List::Features ? Place::Features : Place::Geometries;
+        role = top().list == OpenObject::List::Features ? Role::Features : Role::Geometries;
     else if (!m_open.empty())
-        place = Place::Geometry;
-    m_open.push_back({place});
+        role = Role::Geometry;
+    m_open.push_back({role});
 }
 
 bool Builder::start_object(std::size_t) {
@@ -259,7 +259,7 @@ bool Builder::start_array(std::size_t) {
     if (!deeper())
         return false;
     if (m_mode == Mode::Members) {
-        if (isMember("features") && top().place == OpenObject::Place::Root)
+        if (isMember("features") && top().role == OpenObject::Role::Root)
             return openFeatures();
         if (isMember("geometries")) {
             top().list = OpenObject::List::Geometries;
@@ -295,18 +295,18 @@ bool Builder::end_array() {
 }
 
 bool Builder::finish(OpenObject done) {
-    using Place = OpenObject::Place;
+    using Role = OpenObject::Role;
     GeoObject& object = done.object;
-    if (done.place == Place::Root)
+    if (done.role == Role::Root)
         return finishRoot(std::move(done));
     std::string reason = object.fault();
-    if (reason.empty() && object.isFeature() != (done.place == Place::Features))
+    if (reason.empty() && object.isFeature() != (done.role == Role::Features))
         reason = object.isFeature() ? "a geometry is a Feature" : "a feature is a " + object.type;
     if (!reason.empty())
         fault(reason);
-    if (done.place == Place::Features)
+    if (done.role == Role::Features)
         m_sink.feature(std::move(object), std::exchange(m_fault, ""));
-    else if (done.place == Place::Geometries)
+    else if (done.role == Role::Geometries)
         top().object.geometries->push_back(std::move(object));
     else
         top().object.geometry.emplace().push_back(std::move(object));

@@ -103,12 +103,12 @@ Datum namedDatum(std::string_view text) {
     NameMatch const result = matchName(text, names);
     if (result.match != Match::One)
         throw UsageError(explainMismatch("datum", text, names, result, "zrproj list datums"));
-    int const place = result.found.front();
-    if (place < catalogue)
-        return catalogueDatum(static_cast<DatumType>(place + 1));
-    if (auto const own = ownDatum(names[static_cast<std::size_t>(place)]))
+    int const index = result.found.front();
+    if (index < catalogue)
+        return catalogueDatum(static_cast<DatumType>(index + 1));
+    if (auto const own = ownDatum(names[static_cast<std::size_t>(index)]))
         return *own;
-    throw UsageError("the datum " + inQuotes(names[static_cast<std::size_t>(place)]) +
+    throw UsageError("the datum " + inQuotes(names[static_cast<std::size_t>(index)]) +
                      " has just gone from the profile");
 }
 
@@ -181,7 +181,7 @@ std::optional<Figure> figureOf(Datum const& datum) {
 
 namespace {
 
-/// The record is byte-packed: its numbers are reached by their place.
+/// A number of the record, which is byte-packed: its numbers are reached by their offsets.
 struct FieldRow {
     std::string_view key, unit, words;
     std::size_t offset;

@@ -115,10 +115,10 @@ bool isNumber(std::string_view text) {
     return !text.empty() && text.size() < 7 && std::all_of(text.begin(), text.end(), isDigit);
 }
 
-int placeOf(std::string_view number) {
-    int place = 0;
-    std::from_chars(number.data(), number.data() + number.size(), place);
-    return place - 1;
+int columnOf(std::string_view number) {
+    int column = 0;
+    std::from_chars(number.data(), number.data() + number.size(), column);
+    return column - 1;
 }
 
 /// Whether a field was meant as a coordinate, well written or not: it begins with a digit, a sign, a point, the mark of
@@ -142,9 +142,9 @@ bool byNumber(ColumnRequest const& request) {
 Columns numberedColumns(ColumnRequest const& request) {
     Columns result;
     if (!request.columns.empty())
-        result = {placeOf(request.columns[0]), placeOf(request.columns[1]), -1, nullptr};
+        result = {columnOf(request.columns[0]), columnOf(request.columns[1]), -1, nullptr};
     if (request.zone)
-        result.zone = request.columns.empty() ? 2 : placeOf(request.columns[2]);
+        result.zone = request.columns.empty() ? 2 : columnOf(request.columns[2]);
     return result;
 }
 
@@ -155,7 +155,7 @@ public:
     Recognition recognise() const;
 
 private:
-    std::string_view at(int place) const;
+    std::string_view at(int column) const;
     bool reads(std::string_view text, bool isX) const;
     Recognition header(Columns columns) const;
     Recognition namedHeader() const;
@@ -173,8 +173,8 @@ private:
 Candidate::Candidate(std::string_view line, char delimiter, ColumnRequest const& request)
     : m_request(request), m_delimiter(delimiter), m_texts(fieldTexts(line, delimiter)) {}
 
-std::string_view Candidate::at(int place) const {
-    auto const index = static_cast<std::size_t>(place);
+std::string_view Candidate::at(int column) const {
+    auto const index = static_cast<std::size_t>(column);
     return index < m_texts.size() ? std::string_view(m_texts[index]) : std::string_view();
 }
 
@@ -204,17 +204,17 @@ Recognition Candidate::header(Columns columns) const {
 }
 
 Recognition Candidate::namedHeader() const {
-    std::vector<int> places;
+    std::vector<int> columns;
     for (std::string const& wanted : m_request.columns) {
         auto const fits = [&](std::string const& text) { return squeezed(text) == squeezed(wanted); };
-        auto const place = std::find_if(m_texts.begin(), m_texts.end(), fits);
-        if (place == m_texts.end())
+        auto const column = std::find_if(m_texts.begin(), m_texts.end(), fits);
+        if (column == m_texts.end())
             return {false, {}, "the header has no column " + inQuotes(wanted)};
-        if (std::find_if(place + 1, m_texts.end(), fits) != m_texts.end())
+        if (std::find_if(column + 1, m_texts.end(), fits) != m_texts.end())
             return faulty("the header has more than one column " + inQuotes(wanted) + "; give its number");
-        places.push_back(static_cast<int>(place - m_texts.begin()));
+        columns.push_back(static_cast<int>(column - m_texts.begin()));
     }
-    return header({places[0], places[1], places.size() > 2 ? places[2] : -1, nullptr});
+    return header({columns[0], columns[1], columns.size() > 2 ? columns[2] : -1, nullptr});
 }
 
 Recognition Candidate::numbered() const {
@@ -264,7 +264,7 @@ std::vector<std::string> parseColumns(std::string_view option, bool zone) {
     std::sort(sorted.begin(), sorted.end());
     bool const repeated = std::adjacent_find(sorted.begin(), sorted.end()) != sorted.end();
     if (repeated || sorted.front().empty() ||
-        (numbers && std::any_of(result.begin(), result.end(), [](auto& text) { return placeOf(text) < 0; })))
+        (numbers && std::any_of(result.begin(), result.end(), [](auto& text) { return columnOf(text) < 0; })))
         throw UsageError("--columns needs different columns, counted from 1");
     return result;
 }

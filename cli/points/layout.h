@@ -25,7 +25,7 @@ constexpr bool readsAngles(Direction direction) {
     return direction != Direction::Inverse;
 }
 
-/// Columns by their place, from 0. An absent zone column is -1.
+/// Columns by their index, from 0. An absent zone column is -1.
 struct Columns {
     int x = 0; // longitude or easting
     int y = 1; // latitude or northing

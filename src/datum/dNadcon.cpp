@@ -34,9 +34,9 @@ bool inconsistent(int line = __builtin_LINE()) noexcept {
     return AssertFailed(".\\dNadcon.cpp", line);
 }
 
-/// Where a point stands: the cell's south-western corner, counted from 1 (column 0 is the leading word), and the
-/// fractions from there, which are negative west of column 0.
-struct Place {
+/// The cell that a point lies in: its south-western corner, counted from 1 (column 0 is the leading word), and the
+/// point's fractions of the cell from there, which are negative west of column 0.
+struct Cell {
     std::int32_t row, column;
     double fx, fy;
 };
@@ -45,17 +45,17 @@ struct Grid {
     std::int32_t columns, rows;
     double xmin, dx, ymin, dy;
 
-    std::optional<Place> locate(DATUMPOINT const& point) const {
+    std::optional<Cell> locate(DATUMPOINT const& point) const {
         if (point.x == DBL_MAX || point.y == DBL_MAX)
             return std::nullopt;
         double const x = (point.x - xmin) / dx + 1, y = (point.y - ymin) / dy + 1;
         if (!(x > -1 && x < columns && y >= 1 && y < rows))
             return std::nullopt;
         auto const column = static_cast<std::int32_t>(x), row = static_cast<std::int32_t>(y); // toward zero
-        return Place{row, column, x - column, y - row};
+        return Cell{row, column, x - column, y - row};
     }
 
-    /// A value's place in the file, in words: below 2^62.
+    /// The offset of a value in the file, in words: below 2^62.
     std::uint64_t word(std::int64_t row, std::int64_t column) const {
         return static_cast<std::uint64_t>(row * (std::int64_t{columns} + 1) + column);
     }
@@ -67,13 +67,13 @@ std::optional<Grid> readHeader(PlainFile const& file) {
     if (!file.read(start, bytes.data(), bytes.size()))
         return std::nullopt;
     std::array<std::int32_t, 3> counts; // columns, rows, values a point
-    std::array<float, 4> places;        // xmin, dx, ymin, dy
+    std::array<float, 4> axes;          // xmin, dx, ymin, dy
     std::memcpy(counts.data(), bytes.data(), sizeof counts);
-    std::memcpy(places.data(), bytes.data() + sizeof counts, sizeof places);
-    bool const finite = std::ranges::all_of(places, [](float value) { return std::isfinite(value); });
-    if (counts[0] < 2 || counts[1] < 2 || !finite || !(places[1] > 0) || !(places[3] > 0))
+    std::memcpy(axes.data(), bytes.data() + sizeof counts, sizeof axes);
+    bool const finite = std::ranges::all_of(axes, [](float value) { return std::isfinite(value); });
+    if (counts[0] < 2 || counts[1] < 2 || !finite || !(axes[1] > 0) || !(axes[3] > 0))
         return std::nullopt;
-    return Grid{counts[0], counts[1], places[0], places[1], places[2], places[3]};
+    return Grid{counts[0], counts[1], axes[0], axes[1], axes[2], axes[3]};
 }
 
 /// The part of the grid that a call needs: the box around the cells of all its points.
@@ -81,11 +81,11 @@ struct Window {
     std::int32_t row = INT32_MAX, column = INT32_MAX, lastRow = 0, lastColumn = 0;
     std::uint64_t points = 0;
 
-    void add(Place const& place) {
-        row = std::min(row, place.row);
-        column = std::min(column, place.column);
-        lastRow = std::max(lastRow, place.row + 1); // rows and columns of the grid: no overflow
-        lastColumn = std::max(lastColumn, place.column + 1);
+    void add(Cell const& cell) {
+        row = std::min(row, cell.row);
+        column = std::min(column, cell.column);
+        lastRow = std::max(lastRow, cell.row + 1); // rows and columns of the grid: no overflow
+        lastColumn = std::max(lastColumn, cell.column + 1);
         ++points;
     }
     std::uint64_t width() const { return static_cast<std::uint64_t>(std::int64_t{lastColumn} - column + 1); }
@@ -113,8 +113,8 @@ struct Window {
 Window windowOf(Grid const& grid, std::span<DATUMPOINT const> points) {
     Window window;
     for (auto const& point : points)
-        if (auto const place = grid.locate(point))
-            window.add(*place);
+        if (auto const cell = grid.locate(point))
+            window.add(*cell);
     return window;
 }
 
@@ -123,8 +123,8 @@ bool isThere(std::uint64_t words, Grid const& grid, Window const& window, std::s
     if (grid.word(window.lastRow, window.lastColumn) < words)
         return true;
     return std::ranges::all_of(points, [&](DATUMPOINT const& point) {
-        auto const place = grid.locate(point);
-        return !place || grid.word(place->row + 1, place->column + 1) < words;
+        auto const cell = grid.locate(point);
+        return !cell || grid.word(cell->row + 1, cell->column + 1) < words;
     });
 }
 
@@ -148,9 +148,9 @@ public:
 
     bool good() const { return good_; }
 
-    Corners operator()(Place const& place) const {
-        auto const row = static_cast<std::size_t>(place.row - window_.row);
-        auto const column = static_cast<std::size_t>(place.column - window_.column);
+    Corners operator()(Cell const& cell) const {
+        auto const row = static_cast<std::size_t>(cell.row - window_.row);
+        auto const column = static_cast<std::size_t>(cell.column - window_.column);
         float const* const south = values_.data() + row * window_.width() + column;
         float const* const north = south + window_.width();
         return {south[0], south[1], north[0], north[1]};
@@ -169,10 +169,10 @@ public:
 
     bool good() const { return good_; }
 
-    Corners operator()(Place const& place) {
+    Corners operator()(Cell const& cell) {
         Corners corners{};
-        good_ = good_ && readPair(place.row, place.column, corners.data()) &&
-                readPair(place.row + 1, place.column, corners.data() + 2);
+        good_ = good_ && readPair(cell.row, cell.column, corners.data()) &&
+                readPair(cell.row + 1, cell.column, corners.data() + 2);
         return corners;
     }
 
@@ -186,8 +186,8 @@ private:
     bool good_ = true;
 };
 
-double interpolate(Corners const& corners, Place const& place) {
-    double const fx = place.fx, fy = place.fy;
+double interpolate(Corners const& corners, Cell const& cell) {
+    double const fx = cell.fx, fy = cell.fy;
     return (1 - fx) * (1 - fy) * corners[0] + fx * (1 - fy) * corners[1] + (1 - fx) * fy * corners[2] +
            fx * fy * corners[3];
 }
@@ -205,14 +205,14 @@ template <class Reader>
 bool shift(Pair const& pair, Grid const& grid, Window const& window, std::span<DATUMPOINT> points) {
     Reader las(pair.las, grid, window), los(pair.los, grid, window);
     for (auto& point : points) {
-        auto const place = grid.locate(point);
-        if (!place)
+        auto const cell = grid.locate(point);
+        if (!cell)
             continue;
-        Corners const x = las(*place), y = los(*place);
+        Corners const x = las(*cell), y = los(*cell);
         if (!las.good() || !los.good())
             return inconsistent();
-        point.x += interpolate(x, *place) / 3600;
-        point.y += interpolate(y, *place) / 3600;
+        point.x += interpolate(x, *cell) / 3600;
+        point.y += interpolate(y, *cell) / 3600;
     }
     return true;
 }

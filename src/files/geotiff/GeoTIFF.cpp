@@ -25,16 +25,16 @@ constexpr char sourceFile[] = ".\\GeoTIFF.cpp";
 /// What tags say: each part, or why it cannot be read.
 struct Contents {
     bool hasKeys = false;
-    Outcome<System> system;
-    Outcome<Placement> placement;
+    Expected<System> system;
+    Expected<Placement> placement;
 };
 
-Outcome<Contents> contentsOf(ZrBitmapTagList const& tags) {
+Expected<Contents> contentsOf(ZrBitmapTagList const& tags) {
     auto const keys = KeyDirectory::read(tags);
     if (!keys)
         return keys.refusal();
     bool const pixelIsPoint = keys->code(keyRasterType) == rasterIsPoint;
-    return Contents{!keys->empty(), keys->empty() ? Outcome<System>(Refusal{}) : readSystem(*keys),
+    return Contents{!keys->empty(), keys->empty() ? Expected<System>(Refusal{}) : readSystem(*keys),
                     readPlacement(tags, pixelIsPoint)};
 }
 
@@ -127,12 +127,12 @@ struct TagContents {
     KeyDirectory::Contents keys;
 };
 
-Outcome<TagContents> contentsOf(PROJDATA const* data, DatumType datum, DATUM2WGS84 const* params,
-                                GEOREF const* georef) {
+Expected<TagContents> contentsOf(PROJDATA const* data, DatumType datum, DATUM2WGS84 const* params,
+                                 GEOREF const* georef) {
     auto const keys = writeSystem(data, datum, params);
     if (!keys)
         return keys.refusal();
-    auto placement = georef ? writePlacement(*georef) : Outcome(PlacementTags());
+    auto placement = georef ? writePlacement(*georef) : Expected(PlacementTags());
     if (!placement)
         return placement.refusal();
     return TagContents{*placement, keys->empty() ? KeyDirectory::Contents() : keys->contents()};

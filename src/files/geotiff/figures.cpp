@@ -11,7 +11,7 @@
 namespace ZrProj::GeoTIFF {
 namespace {
 
-Outcome<Unit> unitOfCode(std::span<UnitRow const> table, std::uint16_t code) {
+Expected<Unit> unitOfCode(std::span<UnitRow const> table, std::uint16_t code) {
     auto const row = std::ranges::find(table, code, &UnitRow::code);
     if (row == table.end())
         return Refusal{"unit " + std::to_string(code) + " is not one of those known by number"};
@@ -19,8 +19,8 @@ Outcome<Unit> unitOfCode(std::span<UnitRow const> table, std::uint16_t code) {
 }
 
 /// `unitsOfSize` is what the size is counted in.
-Outcome<Unit> unitOf(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise,
-                     std::span<UnitRow const> table, Unit unitsOfSize) {
+Expected<Unit> unitOf(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise,
+                      std::span<UnitRow const> table, Unit unitsOfSize) {
     if (keys.has(unitKey) && !keys.code(unitKey))
         return Refusal{"a unit is undefined"};
     std::uint16_t const code = keys.code(unitKey).value_or(otherwise);
@@ -51,7 +51,7 @@ Ellipsoid named(double radius, double flattening, int code) {
 }
 
 /// The axes as the keys have them; type 50 where they do not.
-Outcome<Ellipsoid> readAxes(KeyDirectory const& keys) {
+Expected<Ellipsoid> readAxes(KeyDirectory const& keys) {
     if (!keys.has(keySemiMajorAxis))
         return Ellipsoid{};
     auto const unit = lengthUnit(keys, keyGeographicLengthUnit, keyGeographicLengthUnitSize, unitMetre);
@@ -69,11 +69,11 @@ Outcome<Ellipsoid> readAxes(KeyDirectory const& keys) {
 
 } // namespace
 
-Outcome<Unit> lengthUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise) {
+Expected<Unit> lengthUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise) {
     return unitOf(keys, unitKey, sizeKey, otherwise, lengthUnitTable, {});
 }
 
-Outcome<Unit> angleUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey) {
+Expected<Unit> angleUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey) {
     return unitOf(keys, unitKey, sizeKey, unitDegree, angleUnitTable, {180, std::numbers::pi});
 }
 
@@ -113,7 +113,7 @@ std::uint16_t codeOfEllipsoid(Ellipsoid const& ellipsoid) {
     return row == ellipsoidCodeTable.end() ? std::uint16_t{userDefined} : row->code;
 }
 
-Outcome<Ellipsoid> readEllipsoid(KeyDirectory const& keys) {
+Expected<Ellipsoid> readEllipsoid(KeyDirectory const& keys) {
     std::uint16_t const code = keys.code(keyEllipsoid).value_or(userDefined);
     if (code == userDefined)
         return readAxes(keys);
@@ -123,7 +123,7 @@ Outcome<Ellipsoid> readEllipsoid(KeyDirectory const& keys) {
     return agreedEllipsoid(keys, known);
 }
 
-Outcome<Ellipsoid> agreedEllipsoid(KeyDirectory const& keys, Ellipsoid const& known) {
+Expected<Ellipsoid> agreedEllipsoid(KeyDirectory const& keys, Ellipsoid const& known) {
     auto const axes = readAxes(keys);
     if (!axes)
         return axes.refusal();

@@ -17,8 +17,8 @@ struct Unit {
 
 /// The unit that a key names, the one of `otherwise` where the key is missing. A unit of the user's own has its size,
 /// in metres or radians, in another key.
-Outcome<Unit> lengthUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise);
-Outcome<Unit> angleUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey);
+Expected<Unit> lengthUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise);
+Expected<Unit> angleUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey);
 
 /// The code of the unit that as many of make a metre, 32767 where no unit is of that size.
 std::uint16_t codeOfLengthUnit(double perMetre);
@@ -42,9 +42,9 @@ Ellipsoid ellipsoidOfCode(std::uint16_t code);
 std::uint16_t codeOfEllipsoid(Ellipsoid const& ellipsoid);
 
 /// The ellipsoid that the keys describe, by code or by axes.
-Outcome<Ellipsoid> readEllipsoid(KeyDirectory const& keys);
+Expected<Ellipsoid> readEllipsoid(KeyDirectory const& keys);
 /// Refused where the keys contradict an ellipsoid that is known already.
-Outcome<Ellipsoid> agreedEllipsoid(KeyDirectory const& keys, Ellipsoid const& known);
+Expected<Ellipsoid> agreedEllipsoid(KeyDirectory const& keys, Ellipsoid const& known);
 void writeEllipsoid(KeyDirectory& keys, Ellipsoid const& ellipsoid);
 
 } // namespace ZrProj::GeoTIFF

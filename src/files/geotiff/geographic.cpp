@@ -103,7 +103,7 @@ GeographicRow const* rowOf(std::uint16_t code) {
 }
 
 /// A system without a number: a datum with a number, an ellipsoid, or both.
-Outcome<Geographic> readOwn(KeyDirectory const& keys) {
+Expected<Geographic> readOwn(KeyDirectory const& keys) {
     std::uint16_t const datum = keys.code(keyDatum).value_or(userDefined);
     auto ellipsoid = readEllipsoid(keys);
     if (!ellipsoid)
@@ -119,7 +119,7 @@ Outcome<Geographic> readOwn(KeyDirectory const& keys) {
     return result;
 }
 
-Outcome<Geographic> readNumbered(KeyDirectory const& keys, std::uint16_t code) {
+Expected<Geographic> readNumbered(KeyDirectory const& keys, std::uint16_t code) {
     GeographicRow const* const row = rowOf(code);
     if (!row)
         return Refusal{"geographic system " + std::to_string(code) + " is not one of those known by number"};
@@ -166,7 +166,7 @@ void writeOwn(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum, D
 
 } // namespace
 
-Outcome<Geographic> readGeographic(KeyDirectory const& keys, std::uint16_t implied) {
+Expected<Geographic> readGeographic(KeyDirectory const& keys, std::uint16_t implied) {
     if (!isGreenwich(keys))
         return Refusal{"longitudes are not counted from Greenwich"};
     auto const unit = angleUnit(keys, keyAngleUnit, keyAngleUnitSize);
@@ -184,8 +184,8 @@ Outcome<Geographic> readGeographic(KeyDirectory const& keys, std::uint16_t impli
     return geographic;
 }
 
-Outcome<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum,
-                                       DATUM2WGS84 const* own) {
+Expected<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum,
+                                        DATUM2WGS84 const* own) {
     DATUM2WGS84 const params = parametersOf(datum, own);
     bool const shifted = datumMethodIs(params.Method, &DatumMethodRow::hasShifts);
     if (datum == DatumTypeUserDefined && !shifted)

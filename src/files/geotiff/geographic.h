@@ -17,11 +17,11 @@ struct Geographic {
 
 /// Reads the geographic keys. `implied` is the code of the system that the projected one stands on, 0 where that says
 /// nothing.
-Outcome<Geographic> readGeographic(KeyDirectory const& keys, std::uint16_t implied);
+Expected<Geographic> readGeographic(KeyDirectory const& keys, std::uint16_t implied);
 
 /// Sets the geographic keys, and returns the system's code, 32767 for one without. `own` are the parameters of a datum
 /// of the user's own (0), and may be null for others.
-Outcome<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum,
-                                       DATUM2WGS84 const* own);
+Expected<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum,
+                                        DATUM2WGS84 const* own);
 
 } // namespace ZrProj::GeoTIFF

@@ -9,7 +9,7 @@ namespace ZrProj::GeoTIFF {
 namespace {
 
 /// A tag's values; an empty span where the tag is missing. Refused when it holds values of another type.
-template <class T> Outcome<std::span<T const>> valuesOf(ZrBitmapTagList const& tags, TagId id, TagType type) {
+template <class T> Expected<std::span<T const>> valuesOf(ZrBitmapTagList const& tags, TagId id, TagType type) {
     ZrBitmapTag const* const tag = tags.Find(id);
     if (!tag)
         return std::span<T const>();
@@ -66,14 +66,14 @@ struct Sources {
 
 } // namespace
 
-Outcome<std::vector<double>> doublesOf(ZrBitmapTagList const& tags, TagId id) {
+Expected<std::vector<double>> doublesOf(ZrBitmapTagList const& tags, TagId id) {
     auto const values = valuesOf<double>(tags, id, typeDouble);
     if (!values)
         return values.refusal();
     return std::vector(values->begin(), values->end());
 }
 
-Outcome<KeyDirectory> KeyDirectory::read(ZrBitmapTagList const& tags) {
+Expected<KeyDirectory> KeyDirectory::read(ZrBitmapTagList const& tags) {
     auto const directory = valuesOf<std::uint16_t>(tags, tagKeyDirectory, typeShort);
     auto const doubles = valuesOf<double>(tags, tagDoubles, typeDouble);
     auto const texts = valuesOf<char>(tags, tagTexts, typeAscii);

@@ -95,10 +95,10 @@ struct Refusal {
 };
 
 /// A value, or the sentence that says why there is none.
-template <class T> class Outcome {
+template <class T> class Expected {
 public:
-    Outcome(T value) : m_value(std::move(value)) {}
-    Outcome(Refusal refusal) : m_reason(std::move(refusal.reason)) {}
+    Expected(T value) : m_value(std::move(value)) {}
+    Expected(Refusal refusal) : m_reason(std::move(refusal.reason)) {}
 
     explicit operator bool() const { return m_value.has_value(); }
     T const& operator*() const { return *m_value; }
@@ -113,7 +113,7 @@ private:
 };
 
 /// A tag's doubles; empty where the tag is missing. Refused when it holds anything else.
-Outcome<std::vector<double>> doublesOf(ZrBitmapTagList const& tags, TagId id);
+Expected<std::vector<double>> doublesOf(ZrBitmapTagList const& tags, TagId id);
 
 /// A key's value: a code, numbers or a text.
 using KeyValue = std::variant<std::uint16_t, std::vector<double>, std::string>;
@@ -122,7 +122,7 @@ using KeyValue = std::variant<std::uint16_t, std::vector<double>, std::string>;
 class KeyDirectory {
 public:
     /// Reads the three tags; an empty directory where they are missing. Refused when anything in them is damaged.
-    static Outcome<KeyDirectory> read(ZrBitmapTagList const& tags);
+    static Expected<KeyDirectory> read(ZrBitmapTagList const& tags);
 
     bool empty() const { return m_keys.empty(); }
     bool has(Key key) const { return m_keys.contains(key); }

@@ -66,7 +66,7 @@ struct Normal {
     Parameters parameters;
 };
 
-Outcome<Normal> lambert(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
+Expected<Normal> lambert(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
     bool const touches = method.transformation == lambertConformal1;
     double const parallel = touches ? p.latitude : p.parallel1;
     if (!touches && p.parallel1 != p.parallel2)
@@ -80,7 +80,7 @@ Outcome<Normal> lambert(Method const& method, Parameters p, Ellipsoid const& ell
     return result;
 }
 
-Outcome<Normal> trueMercator(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
+Expected<Normal> trueMercator(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
     if (p.parallel1 != 0 && p.scale != 1)
         return Refusal{"a parallel of true scale and a scale factor contradict each other"};
     if (p.parallel1 != 0)
@@ -89,7 +89,7 @@ Outcome<Normal> trueMercator(Method const& method, Parameters p, Ellipsoid const
 }
 
 /// The latitude is the pole, or the parallel of true scale of the pole's map.
-Outcome<Normal> polar(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
+Expected<Normal> polar(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
     if (std::fabs(p.latitude) == poleLatitude)
         return Normal{method, p};
     if (p.scale != 1 || !(std::fabs(p.latitude) > 0 && std::fabs(p.latitude) < poleLatitude))
@@ -99,7 +99,7 @@ Outcome<Normal> polar(Method const& method, Parameters p, Ellipsoid const& ellip
     return Normal{method, p};
 }
 
-Outcome<Normal> normal(Method const& method, Parameters const& p, Ellipsoid const& ellipsoid) {
+Expected<Normal> normal(Method const& method, Parameters const& p, Ellipsoid const& ellipsoid) {
     if (char const* const doubt = doubtOnEllipsoid(method.transformation); doubt && ellipsoid.flattening != 0)
         return Refusal{doubt};
     switch (method.transformation) {
@@ -149,7 +149,7 @@ void setAngles(PROJDATA& record, Method const& method, Parameters const& p) {
         record.Lat2 = p.parallel2;
 }
 
-Outcome<PROJDATA> checked(PROJDATA const& record) {
+Expected<PROJDATA> checked(PROJDATA const& record) {
     std::array<char, 512> message = {};
     if (ProjCheckParams(&record, message.data(), false) != 0)
         return Refusal{message.data()};
@@ -184,7 +184,7 @@ double mercatorNorthing(double latitude, double radius, double flattening) {
     return -radius * Meridian(flattening).logT(latitude * degree);
 }
 
-Outcome<PROJDATA> recordOf(Transformation transformation, Parameters const& given, Ellipsoid const& ellipsoid) {
+Expected<PROJDATA> recordOf(Transformation transformation, Parameters const& given, Ellipsoid const& ellipsoid) {
     ProjectionRow const* const row = rowOf(transformation);
     if (!row)
         return Refusal{"coordinate transformation " + std::to_string(transformation) + " has no projection type"};

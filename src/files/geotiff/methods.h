@@ -51,6 +51,6 @@ ConeParallels coneParallels(double parallel, double scale, double flattening);
 double mercatorNorthing(double latitude, double radius, double flattening);
 
 /// The record of a transformation with its parameters; the ellipsoid is set, the unit of length is the metre.
-Outcome<PROJDATA> recordOf(Transformation transformation, Parameters const& given, Ellipsoid const& ellipsoid);
+Expected<PROJDATA> recordOf(Transformation transformation, Parameters const& given, Ellipsoid const& ellipsoid);
 
 } // namespace ZrProj::GeoTIFF

@@ -27,7 +27,7 @@ Coefficients fromCentres(Coefficients c) {
     return c;
 }
 
-Outcome<Placement> placementOf(Coefficients const& c, bool pixelIsPoint) {
+Expected<Placement> placementOf(Coefficients const& c, bool pixelIsPoint) {
     Coefficients const fromCorner = pixelIsPoint ? fromCentres(c) : c;
     if (!isUsable(fromCorner))
         return Refusal{"the pixels' placement is not usable"};
@@ -35,13 +35,13 @@ Outcome<Placement> placementOf(Coefficients const& c, bool pixelIsPoint) {
 }
 
 /// Rows of four: x, y, z and 1 to X, Y, Z and 1.
-Outcome<Placement> readMatrix(std::vector<double> const& m, bool pixelIsPoint) {
+Expected<Placement> readMatrix(std::vector<double> const& m, bool pixelIsPoint) {
     if (m.size() != 16 || m[12] != 0 || m[13] != 0 || m[14] != 0 || m[15] != 1)
         return Refusal{"the transformation matrix is not affine"};
     return placementOf({m[0], m[1], m[3], m[4], m[5], m[7]}, pixelIsPoint);
 }
 
-Outcome<Placement> readScale(std::vector<double> const& scale, std::vector<double> const& tie, bool pixelIsPoint) {
+Expected<Placement> readScale(std::vector<double> const& scale, std::vector<double> const& tie, bool pixelIsPoint) {
     if (scale.size() < 2 || tie.size() < tiePointSize)
         return Refusal{"the pixel scale has no tie point"};
     if (!(scale[0] > 0 && scale[1] > 0))
@@ -50,7 +50,7 @@ Outcome<Placement> readScale(std::vector<double> const& scale, std::vector<doubl
                        pixelIsPoint);
 }
 
-Outcome<Placement> readTiePoints(std::vector<double> const& tie, bool pixelIsPoint) {
+Expected<Placement> readTiePoints(std::vector<double> const& tie, bool pixelIsPoint) {
     if (tie.size() / tiePointSize < fewestControls)
         return Refusal{"tie points without a pixel scale must be three or more"};
     double const corner = pixelIsPoint ? 0.5 : 0;
@@ -67,7 +67,7 @@ PlacementTags tagsOf(Coefficients const& c) {
 }
 
 /// A Helmert system is a matrix: where it puts the origin and the ends of the axes.
-Outcome<Coefficients> helmert(GEOREF const& georef) {
+Expected<Coefficients> helmert(GEOREF const& georef) {
     CGeorefTransform system(&georef);
     std::array<GEOREFPOINT, 3> p{{{0, 0}, {1, 0}, {0, 1}}};
     if (!system.Forward(p.data(), static_cast<int>(p.size())))
@@ -103,7 +103,7 @@ std::optional<Coefficients> exactAffine(GEOREF const& georef) {
     return Coefficients{fit.A, fit.B, fit.C, fit.D, fit.E, fit.F};
 }
 
-Outcome<PlacementTags> tiePointsOf(GEOREF const& georef) {
+Expected<PlacementTags> tiePointsOf(GEOREF const& georef) {
     PlacementTags result;
     for (std::int32_t i = 0; i < georef.nControls; ++i)
         result.tiePoints.insert(result.tiePoints.end(), {georef.pSource[i].x, georef.pSource[i].y, 0,
@@ -113,7 +113,7 @@ Outcome<PlacementTags> tiePointsOf(GEOREF const& georef) {
     return result;
 }
 
-Outcome<PlacementTags> controlsOf(GEOREF const& georef) {
+Expected<PlacementTags> controlsOf(GEOREF const& georef) {
     bool const isMatrix = georef.Method == TransformMethodHelmert;
     std::int32_t const fewest = isMatrix ? 2 : static_cast<std::int32_t>(fewestControls);
     if (!georef.pSource || !georef.pTarget || georef.nControls < fewest)
@@ -131,7 +131,7 @@ Outcome<PlacementTags> controlsOf(GEOREF const& georef) {
 
 } // namespace
 
-Outcome<Placement> readPlacement(ZrBitmapTagList const& tags, bool pixelIsPoint) {
+Expected<Placement> readPlacement(ZrBitmapTagList const& tags, bool pixelIsPoint) {
     auto const scale = doublesOf(tags, tagPixelScale), tie = doublesOf(tags, tagTiePoints),
                matrix = doublesOf(tags, tagTransformation);
     if (!scale || !tie || !matrix)
@@ -147,7 +147,7 @@ Outcome<Placement> readPlacement(ZrBitmapTagList const& tags, bool pixelIsPoint)
     return Placement{};
 }
 
-Outcome<PlacementTags> writePlacement(GEOREF const& georef) {
+Expected<PlacementTags> writePlacement(GEOREF const& georef) {
     if (georef.Method == TransformMethodNone)
         return PlacementTags{};
     if (georef.Method < 0 || georef.Method > TransformMethodNone)

@@ -26,7 +26,7 @@ struct Placement {
 };
 
 /// Reads the three tags. `pixelIsPoint`: whether they place a pixel's centre.
-Outcome<Placement> readPlacement(ZrBitmapTagList const& tags, bool pixelIsPoint);
+Expected<Placement> readPlacement(ZrBitmapTagList const& tags, bool pixelIsPoint);
 
 /// The contents of the three tags; what is not to be written is empty.
 struct PlacementTags {
@@ -34,6 +34,6 @@ struct PlacementTags {
 };
 
 /// Refused when a georeference is none that tags can say.
-Outcome<PlacementTags> writePlacement(GEOREF const& georef);
+Expected<PlacementTags> writePlacement(GEOREF const& georef);
 
 } // namespace ZrProj::GeoTIFF

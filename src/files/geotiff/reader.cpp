@@ -53,8 +53,8 @@ bool needsParallels(Transformation transformation) {
 }
 
 /// Writers differ in which of the origins they name; where there are several keys for a thing, they mean the same.
-Outcome<Parameters> readParameters(KeyDirectory const& keys, Transformation transformation, Unit length,
-                                   double degrees) {
+Expected<Parameters> readParameters(KeyDirectory const& keys, Transformation transformation, Unit length,
+                                    double degrees) {
     ParameterReader reader(keys, length, degrees);
     Parameters p;
     p.longitude = reader.angle({keyPoleLongitude, keyNaturalLongitude, keyFalseOriginLongitude, keyCentreLongitude});
@@ -74,7 +74,7 @@ Outcome<Parameters> readParameters(KeyDirectory const& keys, Transformation tran
     return p;
 }
 
-Outcome<System> readGeographicSystem(KeyDirectory const& keys) {
+Expected<System> readGeographicSystem(KeyDirectory const& keys) {
     auto const geographic = readGeographic(keys, 0);
     if (!geographic)
         return geographic.refusal();
@@ -88,7 +88,7 @@ Outcome<System> readGeographicSystem(KeyDirectory const& keys) {
 }
 
 /// A zone by its number, in the unit that the keys name, or in its own.
-Outcome<System> readZone(KeyDirectory const& keys, std::optional<Zone> const& zone, std::uint16_t code) {
+Expected<System> readZone(KeyDirectory const& keys, std::optional<Zone> const& zone, std::uint16_t code) {
     if (!zone)
         return Refusal{"projected system " + std::to_string(code) + " is not one of those known by number"};
     auto const unit = lengthUnit(keys, keyLengthUnit, keyLengthUnitSize, zone->unit);
@@ -106,7 +106,7 @@ Outcome<System> readZone(KeyDirectory const& keys, std::optional<Zone> const& zo
 }
 
 /// A grid by its number. The false origin of the table is in metres.
-Outcome<System> readGrid(KeyDirectory const& keys, GridRow const& grid) {
+Expected<System> readGrid(KeyDirectory const& keys, GridRow const& grid) {
     auto const unit = lengthUnit(keys, keyLengthUnit, keyLengthUnitSize, grid.unit);
     auto const geographic = readGeographic(keys, grid.geographic);
     if (!unit || !geographic)
@@ -119,7 +119,7 @@ Outcome<System> readGrid(KeyDirectory const& keys, GridRow const& grid) {
     return result;
 }
 
-Outcome<System> readDescribed(KeyDirectory const& keys) {
+Expected<System> readDescribed(KeyDirectory const& keys) {
     auto const transformation = static_cast<Transformation>(own(keys.code(keyTransformation)));
     if (!keys.code(keyTransformation))
         return Refusal{"the keys name no projection"};
@@ -138,7 +138,7 @@ Outcome<System> readDescribed(KeyDirectory const& keys) {
     return result;
 }
 
-Outcome<System> readProjected(KeyDirectory const& keys) {
+Expected<System> readProjected(KeyDirectory const& keys) {
     std::uint16_t const system = own(keys.code(keyProjectedType)), projection = own(keys.code(keyProjection));
     auto const grid = std::ranges::find(gridTable, system, &GridRow::code);
     if (grid != gridTable.end())
@@ -152,7 +152,7 @@ Outcome<System> readProjected(KeyDirectory const& keys) {
 
 } // namespace
 
-Outcome<System> readSystem(KeyDirectory const& keys) {
+Expected<System> readSystem(KeyDirectory const& keys) {
     bool const projected = keys.has(keyProjectedType) || keys.has(keyTransformation);
     std::uint16_t const model = keys.code(keyModelType).value_or(projected ? modelProjected : modelGeographic);
     if (model == modelProjected)

@@ -13,10 +13,10 @@ struct System {
 };
 
 /// Reads the system that the keys describe.
-Outcome<System> readSystem(KeyDirectory const& keys);
+Expected<System> readSystem(KeyDirectory const& keys);
 
 /// Sets the keys of a system; nothing where there is no projection. `params` may be null but for a datum of the user's
 /// own.
-Outcome<KeyDirectory> writeSystem(PROJDATA const* projection, DatumType datum, DATUM2WGS84 const* params);
+Expected<KeyDirectory> writeSystem(PROJDATA const* projection, DatumType datum, DATUM2WGS84 const* params);
 
 } // namespace ZrProj::GeoTIFF

@@ -76,7 +76,7 @@ double angleAt(PROJDATA const& record, ProjParam id) {
 }
 
 /// A type that GeoTIFF has a name for, in a form that the name covers.
-Outcome<Method> methodFor(PROJDATA const& record) {
+Expected<Method> methodFor(PROJDATA const& record) {
     Method const method = methodOf(record);
     if (method.transformation == Transformation{})
         return Refusal{"GeoTIFF has no name for the projection " + nameOf(record.Type)};
@@ -152,7 +152,7 @@ bool writeAsZone(KeyDirectory& keys, PROJDATA const& record, std::uint16_t geogr
     return true;
 }
 
-Outcome<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DATUM2WGS84 const* params) {
+Expected<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DATUM2WGS84 const* params) {
     PROJDATA const record = completed(given), described = definition(record);
     Ellipsoid const ellipsoid = ellipsoidOf(described.Ellipsoid, described.MajorRadius, described.Flattening);
     KeyDirectory keys;
@@ -173,7 +173,7 @@ Outcome<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DAT
     return keys;
 }
 
-Outcome<KeyDirectory> writeUnprojected(PROJDATA const& record, DatumType datum, DATUM2WGS84 const* params) {
+Expected<KeyDirectory> writeUnprojected(PROJDATA const& record, DatumType datum, DATUM2WGS84 const* params) {
     Ellipsoid ellipsoid = ellipsoidOf(record.Ellipsoid, record.MajorRadius, record.Flattening);
     DATUM2WGS84 own = {};
     if (datum == DatumTypeUserDefined && params)
@@ -190,7 +190,7 @@ Outcome<KeyDirectory> writeUnprojected(PROJDATA const& record, DatumType datum, 
 
 } // namespace
 
-Outcome<KeyDirectory> writeSystem(PROJDATA const* projection, DatumType datum, DATUM2WGS84 const* params) {
+Expected<KeyDirectory> writeSystem(PROJDATA const* projection, DatumType datum, DATUM2WGS84 const* params) {
     bool const none = !projection || projection->Type == ProjTypeUndefined;
     if (none && datum == DatumTypeNone)
         return KeyDirectory();
