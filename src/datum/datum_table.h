@@ -15,8 +15,9 @@ struct DatumRow {
     int posc; // POSC (EPSG) code, 0 where there is none
     char const* name;
     DatumMethod method;
-    EllipsoidType ellipsoid; // none where the method implies it
+    EllipsoidType ellipsoid; // of the record: none where the method has no use for it
     double dX, dY, dZ, rX, rY, rZ, scale, primeMeridian;
+    EllipsoidType figure = ellipsoid; // that the datum's coordinates stand on
 };
 
 constexpr DatumRow molodensky(DatumType type, int posc, char const* name, EllipsoidType ellipsoid, double dX, double dY,
@@ -28,8 +29,8 @@ constexpr DatumRow bursaWolf(DatumType type, char const* name, EllipsoidType ell
     return {type, 0, name, DatumMethodBursaWolf, ellipsoid, dX, dY, dZ, rX, rY, rZ, scale, primeMeridian};
 }
 /// To WGS 84 only.
-constexpr DatumRow oneWay(DatumType type, int posc, char const* name, DatumMethod method) {
-    return {type, posc, name, method, EllipsoidTypeNone, 0, 0, 0, 0, 0, 0, 0, 0};
+constexpr DatumRow oneWay(DatumType type, int posc, char const* name, DatumMethod method, EllipsoidType figure) {
+    return {type, posc, name, method, EllipsoidTypeNone, 0, 0, 0, 0, 0, 0, 0, 0, figure};
 }
 /// Closes the table: no datum, and no method.
 constexpr DatumRow endRow() {
@@ -264,16 +265,16 @@ inline constexpr std::array datumTable{
     bursaWolf(DatumTypePulkovo1942HungaryBursaWolf, "Pulkovo 1942 - Hungary (Bursa-Wolf)", EllipsoidTypeKrassovsky1942, 24, -123, -94, 0.02, -0.25, 0.13, 1.1),
     bursaWolf(DatumTypeKrassovski1940EstoniaBursaWolf, "Krassovski 1940 - Estonia (Bursa-Wolf)", EllipsoidTypeKrassovsky1942, 21.53219, -97.54127, -60.92546, -1.01378, -0.58117, -0.2348, -4.6121),
     bursaWolf(DatumTypeEuref89Grs80BursaWolf, "EUREF-89/GRS-80 (Bursa-Wolf)", EllipsoidTypeGrs1980Iugg1980, 0.055, -0.541, -0.185, -0.0183, 0.0003, 0.007, -0.014),
-    oneWay(DatumTypeAustralianGeodetic1966Mre, 0, "Australian Geodetic 1966 (MRE)", DatumMethodMRE),
-    oneWay(DatumTypeAustralianGeodetic1984Mre, 0, "Australian Geodetic 1984 (MRE)", DatumMethodMRE),
-    oneWay(DatumTypeCampoInchausepeArgentinaMre, 0, "Campo Inchausepe - Argentina (MRE)", DatumMethodMRE),
-    oneWay(DatumTypeCorregoAlegreBrazilMre, 0, "Corrego Alegre - Brazil (MRE)", DatumMethodMRE),
-    oneWay(DatumTypeEuropean1950Mre, 0, "European 1950 (MRE)", DatumMethodMRE),
-    oneWay(DatumTypeNad1927ConusMre, 6267, "NAD 1927 - CONUS (MRE)", DatumMethodMRE),
-    oneWay(DatumTypeNad1927CanadaMre, 0, "NAD 1927 - Canada (MRE)", DatumMethodMRE),
-    oneWay(DatumTypeSouthAmerican1969Mre, 0, "South American 1969 (MRE)", DatumMethodMRE),
-    oneWay(DatumTypeNad1927ConusNadcon, 0, "NAD 1927 - CONUS (NADCON)", DatumMethodNadcon),
-    oneWay(DatumTypeNad1927PuertoRicoVirginIslandsNadcon, 6267, "NAD 1927 - Puerto Rico & Virgin Islands (NADCON)", DatumMethodNadcon),
+    oneWay(DatumTypeAustralianGeodetic1966Mre, 0, "Australian Geodetic 1966 (MRE)", DatumMethodMRE, EllipsoidTypeAustralianNatlSAmer1969),
+    oneWay(DatumTypeAustralianGeodetic1984Mre, 0, "Australian Geodetic 1984 (MRE)", DatumMethodMRE, EllipsoidTypeAustralianNatlSAmer1969),
+    oneWay(DatumTypeCampoInchausepeArgentinaMre, 0, "Campo Inchausepe - Argentina (MRE)", DatumMethodMRE, EllipsoidTypeInternational1924),
+    oneWay(DatumTypeCorregoAlegreBrazilMre, 0, "Corrego Alegre - Brazil (MRE)", DatumMethodMRE, EllipsoidTypeInternational1924),
+    oneWay(DatumTypeEuropean1950Mre, 0, "European 1950 (MRE)", DatumMethodMRE, EllipsoidTypeInternational1924),
+    oneWay(DatumTypeNad1927ConusMre, 6267, "NAD 1927 - CONUS (MRE)", DatumMethodMRE, EllipsoidTypeClarke1866),
+    oneWay(DatumTypeNad1927CanadaMre, 0, "NAD 1927 - Canada (MRE)", DatumMethodMRE, EllipsoidTypeClarke1866),
+    oneWay(DatumTypeSouthAmerican1969Mre, 0, "South American 1969 (MRE)", DatumMethodMRE, EllipsoidTypeAustralianNatlSAmer1969),
+    oneWay(DatumTypeNad1927ConusNadcon, 0, "NAD 1927 - CONUS (NADCON)", DatumMethodNadcon, EllipsoidTypeClarke1866),
+    oneWay(DatumTypeNad1927PuertoRicoVirginIslandsNadcon, 6267, "NAD 1927 - Puerto Rico & Virgin Islands (NADCON)", DatumMethodNadcon, EllipsoidTypeClarke1866),
     endRow(),
 };
 // clang-format on

@@ -1,4 +1,4 @@
-#include <zrproj/projection.h>
+#include "proj/projection_table.h"
 
 #include <gtest/gtest.h>
 
@@ -39,6 +39,19 @@ TEST(Catalogue, NamesProjections) {
     for (int type = 0; type < 29; ++type)
         names.insert(nameOf(type));
     EXPECT_EQ(names.size(), 29u);
+}
+
+TEST(Catalogue, RowsAreToldApart) {
+    std::set<std::string> keys;
+    std::set<int> transformations;
+    for (auto const& row : projectionTable) {
+        EXPECT_TRUE(keys.insert(row.key).second) << row.key;
+        for (auto const& each : row.geotiff)
+            EXPECT_TRUE(each.transformation == 0 || transformations.insert(each.transformation).second) << row.key;
+        EXPECT_EQ(row.family == Family::None, row.method == Method::none) << row.key;
+        for (auto const& set : row.picture)
+            EXPECT_TRUE(set.parameter == ProjParamNone || ProjUsesParam(row.type, set.parameter)) << row.key;
+    }
 }
 
 TEST(Catalogue, ListsTheParametersOfAType) {
