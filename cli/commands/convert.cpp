@@ -9,12 +9,10 @@
 #include "cli/text/usage_error.h"
 
 #include <algorithm>
-#include <cmath>
 
 namespace ZrProj::Command {
 namespace {
 
-constexpr int mostDecimals = 15;
 constexpr int metreDecimals = 3;  // millimetres
 constexpr int degreeDecimals = 9; // a tenth of a millimetre, so that the way there and back keeps the millimetre
 
@@ -25,7 +23,6 @@ public:
 
 private:
     LengthUnit const* unit() const;
-    int decimals() const;
     ColumnRequest columns(ProjectionChoice const& projection) const;
     bool isGeoJson() const;
     void refuseBesideGeoJson(ProjectionChoice const& projection) const;
@@ -67,16 +64,6 @@ LengthUnit const* Convert::unit() const {
     return unit;
 }
 
-int Convert::decimals() const {
-    if (m_precision.empty())
-        return m_direction == Direction::Forward ? metreDecimals : degreeDecimals;
-    Reading const number = readNumber(m_precision);
-    if (number.error || !(number.value >= 0 && number.value <= mostDecimals) ||
-        number.value != std::floor(number.value))
-        throw UsageError("--precision: " + inQuotes(m_precision) + " is not a whole number from 0 to 15");
-    return static_cast<int>(number.value);
-}
-
 ColumnRequest Convert::columns(ProjectionChoice const& projection) const {
     bool const zone = projection.zonePerPoint && m_direction == Direction::Inverse;
     ColumnRequest request{m_direction, {}, unit(), zone};
@@ -104,9 +91,9 @@ int Convert::run(Output& output) {
     ProjectionChoice projection;
     if (m_direction != Direction::Datum)
         projection = m_projection.choice(m_datums.mapFigure());
-    ConversionJob job{projection, m_datums.shift(), columns(projection), decimals(), m_strict, m_files};
-    if (job.files.empty())
-        job.files.emplace_back("-");
+    int const decimals = readDecimals(m_precision, m_direction == Direction::Forward ? metreDecimals : degreeDecimals);
+    ConversionJob job{projection, m_datums.shift(), columns(projection),
+                      decimals,   m_strict,         filesOrStandardInput(m_files)};
     if (isGeoJson()) {
         refuseBesideGeoJson(projection);
         return GeoJsonConversion(std::move(job), m_clip, output).run();

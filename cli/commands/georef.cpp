@@ -1,5 +1,6 @@
 // zrproj georef: fits maps to control points, tells how good they are, and converts points by them.
 #include "cli/commands/commands.h"
+#include "cli/commands/options.h"
 #include "cli/files/plain_file.h"
 #include "cli/georef/apply.h"
 #include "cli/georef/plot.h"
@@ -9,14 +10,13 @@
 #include "cli/text/usage_error.h"
 
 #include <algorithm>
-#include <cmath>
 #include <cstdio>
 #include <stdexcept>
 
 namespace ZrProj::Command {
 namespace {
 
-constexpr int mostDecimals = 15, usualDecimals = 3;
+constexpr int usualDecimals = 3;
 constexpr int failureStatus = 1;
 
 std::string methodKeys() {
@@ -93,11 +93,12 @@ public:
     }
 
     int run(Output& output) override {
-        GeorefJob job{{Direction::Inverse, {}, nullptr, false}, decimals(), m_strict, m_files};
+        GeorefJob job{{Direction::Inverse, {}, nullptr, false},
+                      readDecimals(m_precision, usualDecimals),
+                      m_strict,
+                      filesOrStandardInput(m_files)};
         if (!m_columns.empty())
             job.columns.columns = parseColumns(m_columns, false);
-        if (job.files.empty())
-            job.files.emplace_back("-");
         if (std::count(job.files.begin(), job.files.end(), "-") + (m_controls.file == "-") > 1)
             throw UsageError("standard input can be read only once, for the control points or for the points");
         auto const map = fitGeoref(findGeorefMethod(m_controls.method), m_controls.read());
@@ -105,16 +106,6 @@ public:
     }
 
 private:
-    int decimals() const {
-        if (m_precision.empty())
-            return usualDecimals;
-        Reading const number = readNumber(m_precision);
-        if (number.error || !(number.value >= 0 && number.value <= mostDecimals) ||
-            number.value != std::floor(number.value))
-            throw UsageError("--precision: " + inQuotes(m_precision) + " is not a whole number from 0 to 15");
-        return static_cast<int>(number.value);
-    }
-
     ControlOptions m_controls;
     std::vector<std::string> m_files;
     std::string m_columns, m_precision;

@@ -1,6 +1,7 @@
 // zrproj info: what a side file, or the side files and tags of an image, say.
 #include "cli/commands/commands.h"
 #include "cli/files/map_info.h"
+#include "cli/model/datums.h"
 #include "cli/model/parameters.h"
 
 #include <array>
@@ -17,33 +18,15 @@ std::string numberText(double value) {
     return text.data();
 }
 
-std::string datumName(DatumType datum) {
-    std::array<char, 64> name{};
-    DatGetDatumName(datum, name.data());
-    return name[0] ? name.data() : "unknown (" + std::to_string(datum) + ")";
-}
-
-char const* methodName(DatumMethod method) {
-    switch (method) {
-    case DatumMethodNone:
-        return "none";
-    case DatumMethodNadcon:
-        return "NADCON";
-    case DatumMethodBursaWolf:
-        return "Bursa-Wolf";
-    case DatumMethodMolodensky:
-        return "Molodensky";
-    case DatumMethodMRE:
-        return "regression equations";
-    default:
-        return "unknown";
-    }
+std::string datumTitle(DatumType datum) {
+    std::string const name = datumName(datum);
+    return name.empty() ? "unknown (" + std::to_string(datum) + ")" : name;
 }
 
 void addDatum(Table& table, MapInfo const& info) {
     DATUM2WGS84 const& p = info.datumParameters;
-    table.rows.push_back({"Datum", datumName(info.datum)});
-    table.rows.push_back({"To WGS 84 by", methodName(p.Method)});
+    table.rows.push_back({"Datum", datumTitle(info.datum)});
+    table.rows.push_back({"To WGS 84 by", std::string(methodName(p.Method))});
     if (p.Method != DatumMethodMolodensky && p.Method != DatumMethodBursaWolf)
         return;
     table.rows.push_back({"Datum ellipsoid", ellipsoidName(p.Ellipsoid)});

@@ -29,9 +29,7 @@ public:
         ColumnRequest columns{Direction::Inverse, {}, &lengthUnits.front(), false};
         if (!m_columns.empty())
             columns.columns = parseColumns(m_columns, false);
-        ConversionJob job{choice(), {}, columns, degreeDecimals, false, m_files};
-        if (job.files.empty())
-            job.files.emplace_back("-");
+        ConversionJob job{choice(), {}, columns, degreeDecimals, false, filesOrStandardInput(m_files)};
         return convertPoints(job, output);
     }
 

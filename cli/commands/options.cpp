@@ -4,6 +4,7 @@
 #include "cli/model/datums.h"
 #include "cli/model/parameters.h"
 #include "cli/model/zones.h"
+#include "cli/text/numbers.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
 
@@ -75,6 +76,20 @@ void check(PROJDATA const& record) {
 }
 
 } // namespace
+
+int readDecimals(std::string const& text, int standard) {
+    constexpr int most = 15;
+    if (text.empty())
+        return standard;
+    Reading const number = readNumber(text);
+    if (number.error || !(number.value >= 0 && number.value <= most) || number.value != std::floor(number.value))
+        throw UsageError("--precision: " + inQuotes(text) + " is not a whole number from 0 to 15");
+    return static_cast<int>(number.value);
+}
+
+std::vector<std::string> filesOrStandardInput(std::vector<std::string> const& files) {
+    return files.empty() ? std::vector<std::string>{"-"} : files;
+}
 
 ProjectionOptions::ProjectionOptions() {
     for (Parameter const& parameter : parameters())

@@ -15,6 +15,12 @@
 
 namespace ZrProj::Command {
 
+/// What --precision says: 0 to 15 decimals; `standard` where it is "". Throws UsageError.
+int readDecimals(std::string const& text, int standard);
+
+/// The files to read: standard input where none is given.
+std::vector<std::string> filesOrStandardInput(std::vector<std::string> const& files);
+
 /// The options that say which projection: by its parameters, by a UTM or State Plane zone, or by a file that tells.
 class ProjectionOptions {
 public:

@@ -26,6 +26,17 @@ InputFile::~InputFile() {
         ::close(m_descriptor);
 }
 
+void readLines(InputFile const& file, std::function<void(InputLine)> const& take) {
+    if (file.descriptor() < 0)
+        throw std::runtime_error("cannot open " + file.title() + ": " + systemMessage(file.error()));
+    LineReader lines(file.descriptor());
+    while (lines.read())
+        while (auto const line = lines.next())
+            take(*line);
+    if (lines.error())
+        throw std::runtime_error("cannot read " + file.title() + ": " + systemMessage(lines.error()));
+}
+
 unsigned long long fileSize(std::string const& name) {
     struct stat status = {};
     int const failed = name == "-" ? fstat(STDIN_FILENO, &status) : stat(name.c_str(), &status);

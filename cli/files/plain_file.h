@@ -1,6 +1,9 @@
 // Files to read, and to put in another's place as a whole.
 #pragma once
 
+#include "cli/text/line_reader.h"
+
+#include <functional>
 #include <string>
 #include <string_view>
 #include <vector>
@@ -33,6 +36,9 @@ unsigned long long fileSize(std::string const& name);
 
 /// The bytes of all files; 0 when one does not tell.
 unsigned long long totalSize(std::vector<std::string> const& names);
+
+/// Hands the lines of a file, "-" for standard input, to `take`. Throws std::runtime_error when it cannot be read.
+void readLines(InputFile const& file, std::function<void(InputLine)> const& take);
 
 /// A file written beside the one that it is to replace, so that there is always a whole one.
 class ReplacementFile {

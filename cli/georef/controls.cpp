@@ -257,15 +257,8 @@ std::vector<ControlPoint> readControls(std::string const& file, std::string cons
         throw UsageError(
             "--columns needs four columns, or five with the name's: source x, source y, target x, target y");
     InputFile const input(file);
-    if (input.descriptor() < 0)
-        throw ControlsError("cannot open " + input.title() + ": " + systemMessage(input.error()));
     ControlsReader controls(input.title(), wanted);
-    LineReader lines(input.descriptor());
-    while (lines.read())
-        while (auto const line = lines.next())
-            controls.take(*line);
-    if (lines.error())
-        throw ControlsError("cannot read " + input.title() + ": " + systemMessage(lines.error()));
+    readLines(input, [&](InputLine const& line) { controls.take(line); });
     return controls.finish();
 }
 

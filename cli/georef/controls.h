@@ -23,8 +23,8 @@ struct ControlPoint {
 /// one; fields between commas, tabs, semicolons or blanks. In a header, names such as source_x, pixel_x, map_y or
 /// easting tell the columns where they stand otherwise. `columns` (--columns) names or numbers four or five of them.
 ///
-/// Throws ControlsError when the file cannot be read, or some of its lines cannot, UsageError for columns that are
-/// none.
+/// Throws std::runtime_error when the file cannot be read, ControlsError when lines of it cannot, UsageError for
+/// columns that are none.
 std::vector<ControlPoint> readControls(std::string const& file, std::string const& columns);
 
 /// What is wrong with a list of controls, told for the list as a whole; ends the command with status 1.

@@ -85,15 +85,8 @@ std::vector<Places> worldLand() {
 
 std::vector<Places> readLand(std::string const& file) {
     InputFile const input(file);
-    if (input.descriptor() < 0)
-        throw std::runtime_error("cannot open " + input.title() + ": " + systemMessage(input.error()));
     RingReader rings(input.title());
-    LineReader lines(input.descriptor());
-    while (lines.read())
-        while (auto const line = lines.next())
-            rings.take(line->text);
-    if (lines.error())
-        throw std::runtime_error("cannot read " + input.title() + ": " + systemMessage(lines.error()));
+    readLines(input, [&](InputLine const& line) { rings.take(line.text); });
     return rings.finish();
 }
 
@@ -156,18 +149,11 @@ void PointReader::take(InputLine line) {
 
 std::vector<LabelledPlace> readMapPoints(std::string const& file, std::string const& columns) {
     InputFile const input(file);
-    if (input.descriptor() < 0)
-        throw std::runtime_error("cannot open " + input.title() + ": " + systemMessage(input.error()));
     ColumnRequest request;
     if (!columns.empty())
         request.columns = parseColumns(columns, false);
     PointReader reader(input.title(), request);
-    LineReader lines(input.descriptor());
-    while (lines.read())
-        while (auto const line = lines.next())
-            reader.take(*line);
-    if (lines.error())
-        throw std::runtime_error("cannot read " + input.title() + ": " + systemMessage(lines.error()));
+    readLines(input, [&](InputLine const& line) { reader.take(line); });
     return std::move(reader.points);
 }
 
