@@ -5,41 +5,21 @@
 
 #include "frame/errors.h"
 #include "georef/least_squares.h"
+#include "georef/terms.h"
 
 #include <algorithm>
-#include <array>
 #include <cmath>
 
 namespace ZrProj {
 namespace {
 
-struct Exponents {
-    int u, v;
-};
-constexpr std::array<Exponents, 10> complete{
-    {{0, 0}, {1, 0}, {0, 1}, {2, 0}, {1, 1}, {0, 2}, {3, 0}, {2, 1}, {1, 2}, {0, 3}}};
-constexpr std::array<Exponents, 4> bilinear{{{0, 0}, {1, 0}, {0, 1}, {1, 1}}};
-
-std::span<Exponents const> exponentsOf(int terms) {
-    if (terms == 4)
-        return bilinear;
-    return std::span(complete).first(static_cast<std::size_t>(terms));
-}
-
-double power(double base, int exponent) {
-    double result = 1;
-    for (int i = 0; i < exponent; ++i)
-        result *= base;
-    return result;
-}
-
-Matrix termMatrix(std::span<Exponents const> exponents, std::span<GEOREFPOINT const> points, Extent const& extent) {
-    Matrix matrix(points.size(), exponents.size());
-    for (std::size_t k = 0; k < exponents.size(); ++k) {
+Matrix termMatrix(std::span<Term const> terms, std::span<GEOREFPOINT const> points, Extent const& extent) {
+    Matrix matrix(points.size(), terms.size());
+    for (std::size_t k = 0; k < terms.size(); ++k) {
         auto const column = matrix.column(k);
         for (std::size_t i = 0; i < points.size(); ++i)
-            column[i] = power((points[i].x - extent.centre.x) / extent.halfSize, exponents[k].u) *
-                        power((points[i].y - extent.centre.y) / extent.halfSize, exponents[k].v);
+            column[i] = power((points[i].x - extent.centre.x) / extent.halfSize, terms[k].u) *
+                        power((points[i].y - extent.centre.y) / extent.halfSize, terms[k].v);
     }
     return matrix;
 }
@@ -47,7 +27,7 @@ Matrix termMatrix(std::span<Exponents const> exponents, std::span<GEOREFPOINT co
 } // namespace
 
 std::optional<formulas::Polynomial> fitPolynomial(int terms, Controls const& controls) {
-    auto const exponents = exponentsOf(terms);
+    auto const exponents = termsOf(terms);
     if (controls.size() < exponents.size()) {
         AssertFailed(".\\gOrder3.cpp", __LINE__);
         return std::nullopt;

@@ -22,14 +22,6 @@ bool inconsistent(int line = __builtin_LINE()) noexcept {
     return AssertFailed(".\\zrGeoRef.cpp", line);
 }
 
-bool isMethod(TransformMethod method) {
-    return method >= TransformMethodHelmert && method < TransformMethodNone;
-}
-
-bool isWarp(TransformMethod method) {
-    return method >= TransformMethodThinPlateSpline && method < TransformMethodNone;
-}
-
 bool fitWarp(GeorefBlock& block, Controls const& controls) {
     auto const warp = static_cast<WarpingMethod>(block.record.Method - TransformMethodThinPlateSpline);
     return block.registration.Calibrate(warp, controls.source.data(), controls.target.data(),
@@ -43,7 +35,7 @@ bool fit(GeorefBlock& block) {
         block.polynomial = coefficientMap(block.record);
         return true;
     }
-    if (!isMethod(block.record.Method) || !areFinite(controls))
+    if (!isGeorefMethod(block.record.Method) || !areFinite(controls))
         return inconsistent();
     if (isWarp(block.record.Method))
         return fitWarp(block, controls);
@@ -51,7 +43,7 @@ bool fit(GeorefBlock& block) {
         block.polynomial = fitHelmert(controls);
         return true;
     }
-    auto const map = fitPolynomial(georefMethodTable[static_cast<std::size_t>(block.record.Method)].terms, controls);
+    auto const map = fitPolynomial(georefMethodRow(block.record.Method).terms, controls);
     if (map)
         block.polynomial = *map;
     return map.has_value();
@@ -169,7 +161,7 @@ bool RefGetHandleInfo(void* system, GEOREF* georef) {
 }
 
 char* RefMethodName(TransformMethod method) {
-    char const* const name = isMethod(method) ? georefMethodTable[static_cast<std::size_t>(method)].name : "";
+    char const* const name = isGeorefMethod(method) ? georefMethodRow(method).name : "";
     return const_cast<char*>(name); // the interface says so; nobody is to write to it
 }
 
