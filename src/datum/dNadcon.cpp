@@ -8,18 +8,16 @@
 //           with the leading word as their western value; row positions from 1 to nrows (exclusive). All else stays.
 #include "datum/nadcon.h"
 
+#include "datum/nadcon_grid.h"
 #include "frame/errors.h"
 #include "host/platform.h"
 
 #include <algorithm>
 #include <array>
 #include <bit>
-#include <cfloat>
-#include <cmath>
 #include <cstdint>
 #include <cstring>
 #include <exception>
-#include <optional>
 #include <span>
 #include <string>
 #include <vector>
@@ -34,46 +32,9 @@ bool inconsistent(int line = __builtin_LINE()) noexcept {
     return AssertFailed(".\\dNadcon.cpp", line);
 }
 
-/// The cell that a point lies in: its south-western corner, counted from 1 (column 0 is the leading word), and the
-/// point's fractions of the cell from there, which are negative west of column 0.
-struct Cell {
-    std::int32_t row, column;
-    double fx, fy;
-};
-
-struct Grid {
-    std::int32_t columns, rows;
-    double xmin, dx, ymin, dy;
-
-    std::optional<Cell> locate(DATUMPOINT const& point) const {
-        if (point.x == DBL_MAX || point.y == DBL_MAX)
-            return std::nullopt;
-        double const x = (point.x - xmin) / dx + 1, y = (point.y - ymin) / dy + 1;
-        if (!(x > -1 && x < columns && y >= 1 && y < rows))
-            return std::nullopt;
-        auto const column = static_cast<std::int32_t>(x), row = static_cast<std::int32_t>(y); // toward zero
-        return Cell{row, column, x - column, y - row};
-    }
-
-    /// The offset of a value in the file, in words: below 2^62.
-    std::uint64_t word(std::int64_t row, std::int64_t column) const {
-        return static_cast<std::uint64_t>(row * (std::int64_t{columns} + 1) + column);
-    }
-};
-
-std::optional<Grid> readHeader(PlainFile const& file) {
-    constexpr std::uint64_t start = 64;
-    std::array<char, 28> bytes;
-    if (!file.read(start, bytes.data(), bytes.size()))
-        return std::nullopt;
-    std::array<std::int32_t, 3> counts; // columns, rows, values a point
-    std::array<float, 4> axes;          // xmin, dx, ymin, dy
-    std::memcpy(counts.data(), bytes.data(), sizeof counts);
-    std::memcpy(axes.data(), bytes.data() + sizeof counts, sizeof axes);
-    bool const finite = std::ranges::all_of(axes, [](float value) { return std::isfinite(value); });
-    if (counts[0] < 2 || counts[1] < 2 || !finite || !(axes[1] > 0) || !(axes[3] > 0))
-        return std::nullopt;
-    return Grid{counts[0], counts[1], axes[0], axes[1], axes[2], axes[3]};
+/// The offset of a value in the grid's files, in words: below 2^62.
+std::uint64_t wordOf(NadconGrid const& grid, std::int64_t row, std::int64_t column) {
+    return static_cast<std::uint64_t>(row * (std::int64_t{grid.columns} + 1) + column);
 }
 
 /// The part of the grid that a call needs: the box around the cells of all its points.
@@ -81,7 +42,7 @@ struct Window {
     std::int32_t row = INT32_MAX, column = INT32_MAX, lastRow = 0, lastColumn = 0;
     std::uint64_t points = 0;
 
-    void add(Cell const& cell) {
+    void add(NadconCell const& cell) {
         row = std::min(row, cell.row);
         column = std::min(column, cell.column);
         lastRow = std::max(lastRow, cell.row + 1); // rows and columns of the grid: no overflow
@@ -99,7 +60,7 @@ struct Window {
     }
 
     /// Whole records, which follow each other in the file, where they are not much more.
-    Window widened(Grid const& grid) const {
+    Window widened(NadconGrid const& grid) const {
         Window result = *this;
         if (width() > static_cast<std::uint64_t>(grid.columns) / 2) {
             result.column = 0;
@@ -107,10 +68,10 @@ struct Window {
         }
         return result;
     }
-    bool isWhole(Grid const& grid) const { return column == 0 && lastColumn == grid.columns; }
+    bool isWhole(NadconGrid const& grid) const { return column == 0 && lastColumn == grid.columns; }
 };
 
-Window windowOf(Grid const& grid, std::span<DATUMPOINT const> points) {
+Window windowOf(NadconGrid const& grid, std::span<DATUMPOINT const> points) {
     Window window;
     for (auto const& point : points)
         if (auto const cell = grid.locate(point))
@@ -119,12 +80,12 @@ Window windowOf(Grid const& grid, std::span<DATUMPOINT const> points) {
 }
 
 /// Whether a file of so many words has every value that the points need.
-bool isThere(std::uint64_t words, Grid const& grid, Window const& window, std::span<DATUMPOINT const> points) {
-    if (grid.word(window.lastRow, window.lastColumn) < words)
+bool isThere(std::uint64_t words, NadconGrid const& grid, Window const& window, std::span<DATUMPOINT const> points) {
+    if (wordOf(grid, window.lastRow, window.lastColumn) < words)
         return true;
     return std::ranges::all_of(points, [&](DATUMPOINT const& point) {
         auto const cell = grid.locate(point);
-        return !cell || grid.word(cell->row + 1, cell->column + 1) < words;
+        return !cell || wordOf(grid, cell->row + 1, cell->column + 1) < words;
     });
 }
 
@@ -134,13 +95,13 @@ using Corners = std::array<float, 4>;
 /// Corners out of a window in memory. What the file does not have of the window, no point needs.
 class WindowReader {
 public:
-    WindowReader(PlainFile const& file, Grid const& grid, Window const& window)
+    WindowReader(PlainFile const& file, NadconGrid const& grid, Window const& window)
         : window_(window.widened(grid)), values_(window_.width() * window_.height()) {
         std::uint64_t const end = file.size() / sizeof(float);
         std::uint64_t const piece = window_.isWhole(grid) ? values_.size() : window_.width();
         std::int64_t row = window_.row;
         for (std::size_t at = 0; at < values_.size() && good_; at += piece, ++row) {
-            std::uint64_t const first = grid.word(row, window_.column);
+            std::uint64_t const first = wordOf(grid, row, window_.column);
             std::uint64_t const length = std::min(piece, end - std::min(first, end));
             good_ = file.read(first * sizeof(float), values_.data() + at, length * sizeof(float));
         }
@@ -148,7 +109,7 @@ public:
 
     bool good() const { return good_; }
 
-    Corners operator()(Cell const& cell) const {
+    Corners operator()(NadconCell const& cell) const {
         auto const row = static_cast<std::size_t>(cell.row - window_.row);
         auto const column = static_cast<std::size_t>(cell.column - window_.column);
         float const* const south = values_.data() + row * window_.width() + column;
@@ -165,11 +126,11 @@ private:
 /// Corners out of the file, for few points far apart.
 class FileReader {
 public:
-    FileReader(PlainFile const& file, Grid const& grid, Window const&) : file_(file), grid_(grid) {}
+    FileReader(PlainFile const& file, NadconGrid const& grid, Window const&) : file_(file), grid_(grid) {}
 
     bool good() const { return good_; }
 
-    Corners operator()(Cell const& cell) {
+    Corners operator()(NadconCell const& cell) {
         Corners corners{};
         good_ = good_ && readPair(cell.row, cell.column, corners.data()) &&
                 readPair(cell.row + 1, cell.column, corners.data() + 2);
@@ -178,15 +139,15 @@ public:
 
 private:
     bool readPair(std::int64_t row, std::int64_t column, float* pair) const {
-        return file_.read(grid_.word(row, column) * sizeof(float), pair, 2 * sizeof(float));
+        return file_.read(wordOf(grid_, row, column) * sizeof(float), pair, 2 * sizeof(float));
     }
 
     PlainFile const& file_;
-    Grid const& grid_;
+    NadconGrid const& grid_;
     bool good_ = true;
 };
 
-double interpolate(Corners const& corners, Cell const& cell) {
+double interpolate(Corners const& corners, NadconCell const& cell) {
     double const fx = cell.fx, fy = cell.fy;
     return (1 - fx) * (1 - fy) * corners[0] + fx * (1 - fy) * corners[1] + (1 - fx) * fy * corners[2] +
            fx * fy * corners[3];
@@ -202,7 +163,7 @@ struct Pair {
 };
 
 template <class Reader>
-bool shift(Pair const& pair, Grid const& grid, Window const& window, std::span<DATUMPOINT> points) {
+bool shift(Pair const& pair, NadconGrid const& grid, Window const& window, std::span<DATUMPOINT> points) {
     Reader las(pair.las, grid, window), los(pair.los, grid, window);
     for (auto& point : points) {
         auto const cell = grid.locate(point);
@@ -221,7 +182,7 @@ bool convert(char const* gridName, std::span<DATUMPOINT> points) {
     Pair const pair(executableDirectory() + '/' + gridName);
     if (!pair.isOpen())
         return inconsistent();
-    auto const grid = readHeader(pair.las);
+    auto const grid = readNadconHeader(pair.las);
     if (!grid)
         return inconsistent();
     Window const window = windowOf(*grid, points);
