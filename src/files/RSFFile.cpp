@@ -1,6 +1,7 @@
 // RSF files: an image's control points, one a line, after a line with their count.
 #include "files/guarded.h"
 #include "files/map_record.h"
+#include "files/side_file.h"
 #include "files/side_names.h"
 #include "files/side_text.h"
 
@@ -45,9 +46,9 @@ bool readPoints(std::FILE& file, GEOREF& georef) {
     return true;
 }
 
-/// Reads the controls into an empty record; a file that holds fewer than it claims leaves none. Reports an
-/// error and returns false when there is no memory for them.
-bool readControls(std::FILE& file, GEOREF& georef) {
+} // namespace
+
+bool readRsfFile(std::FILE& file, GEOREF& georef) {
     TextLine line;
     int const count = readLine(file, line) ? claimedCount(line.text()) : 0;
     if (count < 1)
@@ -61,13 +62,15 @@ bool readControls(std::FILE& file, GEOREF& georef) {
     return true;
 }
 
+namespace {
+
 bool read(char const* image, GEOREF* georef, std::uint32_t& flags) {
     std::array const names{rsfName(image)};
     Stream const file = openSideFile(names);
     if (!file)
         return true;
     GEOREF found = {}; // Helmert
-    if (!readControls(*file, found))
+    if (!readRsfFile(*file, found))
         return false;
     flags = RefFileFlagRead | (found.nControls > 0 ? RefFileFlagControls : 0u);
     if (georef)
@@ -89,7 +92,9 @@ std::string pointLine(std::int32_t index, GEOREFPOINT const& source, GEOREFPOINT
     return line + " 1\n";
 }
 
-bool write(std::string const& fileName, GEOREF const& georef) {
+} // namespace
+
+bool writeRsfFile(std::string const& fileName, GEOREF const& georef) {
     OutputFile file(fileName);
     if (!file.isOpen())
         return false;
@@ -99,14 +104,16 @@ bool write(std::string const& fileName, GEOREF const& georef) {
     return file.close() && good;
 }
 
+namespace {
+
 /// Controls of a record that has none are made from its coefficients, where it has those.
 bool writeGeoref(char const* image, GEOREF georef) {
     if (hasControls(georef))
-        return write(rsfName(image), georef);
+        return writeRsfFile(rsfName(image), georef);
     georef.pSource = georef.pTarget = nullptr; // the caller's
     if (!RefCoeffToControls(&georef, 0, 0))
         return true;
-    bool const good = write(rsfName(image), georef);
+    bool const good = writeRsfFile(rsfName(image), georef);
     RefFreeControls(&georef);
     return good;
 }

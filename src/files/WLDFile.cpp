@@ -1,5 +1,6 @@
 // World files: an image's six affine coefficients, one a line.
 #include "files/guarded.h"
+#include "files/side_file.h"
 #include "files/side_names.h"
 #include "files/side_text.h"
 
@@ -17,8 +18,9 @@ constexpr char sourceFile[] = ".\\WLDFile.cpp";
 /// The coefficients in the order of the file's lines.
 constexpr std::array coefficients{&GEOREF::A, &GEOREF::D, &GEOREF::B, &GEOREF::E, &GEOREF::C, &GEOREF::F};
 
-/// What the file says; a cleared record where it has fewer lines than coefficients.
-GEOREF readCoefficients(std::FILE& file) {
+} // namespace
+
+GEOREF readWorldFile(std::FILE& file) {
     GEOREF found = {};
     found.Method = TransformMethodPrecalculatedAffineCoefficients;
     TextLine line;
@@ -30,11 +32,13 @@ GEOREF readCoefficients(std::FILE& file) {
     return found;
 }
 
+namespace {
+
 bool read(char const* image, GEOREF* georef, std::uint32_t& flags) {
     Stream const file = openSideFile(worldNamesToRead(image));
     if (!file)
         return true;
-    GEOREF const found = readCoefficients(*file);
+    GEOREF const found = readWorldFile(*file);
     bool const complete = found.Method == TransformMethodPrecalculatedAffineCoefficients;
     flags = RefFileFlagRead | (complete ? RefFileFlagCoefficients : 0u);
     if (georef)
@@ -42,7 +46,9 @@ bool read(char const* image, GEOREF* georef, std::uint32_t& flags) {
     return true;
 }
 
-bool write(std::string const& fileName, GEOREF const& georef) {
+} // namespace
+
+bool writeWorldFile(std::string const& fileName, GEOREF const& georef) {
     std::string text;
     for (double GEOREF::*coefficient : coefficients) {
         appendNumber(text, georef.*coefficient);
@@ -55,10 +61,12 @@ bool write(std::string const& fileName, GEOREF const& georef) {
     return file.close() && good;
 }
 
+namespace {
+
 /// Coefficients of a record that has none are worked out from its controls, where they suffice.
 bool writeGeoref(char const* image, GEOREF georef) {
     bool const has = georef.Method == TransformMethodPrecalculatedAffineCoefficients || RefControlsToCoeff(&georef);
-    return !has || write(worldNameToWrite(image), georef);
+    return !has || writeWorldFile(worldNameToWrite(image), georef);
 }
 
 } // namespace
