@@ -65,13 +65,16 @@ ZRPROJ_API char const* zrproj_version(void);
 
 /// What a parameter's value is.
 typedef enum zrproj_kind {
-    ZRPROJ_KIND_FACTOR = 0, ///< a number above 0, or a flattening
-    ZRPROJ_KIND_DEGREES,
+    ZRPROJ_KIND_PROJECTION = 0, ///< a number of zrproj_projection_entry
+    ZRPROJ_KIND_ELLIPSOID,      ///< a number of zrproj_ellipsoid_entry
+    ZRPROJ_KIND_ZONE,           ///< a number of zrproj_state_plane_entry
+    ZRPROJ_KIND_FLAG,           ///< 0 or 1
+    ZRPROJ_KIND_FACTOR,         ///< above 0
     ZRPROJ_KIND_METRES,
-    ZRPROJ_KIND_FLAG,       ///< 0 or 1
-    ZRPROJ_KIND_PROJECTION, ///< a number of zrproj_projection_entry
-    ZRPROJ_KIND_ELLIPSOID,  ///< a number of zrproj_ellipsoid_entry
-    ZRPROJ_KIND_ZONE        ///< a number of zrproj_state_plane_entry
+    ZRPROJ_KIND_LONGITUDE, ///< degrees, within 360 either way
+    ZRPROJ_KIND_LATITUDE,  ///< degrees, within 90 either way
+    ZRPROJ_KIND_AZIMUTH,   ///< degrees, within 360 either way
+    ZRPROJ_KIND_FLATTENING ///< at least 0, below 1
 } zrproj_kind;
 
 /// The n-th projection type: its number, its key ("lambert-conformal-conic", for options and file names) and its name.
@@ -85,8 +88,8 @@ ZRPROJ_API zrproj_status zrproj_projection_find(char const* name, int* type);
 /// a number that is no type.
 ZRPROJ_API zrproj_status zrproj_projection_parameter(int type, size_t n, int* parameter);
 
-/// The n-th parameter that differs from 0 in a picture of the type that shows it well, and its value. The others are 0,
-/// the scale factors 1. ZRPROJ_UNKNOWN also for a number that is no type.
+/// The n-th parameter that differs from 0 in a picture that shows the type well, and its value. The others are 0, the
+/// scale factors 1, and any ellipsoid will do. ZRPROJ_UNKNOWN also for a number that is no type.
 ZRPROJ_API zrproj_status zrproj_projection_picture(int type, size_t n, int* parameter, double* value);
 
 /// The n-th parameter of the catalogue: its number, its key ("lat0", a field of zrproj_parameters), its name ("Central
@@ -171,9 +174,9 @@ ZRPROJ_API zrproj_status zrproj_parameters_set(zrproj_parameters* parameters, in
 typedef struct zrproj_system zrproj_system;
 
 /// Makes a system of parameters. ZRPROJ_BAD_DEFINITION, with the reason as message, for parameters that make no
-/// projection or datum: a type that is none, an angle out of its range or not finite, a cone that is none, a zone
-/// without a definition, no ellipsoid at all. ZRPROJ_UNSUPPORTED for a projection that with these parameters shows
-/// nothing.
+/// projection or datum: a type that is none, an angle out of its range, a cone that is none, a zone without a
+/// definition, no ellipsoid at all. ZRPROJ_BAD_ARGUMENT for a number that is not finite. ZRPROJ_UNSUPPORTED for a
+/// projection that with these parameters shows nothing.
 ZRPROJ_API zrproj_status zrproj_system_create_from_parameters(zrproj_parameters const* parameters,
                                                               zrproj_system** system);
 
@@ -239,8 +242,8 @@ ZRPROJ_API char const* zrproj_reason_name(zrproj_reason reason);
 /// neither on the array's layout nor on its place in it or on the number of threads, to the bit. Longitudes may be
 /// given in any turn of the globe, and come out from -180 to 180.
 ///
-/// A count of 0 does nothing, whatever the pointers. ZRPROJ_BAD_ARGUMENT, points as they were, for null pointers, a
-/// stride that is not a multiple of 8 or, with more than one point, 0, and for a count that no memory can hold.
+/// A count of 0 does nothing, whatever the pointers. ZRPROJ_BAD_ARGUMENT, points as they were, for null pointers, with
+/// more than one point a stride below 8 either way, and a count that no memory can hold. Numbers need not be aligned.
 ZRPROJ_API zrproj_status zrproj_transform_points(zrproj_transform const* transform, int backwards, double* x, double* y,
                                                  ptrdiff_t stride, size_t count, unsigned char* reasons);
 

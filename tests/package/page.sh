@@ -1,6 +1,6 @@
 #!/bin/bash
-# page.sh COMPILER PAGE WORK_DIR PREFIX: what a page of the documentation shows is true. Every complete C++ example is
-# built against the installed package and run; a ```text block that follows it is what it prints. In a ```console block
+# page.sh COMPILER PAGE WORK_DIR PREFIX: what a page of the documentation shows is true. Every complete C++ or C example
+# is built against the installed package and run; a ```text block that follows it is what it prints. In a ```console block
 # every line after "$ " is run in the repository, with the installed command, and prints the lines below it.
 set -euo pipefail
 compiler=$1 page=$(realpath "$2") work=$3 prefix=$4
@@ -23,8 +23,9 @@ compare() {
 }
 
 run_example() {
-    local source=$1 program=${1%.cpp} next
-    "$compiler" -std=c++11 -Wall -Wextra -Wpedantic -Werror -pthread -I "$prefix/include" "$source" -o "$program" \
+    local source=$1 program=${1%.*} language=(-std=c++11) next
+    [[ $source != *.c ]] || language=(-x c -std=c99)
+    "$compiler" "${language[@]}" -Wall -Wextra -Wpedantic -Werror -pthread -I "$prefix/include" "$source" -x none -o "$program" \
         -L "$library" -lzrproj || { failed=1; return; }
     (cd "$work" && "$program" >"$program.printed") || { echo "$page: example $program fails"; failed=1; }
     checked=$((checked + 1))
@@ -45,7 +46,7 @@ run_console() {
 
 for block in "$work"/*; do
     case $block in
-    *.cpp) if grep -q 'int main' "$block"; then run_example "$block"; fi ;;
+    *.cpp | *.c) if grep -q 'int main' "$block"; then run_example "$block"; fi ;;
     *.console) run_console "$block" ;;
     esac
 done
