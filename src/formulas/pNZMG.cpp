@@ -66,19 +66,27 @@ struct NewZealandMapGrid {
     template <class R> LonLat<R> inverse(Xy<R> p) const {
         constexpr double wide = 2 * reach;
         Complex<R> const z{clamped(p.y / a, -wide, wide), clamped(p.x / a, -wide, wide)};
-        Complex<R> theta{z.re * (1 / B[0].re), z.im * (1 / B[0].re)};
-        for (int i = 0; i < 6; ++i) {
+        auto theta = firstOf(z);
+        Complex<R> miss = z;
+        for (int i = 0; i < 3; ++i) {
             auto const map = mapAt(theta);
-            theta = theta - (map.value - z) / map.slope;
+            miss = map.value - z;
+            theta = theta - miss / map.slope;
         }
-        auto const miss = mapAt(theta).value - z;
-        auto const inside = (theta.square() <= reach * reach * (1 + 1e-12)) & (miss.square() < 1e-28);
-        R north = theta.re * (1 / A[0]);
-        for (int i = 0; i < 6; ++i) {
+        auto const inside = (theta.square() <= reach * reach * (1 + 1e-12)) & (miss.square() < 1e-18);
+        R north = theta.re * (1 / A[0] - A[1] / (A[0] * A[0] * A[0]) * theta.re);
+        for (int i = 0; i < 3; ++i) {
             auto const psi = isometricAt(north);
             north = north - (psi.value - theta.re) / psi.slope;
         }
         return {lambda0 + theta.im, select(inside, phi0 + north * (1 / unit), R(unplottable))};
+    }
+
+private:
+    /// theta to the second order in z, so close that three steps of Newton's method end it.
+    template <class R> static Complex<R> firstOf(Complex<R> z) {
+        constexpr double c1 = 1 / B[0].re, c3 = c1 * c1 * c1;
+        return Complex<R>{c1, 0.0} * z - Complex<R>{c3 * B[1].re, c3 * B[1].im} * (z * z);
     }
 };
 
