@@ -4,7 +4,7 @@
 // Source    Karney (2011), Transverse Mercator with an accuracy of a few nanometers, Journal of Geodesy 85, (35), (36).
 #pragma once
 
-namespace ZrProj::formulas {
+namespace ZrProj::formulas::ZRPROJ_LEVEL {
 
 // clang-format off
 inline constexpr double kruegerToMap[8][8] = { // alpha_j, (35)
@@ -30,4 +30,4 @@ inline constexpr double kruegerToSphere[8][8] = { // beta_j, (36)
 };
 // clang-format on
 
-} // namespace ZrProj::formulas
+} // namespace ZrProj::formulas::ZRPROJ_LEVEL
