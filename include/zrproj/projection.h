@@ -61,31 +61,32 @@ enum ProjType : std::int32_t {
     ProjTypeUndefined = 999,                 ///< no projection; such a record passes its check and converts nothing
 };
 
-/// A parameter of a projection, 1 to 22: the field of PROJDATA that holds its value.
+/// A parameter of a projection, 1 to 22. Each line says the field of PROJDATA that holds its value, and its display
+/// name.
 enum ProjParam : std::int32_t {
     ProjParamNone = 0,         ///< no parameter
-    ProjParamType = 1,         ///< Type
-    ProjParamScale = 2,        ///< Scale
-    ProjParamXOrg = 3,         ///< xOrg
-    ProjParamYOrg = 4,         ///< yOrg
-    ProjParamLat0 = 5,         ///< Lat0
-    ProjParamLon0 = 6,         ///< Lon0
-    ProjParamLat1 = 7,         ///< Lat1
-    ProjParamLat2 = 8,         ///< Lat2
-    ProjParamLat3 = 9,         ///< Lat3
-    ProjParamLon1 = 10,        ///< Lon1
-    ProjParamLon2 = 11,        ///< Lon2
-    ProjParamLon3 = 12,        ///< Lon3
-    ProjParamK0 = 13,          ///< K0
-    ProjParamSouth = 14,       ///< bSouth
-    ProjParamZone = 15,        ///< Zone
-    ProjParamUseAlpha = 16,    ///< bUseAlpha
-    ProjParamAlpha = 17,       ///< Alpha
-    ProjParamRotate = 18,      ///< bRotate
-    ProjParamUOffset = 19,     ///< bUOffset
-    ProjParamEllipsoid = 20,   ///< Ellipsoid
-    ProjParamMajorRadius = 21, ///< MajorRadius
-    ProjParamFlattening = 22,  ///< Flattening
+    ProjParamType = 1,         ///< Type, "Projection"
+    ProjParamScale = 2,        ///< Scale, "Scale"
+    ProjParamXOrg = 3,         ///< xOrg, "False Easting"
+    ProjParamYOrg = 4,         ///< yOrg, "False Northing"
+    ProjParamLat0 = 5,         ///< Lat0, "Central Latitude"
+    ProjParamLon0 = 6,         ///< Lon0, "Central Longitude"
+    ProjParamLat1 = 7,         ///< Lat1, "Standard Parallel"
+    ProjParamLat2 = 8,         ///< Lat2, "2nd Standard Parallel"
+    ProjParamLat3 = 9,         ///< Lat3, "3rd Standard Parallel"
+    ProjParamLon1 = 10,        ///< Lon1, "1st Meridian"
+    ProjParamLon2 = 11,        ///< Lon2, "2nd Meridian"
+    ProjParamLon3 = 12,        ///< Lon3, "3rd Meridian"
+    ProjParamK0 = 13,          ///< K0, "Central Scale Factor (K0)"
+    ProjParamSouth = 14,       ///< bSouth, "Projection in Southern Hemisphere"
+    ProjParamZone = 15,        ///< Zone, "State Zone"
+    ProjParamUseAlpha = 16,    ///< bUseAlpha, "Use Alpha Parameter"
+    ProjParamAlpha = 17,       ///< Alpha, "Alpha (Azimuth)"
+    ProjParamRotate = 18,      ///< bRotate, "Rotate U/V to X/Y"
+    ProjParamUOffset = 19,     ///< bUOffset, "Offset by U"
+    ProjParamEllipsoid = 20,   ///< Ellipsoid, "Ellipsoid"
+    ProjParamMajorRadius = 21, ///< MajorRadius, "Ellipsoid Radius (meters)"
+    ProjParamFlattening = 22,  ///< Flattening, "Ellipsoid Flattening"
 };
 
 /// The kind of value that a parameter has, and with it the type of the field in PROJDATA.

@@ -44,18 +44,18 @@ double stepOf(double from, double to) {
     return std::fabs(to - from) > 180 ? std::remainder(to - from, 360) : to - from;
 }
 
-/// Calls `edge(from, to)` with the edges of a path, unrolled.
-template <class Edge> void forEdges(Kind kind, Points const& points, Edge const& edge) {
+/// Calls `segment(from, to)` with the segments of a path, in unwrapped longitudes.
+template <class Segment> void forSegments(Kind kind, Points const& points, Segment const& segment) {
     double lon = points[0].x;
     for (std::size_t i = 1; i < points.size() + (kind == area ? 1 : 0); ++i) {
         auto const &a = points[i - 1], &b = points[i % points.size()];
         double const next = lon + stepOf(a.x, b.x);
-        edge(PROJPOINT{lon, a.y}, PROJPOINT{next, b.y});
+        segment(PROJPOINT{lon, a.y}, PROJPOINT{next, b.y});
         lon = next;
     }
 }
 
-/// The integral of a latitude's sine or cosine over longitude along an edge, in radians; `whole` is the other's
+/// The integral of a latitude's sine or cosine over longitude along a segment, in radians; `whole` is the other's
 /// integral.
 template <class Function, class Whole>
 double alongEdge(PROJPOINT const& a, PROJPOINT const& b, Function const& function, Whole const& whole) {
@@ -67,7 +67,7 @@ double alongEdge(PROJPOINT const& a, PROJPOINT const& b, Function const& functio
 /// The way north and south, and the way east and west, on the unit sphere.
 double lengthOf(Points const& points) {
     double length = 0;
-    forEdges(line, points, [&](PROJPOINT a, PROJPOINT b) {
+    forSegments(line, points, [&](PROJPOINT a, PROJPOINT b) {
         auto const cosine = [](double x) { return std::cos(x); };
         auto const sine = [](double x) { return std::sin(x); };
         length += std::fabs(b.y - a.y) * degree + std::fabs(alongEdge(a, b, cosine, sine));
@@ -82,7 +82,7 @@ struct Measure {
 
 Measure measureOf(Points const& ring) {
     Measure sum;
-    forEdges(area, ring, [&](PROJPOINT a, PROJPOINT b) {
+    forSegments(area, ring, [&](PROJPOINT a, PROJPOINT b) {
         sum.area -= alongEdge(
             a, b, [](double x) { return std::sin(x); }, [](double x) { return -std::cos(x); });
         sum.turns += (b.x - a.x) / 360;
@@ -185,7 +185,7 @@ private:
         double integral = 0;
         for (int i = 0; i < count; ++i)
             points.push_back({std::remainder((i + between(0, 0.9)) * 360 / count, 360), lat + between(-rough, rough)});
-        forEdges(area, points, [&](PROJPOINT a, PROJPOINT b) { integral += (a.y + b.y) * (b.x - a.x); });
+        forSegments(area, points, [&](PROJPOINT a, PROJPOINT b) { integral += (a.y + b.y) * (b.x - a.x); });
         return oriented(std::move(points), integral > 0);
     }
 
@@ -359,7 +359,7 @@ private:
             if (!subject_.isGood(point))
                 points_.add(point, " of ", textOf(shape.points));
         auto const again = subject_.preclip(shape.kind, chain);
-        // One ring of several may not say alone what it holds.
+        // One ring of several may not say alone what it contains.
         bool const isAlone = (shape.kind == line || count == 1) && !runsAlongTheEdge(shape.points);
         if ((again.size() != 1 && isAlone) || (again.empty() && isAlone) ||
             (!again.empty() && !isSame(again[0], chain)))
@@ -391,15 +391,15 @@ private:
     }
 
     /// How much of a shape no map may show: Hotine's lacks a strip of the ellipsoid, and Cassini's is torn along the
-    /// last 90 f degrees of the equator on either side, where an edge along the equator meets at most two tears of both
-    /// maps, and one that crosses it meets them as long as it is near.
+    /// last 90 f degrees of the equator on either side, where a segment along the equator meets at most two tears of
+    /// both maps, and one that crosses it meets them as long as it is near.
     double lackingOf(Shape const& shape) {
         auto const& r = subject_.record();
         if (r.Type == ProjTypeHotineObliqueMercator && r.Flattening != 0)
             return HUGE_VAL;
         double lacking = 0;
         if (r.Type == ProjTypeCassini && shape.kind == line)
-            forEdges(line, shape.points, [&](PROJPOINT a, PROJPOINT b) {
+            forSegments(line, shape.points, [&](PROJPOINT a, PROJPOINT b) {
                 double const near = 4e-6 / std::fmax(std::fabs(b.y - a.y), 4e-6); // the share of it
                 if (a.y * b.y <= 0)
                     lacking += std::fmin(near * std::fabs(b.x - a.x), 4 * 91 * r.Flattening) * degree;

@@ -114,7 +114,7 @@ TEST(Preclip, LinesEndOnBothSidesOfTheOppositeMeridian) {
     EXPECT_NEAR(chains[1].points[0].y, 10, 2e-9);
 }
 
-TEST(Preclip, ALongitudeWindowTakesPlacesFromTheOtherSideOfTheAntimeridian) {
+TEST(Preclip, ALongitudeWindowTakesPointsFromTheOtherSideOfTheAntimeridian) {
     auto const chains = preclip(gaussKruger, line, {{100, 50}, {170, 50}, {-140, 50}, {-100, 50}});
     ASSERT_EQ(chains.size(), 1u);
     EXPECT_NEAR(chains[0].points.front().x, -220, 2e-9);
@@ -143,7 +143,7 @@ TEST(Preclip, ARingAroundAPoleIsClosedAlongIt) {
     EXPECT_TRUE(preclip("type=orthographic ellipsoid=wgs-84 lat0=90", area, coast).empty());
 }
 
-TEST(Preclip, AnAreaThatHoldsTheWholeMapBecomesItsOutline) {
+TEST(Preclip, AnAreaThatContainsTheWholeMapBecomesItsOutline) {
     Points const world{{-180, -90}, {-60, -90}, {60, -90}, {180, -90}, {180, 90}, {60, 90}, {-60, 90}, {-180, 90}};
     auto const map = preclip("type=mollweide ellipsoid=standard-sphere-of-6370997-meters lon0=-90", area, world);
     ASSERT_EQ(map.size(), 2u); // the world as given has a seam at 180
@@ -207,7 +207,7 @@ TEST(Preclip, PathsAlongTheEdge) {
     EXPECT_TRUE(isSame(preclip(sinusoidal, area, thin).at(0).points, thin));
 }
 
-// Rings around which the places at the cut of an oblique Mercator are many: they begin on it, go through its end, and
+// Rings with many points at the cut of an oblique Mercator: they begin on it, go through its end, and
 // run around the globe; each is the same when it is cut again.
 TEST(Preclip, RingsThatTouchAnObliqueCut) {
     constexpr char oblique[] =
@@ -246,15 +246,15 @@ TEST(Preclip, RingsThatBeginAtAWindowsEdge) {
     EXPECT_EQ(line.back().points.back().x, 0.1); // once around, and the same
 }
 
-// A ring that meets the edge in few places, one of them where half of the edge lies to either side.
-TEST(Preclip, AnEdgeThroughTheMiddleOfTheMapsEdge) {
+// A ring that meets the edge in few points, one of them where half of the edge lies to either side.
+TEST(Preclip, ASegmentThroughTheMiddleOfTheMapsEdge) {
     auto const triangle = preclip("type=albers ellipsoid=wgs-84 lat1=20 lat2=60 lon0=-90", area,
                                   {{135.000000000001, 45.000000002}, {89.999999998999996, 1e-9}, {180.000000001, -90}});
     ASSERT_EQ(triangle.size(), 1u);
     EXPECT_LE(triangle[0].points.size(), 4u);
 }
 
-TEST(Preclip, PointsThatAreNoPlaces) {
+TEST(Preclip, PointsThatAreNotGeographic) {
     auto const broken =
         preclip(sinusoidal, line, {{0, 0}, {1, 1}, {none, 1}, {2, 2}, {DBL_MAX, DBL_MAX}, {3, 3}, {4, 4}});
     ASSERT_EQ(broken.size(), 2u);
