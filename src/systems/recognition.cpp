@@ -73,14 +73,14 @@ bool mayBeOn(std::vector<Code> const& datums, Datum const& datum) {
     return datums.empty();
 }
 
-std::string datumDifference(Definition const& said, Definition const& registered) {
+std::string datumDifference(Definition const& said, std::vector<Code> const& meant, Definition const& registered) {
     auto const figure = ellipsoidDifference(said.datum.ellipsoid, registered.datum.ellipsoid);
     if (!figure.empty())
         return figure;
     double const meridian = said.datum.meridian.longitude, other = registered.datum.meridian.longitude;
     if (!sameAngle(meridian, other, meridianTolerance))
         return told("the prime meridian", meridian, other, " degrees");
-    if (!mayBeOn(datumsMeant(said), registered.datum))
+    if (!mayBeOn(meant, registered.datum))
         return "the datum " + said.datum.name + " instead of " + registered.datum.name;
     return {};
 }
@@ -161,19 +161,29 @@ std::string axesDifference(Definition const& said, Definition const& registered)
     return {};
 }
 
-/// How good a match is: less is better.
-auto rankOf(Definition const& said, Definition const& registered) {
-    return std::tuple(codeNamed(Thing::system, said.name) != registered.code, registered.deprecated,
-                      said.northingFirst != registered.northingFirst, registered.code);
+std::string differenceOn(std::vector<Code> const& meant, Definition const& said, Definition const& registered) {
+    if (said.isProjected() != registered.isProjected())
+        return said.isProjected() ? "a projection" : "no projection";
+    auto text = datumDifference(said, meant, registered);
+    if (text.empty() && said.isProjected())
+        text = conversionDifference(said, registered);
+    if (text.empty() && said.isProjected())
+        text = axesDifference(said, registered);
+    return text;
 }
 
-Code recognisedByContent(Definition const& definition) {
+/// How good a match is: less is better.
+auto rankOf(Definition const& said, Definition const& registered) {
+    return std::tuple(registered.deprecated, said.northingFirst != registered.northingFirst, registered.code);
+}
+
+Code recognisedByContent(std::vector<Code> const& meant, Definition const& definition) {
     std::optional<Definition> best;
-    for (Code const datum : datumsMeant(definition)) {
+    for (Code const datum : meant) {
         for (Code const code : systemsOn(datum)) {
             auto registered = definitionOf(code);
-            if (difference(definition, *registered).empty() &&
-                (!best || rankOf(definition, *registered) < rankOf(definition, *best)))
+            if ((!best || rankOf(definition, *registered) < rankOf(definition, *best)) &&
+                differenceOn(meant, definition, *registered).empty())
                 best = std::move(registered);
         }
     }
@@ -188,21 +198,16 @@ std::string contradiction(Definition const& definition, Definition const& regist
 } // namespace
 
 std::string difference(Definition const& said, Definition const& registered) {
-    if (said.isProjected() != registered.isProjected())
-        return said.isProjected() ? "a projection" : "no projection";
-    auto text = datumDifference(said, registered);
-    if (text.empty() && said.isProjected())
-        text = conversionDifference(said, registered);
-    if (text.empty() && said.isProjected())
-        text = axesDifference(said, registered);
-    return text;
+    return differenceOn(datumsMeant(said), said, registered);
 }
 
 Code recognise(Definition const& definition) {
+    auto const meant = datumsMeant(definition);
     for (Code const code : {definition.code, codeNamed(Thing::system, definition.name)})
-        if (auto const registered = definitionOf(code); registered && difference(definition, *registered).empty())
+        if (auto const registered = definitionOf(code);
+            registered && differenceOn(meant, definition, *registered).empty())
             return registered->code;
-    return recognisedByContent(definition);
+    return recognisedByContent(meant, definition);
 }
 
 Reconciled reconcile(Definition definition) {
