@@ -49,12 +49,16 @@ template <class Difference> int takeSineTerms(double* c, bool& converged, Differ
     });
 }
 
-/// d xi / d phi by the series.
-double derivative(AuxiliaryLatitude const& latitude, double phi) {
-    double sum = 1;
-    for (int k = 1; k <= latitude.terms; ++k)
-        sum += 2 * k * latitude.toXi[k - 1] * cos(2 * k * phi);
-    return sum;
+/// d xi / d phi by the series, at a latitude with this sine and cosine: Clenshaw's recurrence for cosines.
+double derivative(AuxiliaryLatitude const& latitude, SinCos<double> at) {
+    double const cos2 = 1 - 2 * at.sin * at.sin;
+    double b1 = 0, b2 = 0;
+    for (int k = latitude.terms; k > 0; --k) {
+        double const b = 2 * k * latitude.toXi[k - 1] + (2 * cos2 * b1 - b2);
+        b2 = b1;
+        b1 = b;
+    }
+    return 1 + (cos2 * b1 - b2);
 }
 
 /// Fills in the way back from the way there.
@@ -62,7 +66,8 @@ AuxiliaryLatitude completed(AuxiliaryLatitude latitude) {
     int const back = takeSineTerms(latitude.toPhi, latitude.converged, [&](double xi) {
         double phi = xi, step = 1;
         for (int i = 0; i < 12 && abs(step) > 1e-16; ++i) { // Newton; 3 steps for the Earth
-            step = (latitude.auxiliary(phi, sinCos(phi)) - xi) / derivative(latitude, phi);
+            auto const at = sinCos(phi);
+            step = (latitude.auxiliary(phi, at) - xi) / derivative(latitude, at);
             phi -= step;
         }
         return phi - xi;
