@@ -26,10 +26,13 @@ public:
         line.argument("DATUM", m_definition, "\"NAME: method=molodensky, ellipsoid=..., dx=..., dy=..., dz=...\"")
             .require();
         line.flag("--replace", m_replace, "Replace a datum of that name");
-        line.footer(std::string("The datum is kept in ") + profileHelp + R"(.
+        std::string footer = "The datum is kept in ";
+        footer += profileHelp;
+        footer += R"(.
 
 Example:
-  zrproj datum add "My site: method=molodensky, ellipsoid=clarke 1866, dx=-8, dy=160, dz=176")");
+  zrproj datum add "My site: method=molodensky, ellipsoid=clarke 1866, dx=-8, dy=160, dz=176")";
+        line.footer(footer);
     }
 
     int run(Output&) override {
