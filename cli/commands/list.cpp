@@ -26,10 +26,10 @@ Table projections() {
     return table;
 }
 
-char const* valueText(Quantity quantity) {
+char const* valueText(zrproj_kind kind) {
     constexpr std::array texts{"name or number", "name or number", "name or code", "(none)",  "number above 0",
                                "metres",         "degrees",        "degrees",      "degrees", "number or 1/number"};
-    return texts[static_cast<std::size_t>(quantity)];
+    return texts[static_cast<std::size_t>(kind)];
 }
 
 Table parameterTable() {
@@ -37,7 +37,7 @@ Table parameterTable() {
     for (Parameter const& parameter : parameters())
         table.rows.push_back({std::to_string(parameter.id), parameter.name, parameter.longOption,
                               parameter.option == parameter.longOption ? "" : parameter.option,
-                              valueText(parameter.quantity)});
+                              valueText(parameter.kind)});
     return table;
 }
 

@@ -15,16 +15,16 @@
 namespace ZrProj::Command {
 namespace {
 
-char const* placeholder(Quantity quantity) {
-    switch (quantity) {
-    case Quantity::Longitude:
-    case Quantity::Latitude:
-    case Quantity::Azimuth:
+char const* placeholder(zrproj_kind kind) {
+    switch (kind) {
+    case ZRPROJ_KIND_LONGITUDE:
+    case ZRPROJ_KIND_LATITUDE:
+    case ZRPROJ_KIND_AZIMUTH:
         return "DEGREES";
-    case Quantity::Metres:
+    case ZRPROJ_KIND_METRES:
         return "METRES";
-    case Quantity::Factor:
-    case Quantity::Flattening:
+    case ZRPROJ_KIND_FACTOR:
+    case ZRPROJ_KIND_FLATTENING:
         return "NUMBER";
     default:
         return "NAME";
@@ -117,9 +117,9 @@ void ProjectionOptions::addParametersTo(CommandLine line) {
         Parameter const& parameter = Command::parameter(value.id);
         bool const two = parameter.option != parameter.longOption;
         std::string const names = two ? parameter.option + ',' + parameter.longOption : parameter.option;
-        value.option = parameter.quantity == Quantity::Flag
+        value.option = parameter.kind == ZRPROJ_KIND_FLAG
                            ? group.flag(names, parameter.name)
-                           : group.option(names, value.text, placeholder(parameter.quantity), description(parameter));
+                           : group.option(names, value.text, placeholder(parameter.kind), description(parameter));
     }
 }
 

@@ -5,7 +5,7 @@
 
 #include <zrproj/zrproj.h>
 
-#include <span>
+#include <vector>
 
 namespace ZrProj::Command {
 
@@ -16,7 +16,7 @@ struct MapView {
 };
 
 /// One for each projection that makes a map, in the catalogue's order.
-std::span<MapView const> mapViews();
+std::vector<MapView> const& mapViews();
 
 /// A picture of each of mapViews(), with its name as title; what `content` says of title and bounds is not looked at.
 MapPicture drawSheet(MapContent content, double size);

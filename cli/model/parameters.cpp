@@ -15,39 +15,6 @@
 namespace ZrProj::Command {
 namespace {
 
-struct ParameterRow {
-    ProjParam id;
-    Quantity quantity;
-    std::string_view shortOption; // "" where the long one is short enough
-};
-
-// clang-format off
-constexpr std::array parameterRows{
-    ParameterRow{ProjParamType,        Quantity::Projection, ""},
-    ParameterRow{ProjParamScale,       Quantity::Factor,     ""},
-    ParameterRow{ProjParamXOrg,        Quantity::Metres,     "--x0"},
-    ParameterRow{ProjParamYOrg,        Quantity::Metres,     "--y0"},
-    ParameterRow{ProjParamLat0,        Quantity::Latitude,   "--lat0"},
-    ParameterRow{ProjParamLon0,        Quantity::Longitude,  "--lon0"},
-    ParameterRow{ProjParamLat1,        Quantity::Latitude,   "--lat1"},
-    ParameterRow{ProjParamLat2,        Quantity::Latitude,   "--lat2"},
-    ParameterRow{ProjParamLat3,        Quantity::Latitude,   "--lat3"},
-    ParameterRow{ProjParamLon1,        Quantity::Longitude,  "--lon1"},
-    ParameterRow{ProjParamLon2,        Quantity::Longitude,  "--lon2"},
-    ParameterRow{ProjParamLon3,        Quantity::Longitude,  "--lon3"},
-    ParameterRow{ProjParamK0,          Quantity::Factor,     "--k0"},
-    ParameterRow{ProjParamSouth,       Quantity::Flag,       "--south"},
-    ParameterRow{ProjParamZone,        Quantity::Zone,       ""},
-    ParameterRow{ProjParamUseAlpha,    Quantity::Flag,       "--use-alpha"},
-    ParameterRow{ProjParamAlpha,       Quantity::Azimuth,    ""},
-    ParameterRow{ProjParamRotate,      Quantity::Flag,       "--rotate"},
-    ParameterRow{ProjParamUOffset,     Quantity::Flag,       "--u-offset"},
-    ParameterRow{ProjParamEllipsoid,   Quantity::Ellipsoid,  ""},
-    ParameterRow{ProjParamMajorRadius, Quantity::Metres,     "--radius"},
-    ParameterRow{ProjParamFlattening,  Quantity::Flattening, "--flattening"},
-};
-// clang-format on
-
 /// "2nd Standard Parallel" is "--2nd-standard-parallel"; what stands in brackets is left out.
 std::string optionOf(std::string_view name) {
     std::string option = "-";
@@ -63,14 +30,22 @@ std::string optionOf(std::string_view name) {
     return option;
 }
 
+/// The short form of an option, from the parameter's key: "use_alpha" is "--use-alpha".
+std::string optionOfKey(std::string key) {
+    std::ranges::replace(key, '_', '-');
+    return "--" + key;
+}
+
 std::vector<Parameter> readCatalogue() {
     std::vector<Parameter> result;
-    for (ParameterRow const& row : parameterRows) {
-        std::array<char, 64> name{};
-        ProjParamInfo(row.id, name.data(), nullptr, nullptr, nullptr);
-        std::string const longOption = optionOf(name.data());
-        std::string const option = row.shortOption.empty() ? longOption : std::string(row.shortOption);
-        result.push_back({row.id, name.data(), row.quantity, longOption, option});
+    Parameter parameter;
+    char const *key = nullptr, *name = nullptr;
+    for (std::size_t n = 0; zrproj_parameter_entry(n, &parameter.id, &key, &name, &parameter.kind) == ZRPROJ_OK; ++n) {
+        parameter.name = name;
+        parameter.longOption = optionOf(name);
+        bool const hasShort = parameter.kind != ZRPROJ_KIND_PROJECTION && parameter.kind != ZRPROJ_KIND_ZONE;
+        parameter.option = hasShort ? optionOfKey(key) : parameter.longOption;
+        result.push_back(parameter);
     }
     return result;
 }
@@ -82,17 +57,17 @@ Reading readFactor(std::string_view text) {
     return factor;
 }
 
-Reading readQuantity(Quantity quantity, std::string_view text) {
-    switch (quantity) {
-    case Quantity::Longitude:
+Reading readValue(zrproj_kind kind, std::string_view text) {
+    switch (kind) {
+    case ZRPROJ_KIND_LONGITUDE:
         return readAngle(text, Axis::Longitude);
-    case Quantity::Latitude:
+    case ZRPROJ_KIND_LATITUDE:
         return readAngle(text, Axis::Latitude);
-    case Quantity::Azimuth:
+    case ZRPROJ_KIND_AZIMUTH:
         return readAngle(text, Axis::Azimuth);
-    case Quantity::Flattening:
+    case ZRPROJ_KIND_FLATTENING:
         return readFlattening(text);
-    case Quantity::Factor:
+    case ZRPROJ_KIND_FACTOR:
         return readFactor(text);
     default:
         return readNumber(text);
@@ -105,13 +80,13 @@ template <class T> T parameterValue(PROJDATA const& record, int id) {
     return value;
 }
 
-std::string unitText(Quantity quantity) {
-    switch (quantity) {
-    case Quantity::Longitude:
-    case Quantity::Latitude:
-    case Quantity::Azimuth:
+std::string unitText(zrproj_kind kind) {
+    switch (kind) {
+    case ZRPROJ_KIND_LONGITUDE:
+    case ZRPROJ_KIND_LATITUDE:
+    case ZRPROJ_KIND_AZIMUTH:
         return " degrees";
-    case Quantity::Metres:
+    case ZRPROJ_KIND_METRES:
         return " metres";
     default:
         return "";
@@ -157,38 +132,53 @@ std::vector<int> usedParameters(ProjType type) {
     for (int i = 0; i < ProjNumParams(type); ++i) {
         int const id = ProjEnumParam(type, i);
         result.push_back(id);
-        if (parameter(id).quantity == Quantity::Ellipsoid)
+        if (parameter(id).kind == ZRPROJ_KIND_ELLIPSOID)
             result.insert(result.end(), {ProjParamMajorRadius, ProjParamFlattening});
     }
     return result;
 }
 
 void setParameter(PROJDATA& record, Parameter const& parameter, std::string_view text) {
-    if (parameter.quantity == Quantity::Flag) {
+    if (parameter.kind == ZRPROJ_KIND_FLAG) {
         bool const set = true;
         ProjSetParam(&record, parameter.id, &set);
         return;
     }
-    Reading const reading = readQuantity(parameter.quantity, text);
+    Reading const reading = readValue(parameter.kind, text);
     if (reading.error)
         throw UsageError(parameter.option + ": " + inQuotes(text) + ' ' + reading.error);
     ProjSetParam(&record, parameter.id, &reading.value);
 }
 
+void setNumber(PROJDATA& record, int id, double value) {
+    bool const flag = value != 0;
+    auto const zone = static_cast<StateZoneType>(value);
+    switch (parameter(id).kind) {
+    case ZRPROJ_KIND_FLAG:
+        ProjSetParam(&record, id, &flag);
+        break;
+    case ZRPROJ_KIND_ZONE:
+        ProjSetParam(&record, id, &zone);
+        break;
+    default:
+        ProjSetParam(&record, id, &value);
+    }
+}
+
 std::string parameterText(PROJDATA const& record, Parameter const& parameter) {
-    switch (parameter.quantity) {
-    case Quantity::Projection:
+    switch (parameter.kind) {
+    case ZRPROJ_KIND_PROJECTION:
         return projectionName(record.Type);
-    case Quantity::Ellipsoid:
+    case ZRPROJ_KIND_ELLIPSOID:
         return ellipsoidName(record.Ellipsoid);
-    case Quantity::Zone:
+    case ZRPROJ_KIND_ZONE:
         return zoneName(record.Zone);
-    case Quantity::Flag:
+    case ZRPROJ_KIND_FLAG:
         return parameterValue<bool>(record, parameter.id) ? "yes" : "no";
-    case Quantity::Flattening:
+    case ZRPROJ_KIND_FLATTENING:
         return flatteningText(record.Flattening);
     default:
-        return numberText(parameterValue<double>(record, parameter.id)) + unitText(parameter.quantity);
+        return numberText(parameterValue<double>(record, parameter.id)) + unitText(parameter.kind);
     }
 }
 
@@ -226,8 +216,8 @@ namespace {
 
 /// An angle in degrees, minutes and seconds, "" for one of whole degrees.
 std::string anglePartsText(PROJDATA const& record, Parameter const& parameter) {
-    bool const isAngle = parameter.quantity == Quantity::Longitude || parameter.quantity == Quantity::Latitude ||
-                         parameter.quantity == Quantity::Azimuth;
+    bool const isAngle = parameter.kind == ZRPROJ_KIND_LONGITUDE || parameter.kind == ZRPROJ_KIND_LATITUDE ||
+                         parameter.kind == ZRPROJ_KIND_AZIMUTH;
     double value = 0;
     std::array<char, 64> text{};
     if (!isAngle || !ProjGetParam(&record, parameter.id, &value) || value == std::floor(value) ||

@@ -3,6 +3,7 @@
 
 #include "cli/text/output.h"
 
+#include <zrproj/c.h>
 #include <zrproj/zrproj.h>
 
 #include <string>
@@ -11,15 +12,12 @@
 
 namespace ZrProj::Command {
 
-/// What a parameter's value means, and so how it is read and shown.
-enum class Quantity { Projection, Ellipsoid, Zone, Flag, Factor, Metres, Longitude, Latitude, Azimuth, Flattening };
-
 struct Parameter {
-    int id;
-    std::string name; // of the catalogue
-    Quantity quantity;
-    std::string longOption; // "--central-longitude", from the name
-    std::string option;     // the short form, "--lon0", where there is one, else the long one
+    int id = ProjParamNone;
+    std::string name;                      // of the catalogue
+    zrproj_kind kind = ZRPROJ_KIND_FACTOR; // how the value is read and shown
+    std::string longOption;                // "--central-longitude", from the name
+    std::string option;                    // the short form, "--lon0", where there is one, else the long one
 };
 
 /// The catalogue, in its order.
@@ -33,6 +31,9 @@ std::vector<int> usedParameters(ProjType type);
 /// Reads a value and sets it in a record; flags take no text. The ellipsoid and the zone have finders of their own.
 /// Throws UsageError, naming the option, when the text is no such value.
 void setParameter(PROJDATA& record, Parameter const& parameter, std::string_view text);
+
+/// Sets a parameter that is a number, a zone or a flag by its number.
+void setNumber(PROJDATA& record, int id, double value);
 
 /// A parameter's value as text, "" for a flag that is not set.
 std::string parameterText(PROJDATA const& record, Parameter const& parameter);

@@ -37,15 +37,15 @@ void write(std::filesystem::path const& file, std::string const& text) {
 
 /// Whether a parameter tells something of the picture.
 bool isTelling(PROJDATA const& record, Parameter const& parameter) {
-    switch (parameter.quantity) {
-    case Quantity::Longitude:
-    case Quantity::Latitude:
-    case Quantity::Azimuth:
+    switch (parameter.kind) {
+    case ZRPROJ_KIND_LONGITUDE:
+    case ZRPROJ_KIND_LATITUDE:
+    case ZRPROJ_KIND_AZIMUTH:
         return parameterText(record, parameter) != "0 degrees";
-    case Quantity::Flag:
+    case ZRPROJ_KIND_FLAG:
         return parameterText(record, parameter) == "yes";
     default:
-        return parameter.quantity == Quantity::Zone;
+        return parameter.kind == ZRPROJ_KIND_ZONE;
     }
 }
 
@@ -56,7 +56,7 @@ std::string inMarks(std::string const& value) {
 /// A parameter as an option of the command.
 std::string option(PROJDATA const& record, Parameter const& parameter) {
     std::string value = parameterText(record, parameter);
-    if (parameter.quantity == Quantity::Flag)
+    if (parameter.kind == ZRPROJ_KIND_FLAG)
         return parameter.option;
     if (auto const unit = value.find(" degrees"); unit != std::string::npos)
         value.resize(unit);
