@@ -102,7 +102,7 @@ private:
             bool const isFigure = field.key == "radius" || field.key == "flattening";
             bool const rotates = field.key.front() == 'r' || field.key == "scale";
             if ((isFigure && record.Method == DatumMethodNone) ||
-                (rotates && !isFigure && record.Method != DatumMethodBursaWolf))
+                (rotates && !isFigure && !hasRotations(record.Method)))
                 continue;
             std::string const value = field.key == "flattening"
                                           ? flatteningText(field.value)

@@ -10,6 +10,7 @@
 #include <array>
 #include <charconv>
 #include <cstring>
+#include <iterator>
 
 namespace ZrProj::Command {
 namespace {
@@ -26,37 +27,32 @@ constexpr std::array shortNames{
     ShortName{"ed50", DatumTypeEuropean1950Mean},
 };
 
-struct MethodRow {
+struct DatumMethodRow {
     DatumMethod method;
     std::string_view name;
+    int numbers; // of a record that the method goes by; -1 for what no record can say
 };
 
-constexpr std::array methods{
-    MethodRow{DatumMethodNone, "none"},
-    MethodRow{DatumMethodNadcon, "NADCON"},
-    MethodRow{DatumMethodBursaWolf, "Bursa-Wolf"},
-    MethodRow{DatumMethodMolodensky, "Molodensky"},
-    MethodRow{DatumMethodMRE, "regression"},
-};
+std::vector<DatumMethodRow> readMethods() {
+    std::vector<DatumMethodRow> result;
+    char const* name = nullptr;
+    for (int number = 0, numbers = 0;
+         zrproj_datum_method_entry(result.size(), &number, &name, &numbers, nullptr) == ZRPROJ_OK;)
+        result.push_back({static_cast<DatumMethod>(number), name, numbers});
+    return result;
+}
 
-/// The ellipsoids of datums whose records name none.
-struct ImpliedEllipsoid {
-    DatumType type;
-    EllipsoidType ellipsoid;
-};
+/// The library's catalogue.
+std::vector<DatumMethodRow> const& datumMethods() {
+    static std::vector<DatumMethodRow> const methods = readMethods();
+    return methods;
+}
 
-constexpr std::array impliedEllipsoids{
-    ImpliedEllipsoid{DatumTypeAustralianGeodetic1966Mre, EllipsoidTypeAustralianNatlSAmer1969},
-    ImpliedEllipsoid{DatumTypeAustralianGeodetic1984Mre, EllipsoidTypeAustralianNatlSAmer1969},
-    ImpliedEllipsoid{DatumTypeCampoInchausepeArgentinaMre, EllipsoidTypeInternational1924},
-    ImpliedEllipsoid{DatumTypeCorregoAlegreBrazilMre, EllipsoidTypeInternational1924},
-    ImpliedEllipsoid{DatumTypeEuropean1950Mre, EllipsoidTypeInternational1924},
-    ImpliedEllipsoid{DatumTypeNad1927ConusMre, EllipsoidTypeClarke1866},
-    ImpliedEllipsoid{DatumTypeNad1927CanadaMre, EllipsoidTypeClarke1866},
-    ImpliedEllipsoid{DatumTypeSouthAmerican1969Mre, EllipsoidTypeAustralianNatlSAmer1969},
-    ImpliedEllipsoid{DatumTypeNad1927ConusNadcon, EllipsoidTypeClarke1866},
-    ImpliedEllipsoid{DatumTypeNad1927PuertoRicoVirginIslandsNadcon, EllipsoidTypeClarke1866},
-};
+DatumMethodRow rowOf(DatumMethod method) {
+    auto const& methods = datumMethods();
+    auto const found = std::ranges::find(methods, method, &DatumMethodRow::method);
+    return found == methods.end() ? DatumMethodRow{method, "unknown", -1} : *found;
+}
 
 Datum catalogueDatum(DatumType type) {
     return {datumName(type), type, {}};
@@ -136,8 +132,15 @@ std::string datumName(DatumType type) {
 }
 
 std::string_view methodName(DatumMethod method) {
-    auto const found = std::find_if(methods.begin(), methods.end(), [&](auto& row) { return row.method == method; });
-    return found == methods.end() ? "unknown" : found->name;
+    return rowOf(method).name;
+}
+
+bool hasShifts(DatumMethod method) {
+    return rowOf(method).numbers >= 3;
+}
+
+bool hasRotations(DatumMethod method) {
+    return rowOf(method).numbers == 7;
 }
 
 Datum findDatum(std::string_view text, std::span<Datum const> defined) {
@@ -170,9 +173,9 @@ bool isCatalogueName(std::string_view name) {
 std::optional<Figure> figureOf(Datum const& datum) {
     DATUM2WGS84 record = datum.record;
     if (!datum.isOwn() && !DatGetDatumParams(datum.type, &record)) {
-        auto const implied = std::find_if(impliedEllipsoids.begin(), impliedEllipsoids.end(),
-                                          [&](auto& row) { return row.type == datum.type; });
-        return implied == impliedEllipsoids.end() ? std::nullopt : std::optional(Figure{implied->ellipsoid});
+        int ellipsoid = EllipsoidTypeUserDefined; // a record without parameters names none
+        zrproj_datum_entry(static_cast<std::size_t>(datum.type) - 1, nullptr, nullptr, &ellipsoid, nullptr);
+        return Figure{static_cast<EllipsoidType>(ellipsoid)};
     }
     if (record.Ellipsoid == EllipsoidTypeUserDefined && !(record.MajorRadius > 0))
         return std::nullopt;
@@ -205,14 +208,16 @@ constexpr std::array fieldRows{
 constexpr std::string_view keys =
     "method, ellipsoid (or radius and flattening), dx, dy, dz, rx, ry, rz, scale, prime-meridian";
 
+/// A method that a datum of the user's own can go by.
 DatumMethod findMethod(std::string_view text) {
-    constexpr std::array usable{DatumMethodNone, DatumMethodBursaWolf, DatumMethodMolodensky};
-    std::array<std::string, usable.size()> names;
-    std::transform(usable.begin(), usable.end(), names.begin(), methodName);
+    std::vector<DatumMethodRow> usable;
+    std::ranges::copy_if(datumMethods(), std::back_inserter(usable), [](auto& row) { return row.numbers >= 0; });
+    std::vector<std::string> names(usable.size());
+    std::ranges::transform(usable, names.begin(), &DatumMethodRow::name);
     NameMatch const result = matchName(text, names);
     if (result.match != Match::One)
         throw UsageError("method: " + inQuotes(text) + " is none of molodensky, bursa-wolf and none");
-    return usable[static_cast<std::size_t>(result.found.front())];
+    return usable[static_cast<std::size_t>(result.found.front())].method;
 }
 
 void setNumber(DATUM2WGS84& record, std::string_view key, std::string_view text) {

@@ -29,6 +29,9 @@ struct DatumShift {
 
 std::string datumName(DatumType type);
 std::string_view methodName(DatumMethod method);
+/// Whether the method goes by the shifts of a record; by its rotations and scale as well.
+bool hasShifts(DatumMethod method);
+bool hasRotations(DatumMethod method);
 
 /// The datum of a POSC code, a number or a name (a unique part will do). `defined` are those of the command line, which
 /// go first. Throws UsageError when it is none.

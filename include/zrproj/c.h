@@ -110,6 +110,12 @@ ZRPROJ_API zrproj_status zrproj_ellipsoid_find(char const* name, int* ellipsoid)
 ZRPROJ_API zrproj_status zrproj_datum_entry(size_t n, int* datum, char const** name, int* ellipsoid,
                                             char const** method);
 
+/// The n-th method that carries datums to WGS 84: its number, its name, how many numbers of a zrproj_shift it goes by
+/// beside the prime meridian (3: the shifts; 7: the rotations and the scale as well; 0: none; -1: it goes by equations
+/// or grids that only datums of the catalogue have), and whether it leads back from WGS 84 (1) or not (0).
+ZRPROJ_API zrproj_status zrproj_datum_method_entry(size_t n, int* method, char const** name, int* numbers,
+                                                   int* inverts);
+
 /// Finds a datum by its name, letter case ignored. ZRPROJ_UNKNOWN where there is none.
 ZRPROJ_API zrproj_status zrproj_datum_find(char const* name, int* datum);
 

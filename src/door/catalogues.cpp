@@ -115,9 +115,18 @@ zrproj_status zrproj_datum_entry(size_t n, int* datum, char const** name, int* e
         DatumRow const& row = datumRow(type);
         give(datum, static_cast<int>(type));
         give(name, row.name);
-        give(ellipsoid, row.ellipsoid == EllipsoidTypeNone ? 0 : static_cast<int>(row.ellipsoid));
+        give(ellipsoid, static_cast<int>(row.figure));
         give(method, datumMethodRow(row.method)->name);
         return {};
+    });
+}
+
+zrproj_status zrproj_datum_method_entry(size_t n, int* method, char const** name, int* numbers, int* inverts) {
+    return entry(datumMethodTable, n, [&](DatumMethodRow const& row) {
+        give(method, static_cast<int>(row.method));
+        give(name, row.name);
+        give(numbers, row.hasRotations() ? 7 : row.hasShifts() ? 3 : row.isOwn() ? 0 : -1);
+        give(inverts, row.inverts ? 1 : 0);
     });
 }
 

@@ -70,6 +70,16 @@ TEST(DoorCatalogues, SayWhatEntriesAre) {
     EXPECT_STREQ(name, "North American Datum 1927");
     EXPECT_STREQ(method, "Molodensky");
     EXPECT_EQ(ellipsoid, 15);
+    ASSERT_EQ(zrproj_datum_entry(ZrProj::DatumTypeEuropean1950Mre - 1, nullptr, nullptr, &ellipsoid, &method),
+              ZRPROJ_OK);
+    EXPECT_STREQ(method, "regression");
+    EXPECT_EQ(ellipsoid, ZrProj::EllipsoidTypeInternational1924); // which its record does not name
+    std::vector<std::string> methods;
+    int numbers = 0, inverts = 0;
+    for (size_t n = 0; zrproj_datum_method_entry(n, nullptr, &name, &numbers, &inverts) == ZRPROJ_OK; ++n)
+        methods.push_back(std::string(name) + ' ' + std::to_string(numbers) + ' ' + std::to_string(inverts));
+    EXPECT_EQ(methods, (std::vector<std::string>{"none 0 1", "NADCON -1 0", "Bursa-Wolf 7 1", "Molodensky 3 1",
+                                                 "regression -1 0"}));
     double radius = 0, flattening = 0;
     ASSERT_EQ(zrproj_ellipsoid_entry(15, nullptr, &name, &radius, &flattening), ZRPROJ_OK);
     EXPECT_EQ(radius, 6378206.4);
