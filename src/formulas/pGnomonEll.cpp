@@ -97,6 +97,7 @@ bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noex
     return placeInDegrees(given.lat1, given.lon0, point).up > heightOfHorizon(given);
 }
 
+/// The sphere's; what the ellipsoid does not show within it, at most a third of a degree on the Earth, is marked.
 MapEdges edges(ParametersInDegrees const& given) noexcept {
     return {.horizon = {true, given.lon0, given.lat1}};
 }

@@ -17,7 +17,6 @@
 #include "formulas/driver.h"
 #include "formulas/edges.h"
 #include "formulas/gauss_sphere.h"
-#include "formulas/oblique_cylinder.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
@@ -109,7 +108,8 @@ struct KrovakModified {
 };
 
 bool hasMap(Parameters const& given) {
-    return hasGaussSphere(given.f) && areLatitudes(given.lat0) && given.lat1 > 0 && given.lat1 < halfPi;
+    bool const isOblique = given.coLatitude > 0 && given.coLatitude < pi;
+    return hasGaussSphere(given.f) && areLatitudes(given.lat0) && isOblique && given.lat1 > 0 && given.lat1 < halfPi;
 }
 
 template <class Form> void prepare(Converter& converter, Parameters const& given) noexcept {
@@ -134,22 +134,21 @@ bool inModified(ParametersInDegrees const& given, PROJPOINT const& point) noexce
     return std::fabs(-map.y - Bend::X0) < Bend::reach - 1 && std::fabs(-map.x - Bend::Y0) < Bend::reach - 1;
 }
 
-/// A cut from pole to pole of the axis, opposite to its lower side.
+/// The map is cut from the axis over the pole and along the opposite meridian to where the axis comes out again; the
+/// cap about the pole that the cut divides is left out.
 MapEdges edges(ParametersInDegrees const& given) noexcept {
     GaussSphere const gauss(given.f, given.lat0 * degree);
+    double const psi = std::asinh(1 / std::tan(given.coLatitude * degree)), reach = 180 / gauss.B;
     IsometricLatitude const isometricLatitude(given.f);
-    auto const latitude = [&](SinCos<double> chi) {
-        return isometricLatitude.geodetic((isometric(chi) - gauss.logE) / gauss.B);
+    auto const latitude = [&](double onSphere) {
+        return isometricLatitude.geodetic((onSphere - gauss.logE) / gauss.B) / degree;
     };
-    return edgesOf({.present = true,
-                    .lon0 = given.lon0,
-                    .B = gauss.B,
-                    .logE = gauss.logE,
-                    .e = gauss.e,
-                    .lonPole = 0,
-                    .sinPole = std::cos(given.coLatitude * degree),
-                    .cosPole = std::sin(given.coLatitude * degree)},
-                   latitude);
+    MapEdges ends{.window = windowAbout(given.lon0, reach)};
+    ends.window.north = latitude(psi) - placeInset;
+    ends.hole = edgesAround(given.lon0 + reach, latitude(-psi)).hole;
+    ends.otherHole = edgesAround(given.lon0 - reach, latitude(-psi)).hole;
+    ends.hole.isAtCut = ends.otherHole.isAtCut = true;
+    return ends;
 }
 
 /// Some 600 km about the bent map's middle.

@@ -1,6 +1,9 @@
 // Where the maps end: which types a line can be torn in two by, and how sharp the limits of a range are.
+#include "formulas/levels.h"
 #include "proj/projection_table.h"
+#include "support/faults.h"
 #include "support/registry.h"
+#include "support/words.h"
 
 #include <gtest/gtest.h>
 
@@ -30,7 +33,42 @@ bool neverTears(ProjType type) {
            type == ProjTypeHotineObliqueMercator;
 }
 
+/// Whether the hole has the place in it.
+bool isIn(formulas::Hole const& hole, PROJPOINT const& at) {
+    return hole.present &&
+           std::hypot(std::remainder(at.x - hole.lon, 360) / hole.halfWidth, (at.y - hole.lat) / hole.halfHeight) < 1;
+}
+
+/// Whether the edges leave the place to the map; those of formulas that only systems reach.
+bool leave(formulas::MapEdges const& edges, PROJPOINT const& at) {
+    auto const& [present, wraps, west, east, south, north] = edges.window;
+    double const middle = (west + east) / 2, apart = std::fabs(std::remainder(at.x - middle, 360));
+    if (present && (apart > (east - west) / 2 || at.y < south || at.y > north))
+        return false;
+    if (edges.polarHole.present && at.y * edges.polarHole.side > edges.polarHole.limit)
+        return false;
+    return !isIn(edges.hole, at) && !isIn(edges.otherHole, at);
+}
+
 } // namespace
+
+TEST(Edges, OfFormulasLeaveOnlyWhatIsShown) {
+    for (auto const& words : test::formulaParameterSets()) {
+        auto const given = test::formulaOf(words).value();
+        auto const edges = formulas::formulaOf(given.method)->edges(given.parameters);
+        if (edges.horizon.present || edges.oblique.present)
+            continue; // those of the gnomonic and of Hotine's, which types have
+        test::Projection projection(words);
+        auto points = projection.samples();
+        std::erase_if(points, [&](PROJPOINT const& at) { return !leave(edges, at); });
+        EXPECT_GT(points.size(), 10U) << words;
+        auto const map = projection.forward(points), back = projection.inverse(map);
+        test::Faults faults(words);
+        for (std::size_t i = 0; i < points.size(); ++i)
+            if (test::isMarked(map[i]) || test::isMarked(back[i]))
+                faults.add(points[i], " is marked");
+    }
+}
 
 TEST(Edges, TearWhatReachesTheOppositeMeridian) {
     for (auto const type : test::projectingTypes()) {
