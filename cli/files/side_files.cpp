@@ -4,50 +4,20 @@
 #include "cli/files/side_file_stage.h"
 #include "cli/text/text.h"
 
+#include <zrproj/c.h>
+
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <functional>
+#include <memory>
 #include <stdexcept>
-#include <string_view>
 
 namespace ZrProj::Command {
 namespace {
 
-bool equalIgnoringCase(std::string_view a, std::string_view b) {
-    return std::ranges::equal(a, b, {}, lowerCase, lowerCase);
-}
-
-std::string_view extensionOf(std::string const& file) {
-    return ZrGetFileExt(file.c_str());
-}
-
-std::string withoutExtension(std::string const& file) {
-    std::string_view const extension = extensionOf(file);
-    return extension.empty() ? file : file.substr(0, file.size() - extension.size() - 1);
-}
-
-bool isReference(std::string const& file) {
-    return equalIgnoringCase(extensionOf(file), "zrr");
-}
-
-bool isRsf(std::string const& file) {
-    return equalIgnoringCase(extensionOf(file), "rsf");
-}
-
-constexpr auto imageExtensions = std::to_array<std::string_view>(
-    {"asc", "bil",  "bip", "bmp", "bsq", "dem", "ecw", "gif",  "grd", "img",  "j2k", "jp2",
-     "jpc", "jpeg", "jpg", "jpx", "ntf", "pcx", "pdf", "pgm",  "png", "pnm",  "ppm", "psd",
-     "rgb", "rst",  "sid", "sun", "svg", "tga", "tif", "tiff", "vrt", "webp", "xpm"});
-
-/// "wld", and what becomes of the extensions of images: "tfw" or "tifw". Others end in a w as well: "raw", "new".
-bool isWorld(std::string const& file) {
-    std::string_view const extension = extensionOf(file);
-    auto const isFor = [extension](std::string_view image) {
-        return equalIgnoringCase(extension, std::string(image) + 'w') ||
-               equalIgnoringCase(extension, std::string{image[0], image[2], 'w'});
-    };
-    return equalIgnoringCase(extension, "wld") || std::ranges::any_of(imageExtensions, isFor);
+template <zrproj_side_file kind> bool isOfKind(std::string const& file) {
+    zrproj_side_file found{};
+    return zrproj_side_file_kind(file.c_str(), &found) == ZRPROJ_OK && found == kind;
 }
 
 [[noreturn]] void refuse(std::string const& file, char const* why) {
@@ -204,41 +174,11 @@ Notes writeWorld(std::string const& file, MapInfo const& info, Misfit) {
 }
 
 constexpr std::array formats{
-    FileFormat{"reference file", isReference, readReference, writeReference},
-    FileFormat{"RSF file", isRsf, readRsf, writeRsf},
-    FileFormat{"world file", isWorld, readWorld, writeWorld},
+    // by zrproj_side_file
+    FileFormat{"reference file", isOfKind<ZRPROJ_REFERENCE_FILE>, readReference, writeReference},
+    FileFormat{"RSF file", isOfKind<ZRPROJ_RSF_FILE>, readRsf, writeRsf},
+    FileFormat{"world file", isOfKind<ZRPROJ_WORLD_FILE>, readWorld, writeWorld},
 };
-
-constexpr FileFormat const *reference = formats.data(), *rsf = reference + 1, *world = rsf + 1;
-
-/// The names of an image's side files of each format, in the order in which they are looked for.
-std::vector<MapSource> expectedSideFiles(std::string const& image) {
-    std::string_view const extension = extensionOf(image);
-    std::string const bare = withoutExtension(image);
-    std::string const byExtension = extension.size() < 3 ? bare + 'W' : bare + '.' + extension[0] + extension[2] + 'W';
-    return {{reference, image + ".zrr"},
-            {rsf, bare + ".RSF"},
-            {world, byExtension},
-            {world, image + 'w'},
-            {world, bare + ".WLD"}};
-}
-
-/// The plain files beside `expected` whose names differ from it in the case of the extension.
-std::vector<std::string> variantsOf(std::string const& expected) {
-    std::vector<std::string> found;
-    std::error_code error;
-    std::size_t const extension = extensionOf(expected).size();
-    std::string const stem = expected.substr(0, expected.size() - extension);
-    for (auto const& entry : std::filesystem::directory_iterator(directoryOf(expected), error)) {
-        std::string const name = entry.path().filename().string();
-        std::string const there = name.size() > extension ? stem + name.substr(name.size() - extension) : "";
-        bool const same = std::filesystem::path(there).filename() == name && equalIgnoringCase(there, expected);
-        if (extension > 0 && same && there != expected && entry.is_regular_file(error))
-            found.push_back(there);
-    }
-    std::ranges::sort(found, std::greater());
-    return found;
-}
 
 } // namespace
 
@@ -247,19 +187,16 @@ std::span<FileFormat const> sideFormats() {
 }
 
 std::vector<MapSource> sideFilesOf(std::string const& image) {
-    std::vector<MapSource> const expected = expectedSideFiles(image);
+    zrproj_side_files* files = nullptr;
+    if (zrproj_side_files_create(image.c_str(), &files) != ZRPROJ_OK)
+        throw std::runtime_error(zrproj_message());
+    std::unique_ptr<zrproj_side_files, decltype(&zrproj_side_files_destroy)> const owner(files,
+                                                                                         zrproj_side_files_destroy);
     std::vector<MapSource> found;
-    for (FileFormat const& format : formats) {
-        auto const take = [&](MapSource const& file, std::vector<std::string> const& names) {
-            for (std::string const& name : names)
-                if (file.format == &format && std::filesystem::is_regular_file(name))
-                    found.push_back({&format, name});
-        };
-        for (MapSource const& file : expected)
-            take(file, {file.name});
-        for (MapSource const& file : expected)
-            take(file, variantsOf(file.name));
-    }
+    zrproj_side_file kind{};
+    char const* path = nullptr;
+    for (std::size_t n = 0; zrproj_side_files_entry(files, n, &kind, &path) == ZRPROJ_OK; ++n)
+        found.push_back({&formats[static_cast<std::size_t>(kind)], path});
     return found;
 }
 
