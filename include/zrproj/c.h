@@ -263,7 +263,8 @@ typedef struct zrproj_fit zrproj_fit;
 /// copied.
 ///
 /// ZRPROJ_UNKNOWN for a number that is no method; ZRPROJ_BAD_ARGUMENT for a coordinate that is not finite;
-/// ZRPROJ_NOT_SOLVABLE where the points determine no such map, with what is wrong with them as message.
+/// ZRPROJ_NOT_SOLVABLE where the points determine no such map, with what is wrong with them as message;
+/// ZRPROJ_UNSUPPORTED for more than 10,000 points of a method that meets every one.
 ZRPROJ_API zrproj_status zrproj_fit_create(int method, double const* source, double const* target, size_t count,
                                            zrproj_fit** fit);
 

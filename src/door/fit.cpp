@@ -41,6 +41,8 @@ Answer makeFit(zrproj_fit& fit, int method, std::vector<GEOREFPOINT> source, std
     fit.method = method;
     fit.source = std::move(source);
     fit.target = std::move(target);
+    if (areTooMany(type, fit.source.size()))
+        return unsupported(whyNoFit(type, fit.controls()));
     fit.map = fitGeoref(type, fit.controls());
     if (!fit.map)
         return {ZRPROJ_NOT_SOLVABLE, whyNoFit(type, fit.controls())};

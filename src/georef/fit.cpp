@@ -103,9 +103,12 @@ void GeorefMap::map(std::span<GEOREFPOINT> points) const noexcept {
         kernels.mapByWarp(std::get<FittedWarp>(m_map).warp, points.data(), points.size());
 }
 
+bool areTooMany(TransformMethod method, std::size_t controls) {
+    return isWarp(method) && controls > mostOfWarps;
+}
+
 std::optional<GeorefMap> fitGeoref(TransformMethod method, Controls const& controls) {
-    bool const tooMany = isWarp(method) && controls.size() > mostOfWarps;
-    if (method == TransformMethodPrecalculatedAffineCoefficients || tooMany ||
+    if (method == TransformMethodPrecalculatedAffineCoefficients || areTooMany(method, controls.size()) ||
         controls.size() < georefMethodRow(method).needed || !areFinite(controls))
         return std::nullopt;
     auto map = fitUnchecked(method, controls);
@@ -119,7 +122,7 @@ std::string whyNoFit(TransformMethod method, Controls const& controls) {
     if (controls.size() < row.needed)
         return std::string(row.key) + " needs " + std::to_string(row.needed) + " control points, there are " +
                std::to_string(controls.size());
-    if (isWarp(method) && controls.size() > mostOfWarps)
+    if (areTooMany(method, controls.size()))
         return std::string(row.key) + " takes at most " + std::to_string(mostOfWarps) + " control points";
     auto const twins = findTwins(controls.source); // a least-squares fit that has enough others does not mind them
     if (twins && (isWarp(method) || countPlaces(controls.source) < row.needed))

@@ -37,6 +37,9 @@ private:
 /// memory.
 std::optional<GeorefMap> fitGeoref(TransformMethod method, Controls const& controls);
 
+/// Whether a method cannot take so many control points, because its equations would need too much memory.
+bool areTooMany(TransformMethod method, std::size_t controls);
+
 /// What is wrong with controls that fitGeoref makes no map of. Points are counted from 1.
 std::string whyNoFit(TransformMethod method, Controls const& controls);
 

@@ -142,6 +142,9 @@ TEST(DoorFit, RefusesWhatMakesNoFit) {
         EXPECT_EQ(zrproj_fit_create_affine(six, &fit), ZRPROJ_BAD_ARGUMENT);
         EXPECT_EQ(fit, nullptr);
     }
+    std::vector<double> const many(20002, 1);
+    EXPECT_EQ(create(thinPlate, many, many), ZRPROJ_UNSUPPORTED);
+    EXPECT_STREQ(zrproj_message(), "thin-plate takes at most 10000 control points");
     zrproj_fit* fit = nullptr;
     EXPECT_EQ(zrproj_fit_create(affine, nullptr, target.data(), 3, &fit), ZRPROJ_BAD_ARGUMENT);
     EXPECT_EQ(zrproj_fit_create(affine, target.data(), target.data(), SIZE_MAX, &fit), ZRPROJ_BAD_ARGUMENT);
