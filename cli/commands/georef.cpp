@@ -21,7 +21,7 @@ constexpr int failureStatus = 1;
 
 std::string methodKeys() {
     std::string keys;
-    for (GeorefMethod const& row : georefMethods)
+    for (GeorefMethod const& row : georefMethods())
         keys += (keys.empty() ? "" : ", ") + std::string(row.key);
     return keys;
 }
@@ -101,8 +101,8 @@ public:
             job.columns.columns = parseColumns(m_columns, false);
         if (std::count(job.files.begin(), job.files.end(), "-") + (m_controls.file == "-") > 1)
             throw UsageError("standard input can be read only once, for the control points or for the points");
-        auto const map = fitGeoref(findGeorefMethod(m_controls.method), m_controls.read());
-        return applyGeoref(*map, job, output);
+        GeorefFit const map(findGeorefMethod(m_controls.method), m_controls.read());
+        return applyGeoref(map, job, output);
     }
 
 private:

@@ -1,322 +1,105 @@
 #include "cli/georef/analysis.h"
 
-#include "cli/georef/leverage.h"
-
 #include <algorithm>
 #include <cfloat>
 #include <cmath>
-#include <memory>
-#include <numeric>
+#include <new>
 
 namespace ZrProj::Command {
 namespace {
 
-constexpr double chance = 0.01;    // of calling good controls bad
-constexpr double timesMedian = 12; // for methods that meet every control
-constexpr std::size_t candidates = 3;
-constexpr std::size_t mostExact = 10000; // controls: 800 MB of equations
-constexpr double highLeverage = 0.9;     // few points have more: all leverages are as many as a coordinate's terms
-constexpr GeorefMethod const& affine = georefMethods[1];
+std::vector<double> pairsOf(std::vector<ControlPoint> const& controls, GEOREFPOINT ControlPoint::*side) {
+    std::vector<double> pairs;
+    pairs.reserve(2 * controls.size());
+    for (ControlPoint const& control : controls)
+        pairs.insert(pairs.end(), {(control.*side).x, (control.*side).y});
+    return pairs;
+}
 
-/// Controls as the library takes them.
-class Pairs {
-public:
-    explicit Pairs(std::vector<ControlPoint> const& controls) {
-        for (auto const& control : controls)
-            add(control.source, control.target);
-    }
+/// A number that may be none.
+std::optional<double> told(double value) {
+    return std::isnan(value) ? std::nullopt : std::optional(value);
+}
 
-    std::size_t size() const { return m_source.size(); }
-    std::vector<GEOREFPOINT> const& sources() const { return m_source; }
-    Pairs without(std::size_t left) const {
-        Pairs result = *this;
-        auto const place = static_cast<std::ptrdiff_t>(left);
-        result.m_source.erase(result.m_source.begin() + place);
-        result.m_target.erase(result.m_target.begin() + place);
-        return result;
-    }
-    std::unique_ptr<CGeorefTransform> fit(GeorefMethod const& method) const;
-    /// Where a map puts a point, less where it is given.
-    GEOREFPOINT offset(CGeorefTransform& map, std::size_t i) const {
-        GEOREFPOINT mapped = m_source[i];
-        map.Forward(&mapped, 1);
-        return {mapped.x - m_target[i].x, mapped.y - m_target[i].y};
-    }
-    std::vector<GEOREFPOINT> offsets(CGeorefTransform& map) const;
-    /// The longer side of the targets' bounding box.
-    double extent() const;
-
-private:
-    void add(GEOREFPOINT source, GEOREFPOINT target) {
-        m_source.push_back(source);
-        m_target.push_back(target);
-    }
-
-    std::vector<GEOREFPOINT> m_source, m_target;
+struct AnalysisDestroyer {
+    void operator()(zrproj_analysis* analysis) const { zrproj_analysis_destroy(analysis); }
 };
+using AnalysisHandle = std::unique_ptr<zrproj_analysis, AnalysisDestroyer>;
 
-/// Null also for a similarity through points in one place, which would mark everything.
-std::unique_ptr<CGeorefTransform> Pairs::fit(GeorefMethod const& method) const {
-    if (size() < method.needed)
-        return nullptr;
-    GEOREF record{};
-    record.Method = method.method;
-    record.pSource = const_cast<GEOREFPOINT*>(m_source.data()); // creating a system only reads them
-    record.pTarget = const_cast<GEOREFPOINT*>(m_target.data());
-    record.nControls = static_cast<std::int32_t>(size());
-    auto map = std::make_unique<CGeorefTransform>(&record);
-    GEOREFPOINT point = m_source[0];
-    if (!map->Forward(&point, 1) || point.x == DBL_MAX)
-        return nullptr;
-    return map;
+AnalysisHandle lookInto(GeorefFit const& fit) {
+    zrproj_analysis* analysis = nullptr;
+    if (zrproj_analysis_create(fit.handle(), &analysis) != ZRPROJ_OK)
+        throw std::bad_alloc();
+    return AnalysisHandle(analysis);
 }
 
-std::vector<GEOREFPOINT> Pairs::offsets(CGeorefTransform& map) const {
-    auto result = m_source;
-    map.Forward(result.data(), static_cast<int>(result.size()));
-    for (std::size_t i = 0; i < result.size(); ++i)
-        result[i] = {result[i].x - m_target[i].x, result[i].y - m_target[i].y};
-    return result;
+GeorefMethod const& methodOf(int number) {
+    return *std::ranges::find(georefMethods(), number, &GeorefMethod::method);
 }
 
-double Pairs::extent() const {
-    auto const [left, right] =
-        std::minmax_element(m_target.begin(), m_target.end(), [](auto& a, auto& b) { return a.x < b.x; });
-    auto const [low, high] =
-        std::minmax_element(m_target.begin(), m_target.end(), [](auto& a, auto& b) { return a.y < b.y; });
-    return std::max(right->x - left->x, high->y - low->y);
-}
-
-double length(GEOREFPOINT const& offset) {
-    return std::hypot(offset.x, offset.y);
-}
-
-/// The sum of the squared lengths.
-double squares(std::vector<GEOREFPOINT> const& offsets) {
-    double sum = 0;
-    for (auto const& offset : offsets)
-        sum += offset.x * offset.x + offset.y * offset.y;
-    return sum;
-}
-
-/// What the fit to all the others says of a point.
-struct Left {
-    std::optional<double> length;
-    double squares = 0; // of that fit's residuals
-};
-
-Left leaveOut(GeorefMethod const& method, Pairs const& pairs, std::size_t i) {
-    Pairs const others = pairs.without(i);
-    auto map = others.fit(method);
-    if (!map)
-        return {};
-    return {length(pairs.offset(*map, i)), isExact(method) ? 0 : squares(others.offsets(*map))};
-}
-
-std::vector<Left> leaveEachOutOfExact(GeorefMethod const& method, Pairs const& pairs) {
-    std::vector<Left> result(pairs.size());
-    if (canLeaveOneOut(method, pairs.size()))
-        for (std::size_t i = 0; i < result.size(); ++i)
-            result[i] = leaveOut(method, pairs, i);
-    return result;
-}
-
-/// By the leverages, from the offsets of the fit to all of them. Where a point has nearly all of the leverage, so that
-/// its residual is mostly rounding, the others are fitted anew.
-std::vector<Left> leaveEachOut(GeorefMethod const& method, Pairs const& pairs,
-                               std::vector<GEOREFPOINT> const& offsets) {
-    if (isExact(method))
-        return leaveEachOutOfExact(method, pairs);
-    auto const leverage = leverages(method, pairs.sources());
-    double const all = squares(offsets);
-    std::vector<Left> result(pairs.size());
-    for (std::size_t i = 0; i < result.size(); ++i) {
-        double const off = length(offsets[i]), rest = 1 - leverage[i];
-        if (leverage[i] < highLeverage)
-            result[i] = {off / rest, std::max(all - off * off / rest, 0.0)};
-        else
-            result[i] = leaveOut(method, pairs, i);
-    }
-    return result;
-}
-
-/// The logarithm of the chance that a good point is as far off as this one:
-/// P(F(2, freedom) > f) = (1 + 2 f / freedom)^(-freedom / 2), with f = (length^2 (1 - leverage) / 2) / (squares /
-/// freedom). What a residual shrinks by when its point joins the fit is 1 - leverage.
-double logChance(Left const& left, double residual, double freedom) {
-    if (!left.length)
-        return 0;
-    double const ratio = *left.length * residual / left.squares; // 2 f / freedom
-    return std::isnan(ratio) ? 0 : -freedom / 2 * std::log1p(ratio);
-}
-
-/// The point that least-squares residuals speak against.
-std::optional<std::size_t> snoop(GeorefMethod const& method, Pairs const& pairs) {
-    auto map = pairs.fit(method);
-    if (!map || pairs.size() < fewestToTell(method))
-        return std::nullopt;
-    auto const offsets = pairs.offsets(*map);
-    auto const left = leaveEachOut(method, pairs, offsets);
-    double const freedom = 2 * static_cast<double>(pairs.size() - 1) - static_cast<double>(method.unknown);
-    double least = 0;
-    std::size_t candidate = 0;
-    for (std::size_t i = 0; i < pairs.size(); ++i) {
-        double const here = logChance(left[i], length(offsets[i]), freedom);
-        if (here < least) {
-            least = here;
-            candidate = i;
-        }
-    }
-    bool const rounding = left[candidate].length.value_or(0) <= 1e-9 * pairs.extent();
-    if (rounding || !(least + std::log(static_cast<double>(pairs.size())) < std::log(chance)))
-        return std::nullopt;
-    return candidate;
-}
-
-std::optional<double> medianLength(std::vector<Left> const& left) {
-    std::vector<double> lengths;
-    for (auto const& one : left)
-        if (one.length)
-            lengths.push_back(*one.length);
-    if (lengths.empty())
-        return std::nullopt;
-    auto const middle = lengths.begin() + static_cast<std::ptrdiff_t>(lengths.size() / 2);
-    std::nth_element(lengths.begin(), middle, lengths.end());
-    return *middle;
-}
-
-/// The point that the others of an exact method agree best without, if it is far enough from where they put it.
-std::optional<std::size_t> compareLengths(GeorefMethod const& method, Pairs const& pairs) {
-    if (pairs.size() < fewestToTell(method))
-        return std::nullopt;
-    auto const left = leaveEachOutOfExact(method, pairs);
-    std::vector<std::size_t> order(pairs.size());
-    std::iota(order.begin(), order.end(), std::size_t{0});
-    std::stable_sort(order.begin(), order.end(), [&](std::size_t a, std::size_t b) {
-        return left[a].length.value_or(0) > left[b].length.value_or(0);
-    });
-    std::optional<std::size_t> best;
-    double least = HUGE_VAL;
-    for (std::size_t k = 0; k < candidates; ++k) {
-        auto const median = medianLength(leaveEachOutOfExact(method, pairs.without(order[k])));
-        if (median && *median < least) {
-            least = *median;
-            best = order[k];
-        }
-    }
-    double const off = best ? left[*best].length.value_or(0) : 0;
-    if (off <= 1e-9 * pairs.extent() || !(off > timesMedian * least))
-        return std::nullopt;
-    return best;
-}
-
-/// How well the method fits what is left without the outliers; nothing where it cannot.
-std::optional<double> rmsOf(GeorefMethod const& method, Pairs const& pairs) {
-    auto const map = pairs.fit(method);
-    if (!map)
-        return std::nullopt;
-    double sum = 0;
-    if (isExact(method))
-        for (auto const& left : leaveEachOutOfExact(method, pairs))
-            sum += left.length.value_or(0) * left.length.value_or(0);
-    else
-        sum = squares(pairs.offsets(*map));
-    return std::sqrt(sum / static_cast<double>(pairs.size()));
-}
-
-/// Looks for outliers among the controls, at most a third of them, and says how the rest fits.
-void findOutliers(GeorefMethod const& method, Pairs pairs, Analysis& analysis) {
-    GeorefMethod const& judge = *analysis.judge;
-    std::vector<std::size_t> places(pairs.size()); // of the pairs that are left
-    std::iota(places.begin(), places.end(), std::size_t{0});
-    while (analysis.outliers.size() < places.size() / 2) {
-        auto const found = isExact(judge) ? compareLengths(judge, pairs) : snoop(judge, pairs);
-        if (!found)
-            break;
-        analysis.outliers.push_back(places[*found]);
-        places.erase(places.begin() + static_cast<std::ptrdiff_t>(*found));
-        pairs = pairs.without(*found);
-    }
-    if (!analysis.outliers.empty())
-        analysis.rmsWithout = rmsOf(method, pairs);
-}
-
-void summarise(Analysis& analysis) {
-    double sum = 0, squared = 0, leftSum = 0, leftSquared = 0;
-    bool allLeft = true;
-    for (auto const& residual : analysis.residuals) {
-        double const left = residual.left.value_or(0);
-        sum += residual.length;
-        squared += residual.length * residual.length;
-        leftSum += left;
-        leftSquared += left * left;
-        allLeft = allLeft && residual.left;
-    }
-    auto const count = static_cast<double>(analysis.residuals.size());
-    analysis.mean = sum / count;
-    analysis.rms = std::sqrt(squared / count);
-    if (allLeft) {
-        analysis.leftMean = leftSum / count;
-        analysis.leftRms = std::sqrt(leftSquared / count);
-    }
-}
-
-std::size_t farthest(std::vector<Residual> const& residuals) {
-    auto const size = [](Residual const& r) { return r.left.value_or(r.length); };
-    auto const most = std::max_element(residuals.begin(), residuals.end(),
-                                       [&](Residual const& a, Residual const& b) { return size(a) < size(b); });
-    return static_cast<std::size_t>(most - residuals.begin());
-}
-
-std::vector<Residual> residualsOf(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
-    Pairs const pairs(controls);
-    auto const offsets = pairs.offsets(*fitGeoref(method, controls));
-    auto const left = leaveEachOut(method, pairs, offsets);
-    std::vector<Residual> result;
-    for (std::size_t i = 0; i < offsets.size(); ++i)
-        result.push_back({offsets[i], length(offsets[i]), left[i].length});
-    return result;
-}
-
-/// The method itself, or the affine one where only that has points enough.
-GeorefMethod const& judgeOf(GeorefMethod const& method, std::size_t controls) {
-    return controls < fewestToTell(method) && controls >= fewestToTell(affine) ? affine : method;
+void takeSummary(Analysis& analysis, zrproj_fit_summary const& summary) {
+    analysis.mean = summary.mean;
+    analysis.rms = summary.rms;
+    analysis.leftMean = told(summary.left_out_mean);
+    analysis.leftRms = told(summary.left_out_rms);
+    analysis.outliers.resize(summary.outliers);
+    analysis.rmsWithout = told(summary.rms_without);
+    analysis.judge = &methodOf(summary.judge);
+    analysis.worst = summary.worst;
+    analysis.worstLength = summary.worst_residual;
+    analysis.worstLeft = told(summary.worst_left_out);
+    analysis.fewestToTell = summary.fewest_to_tell;
+    analysis.hasLooked = summary.looked != 0;
 }
 
 } // namespace
 
-bool canLeaveOneOut(GeorefMethod const& method, std::size_t controls) {
-    return !isExact(method) || controls <= 150;
+GeorefFit::GeorefFit(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
+    auto const source = pairsOf(controls, &ControlPoint::source), target = pairsOf(controls, &ControlPoint::target);
+    zrproj_fit* fit = nullptr;
+    zrproj_status const status = zrproj_fit_create(method.method, source.data(), target.data(), controls.size(), &fit);
+    if (status == ZRPROJ_NO_MEMORY)
+        throw std::bad_alloc();
+    if (status != ZRPROJ_OK) // the command tells lines, where the library counts points
+        throw ControlsError(status == ZRPROJ_NOT_SOLVABLE ? whyNoFit(method, controls) : zrproj_message());
+    m_fit.reset(fit);
 }
 
-bool canFindOutliers(GeorefMethod const& method, std::size_t controls) {
-    return controls <= (isExact(method) ? 150U : 5000U);
+void GeorefFit::map(std::span<GEOREFPOINT> points) const {
+    if (points.empty())
+        return;
+    zrproj_fit_points(m_fit.get(), &points[0].x, &points[0].y, sizeof(GEOREFPOINT), points.size(), nullptr);
+    for (GEOREFPOINT& point : points)
+        if (std::isnan(point.x))
+            point = {DBL_MAX, DBL_MAX};
 }
 
-std::size_t fewestToTell(GeorefMethod const& method) {
-    return isExact(method) ? 5 : method.unknown / 2 + 3;
-}
-
-std::unique_ptr<CGeorefTransform> fitGeoref(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
-    if (isExact(method) && controls.size() > mostExact)
-        throw ControlsError(std::string(method.key) + " takes at most " + std::to_string(mostExact) +
-                            " control points");
-    auto map = Pairs(controls).fit(method);
-    if (!map)
-        throw ControlsError(whyNoFit(method, controls));
-    return map;
+std::vector<GeorefCoefficient> georefCoefficients(GeorefMethod const& method,
+                                                  std::vector<ControlPoint> const& controls) {
+    GeorefFit const fit(method, controls);
+    std::vector<GeorefCoefficient> result;
+    char const* term = nullptr;
+    double x = 0, y = 0;
+    while (zrproj_fit_coefficient(fit.handle(), result.size(), &term, &x, &y) == ZRPROJ_OK)
+        result.push_back({term, x, y});
+    return result;
 }
 
 Analysis analyse(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
+    AnalysisHandle const handle = lookInto(GeorefFit(method, controls));
+    zrproj_fit_summary summary{};
+    summary.size = sizeof summary;
+    zrproj_analysis_summary(handle.get(), &summary);
     Analysis analysis;
-    analysis.residuals = residualsOf(method, controls);
-    analysis.judge = &judgeOf(method, controls.size());
-    summarise(analysis);
-    if (canFindOutliers(method, controls.size()))
-        findOutliers(method, Pairs(controls), analysis);
-    auto const judged = analysis.judge == &method ? analysis.residuals : residualsOf(*analysis.judge, controls);
-    analysis.worst = analysis.outliers.empty() ? farthest(judged) : analysis.outliers.front();
-    analysis.worstResidual = judged[analysis.worst];
+    takeSummary(analysis, summary);
+    for (std::size_t i = 0; i < summary.count; ++i) {
+        zrproj_residual residual{};
+        residual.size = sizeof residual;
+        zrproj_analysis_residual(handle.get(), i, &residual);
+        analysis.residuals.push_back({{residual.dx, residual.dy}, residual.length, told(residual.left_out)});
+        if (residual.stands_out)
+            analysis.outliers[static_cast<std::size_t>(residual.stands_out) - 1] = i;
+    }
     return analysis;
 }
 

@@ -1,13 +1,46 @@
-// How well a fit meets its control points, and which of them do not belong.
+// Maps through control points: how well they meet them, and which of them do not belong.
 #pragma once
 
 #include "cli/georef/controls.h"
 
 #include <memory>
 #include <optional>
+#include <span>
 #include <vector>
 
 namespace ZrProj::Command {
+
+/// A map of a method through control points.
+class GeorefFit {
+public:
+    /// Throws ControlsError, with the reason, where there is none.
+    GeorefFit(GeorefMethod const& method, std::vector<ControlPoint> const& controls);
+
+    /// Points in place; those that have no result become DBL_MAX, DBL_MAX.
+    void map(std::span<GEOREFPOINT> points) const;
+    GEOREFPOINT operator()(GEOREFPOINT point) const {
+        map({&point, 1});
+        return point;
+    }
+    zrproj_fit const* handle() const { return m_fit.get(); }
+
+private:
+    struct Destroyer {
+        void operator()(zrproj_fit* fit) const { zrproj_fit_destroy(fit); }
+    };
+    std::unique_ptr<zrproj_fit, Destroyer> m_fit;
+};
+
+/// A term of a polynomial, and its coefficients for X and for Y.
+struct GeorefCoefficient {
+    std::string_view term;
+    double x = 0, y = 0;
+};
+
+/// The terms of a fitted polynomial or similarity, in source coordinates as they are; empty for an exact method, which
+/// has none. Throws ControlsError where there is no map.
+std::vector<GeorefCoefficient> georefCoefficients(GeorefMethod const& method,
+                                                  std::vector<ControlPoint> const& controls);
 
 struct Residual {
     GEOREFPOINT offset{};       // where the fit puts the point, less where it is given
@@ -23,34 +56,12 @@ struct Analysis {
     std::optional<double> rmsWithout;    // the fit's without the outliers: leave-one-out lengths for an exact method
     GeorefMethod const* judge = nullptr; // whose residuals tell the outliers and the worst point
     std::size_t worst = 0;               // the first outlier, else the point with the greatest length
-    Residual worstResidual;              // the judge's
+    double worstLength = 0;              // the judge's
+    std::optional<double> worstLeft;
+    std::size_t fewestToTell = 0; // controls that the method needs to tell of one that it stands out
+    bool hasLooked = false;       // for outliers: among too many that would take too long
 };
 
-/// Makes the map of the method through the controls. Throws ControlsError, with the reason, where there is none.
-std::unique_ptr<CGeorefTransform> fitGeoref(GeorefMethod const& method, std::vector<ControlPoint> const& controls);
-
-/// Whether leave-one-out residuals of so many controls are a matter of seconds.
-bool canLeaveOneOut(GeorefMethod const& method, std::size_t controls);
-
-/// The same of looking for outliers.
-bool canFindOutliers(GeorefMethod const& method, std::size_t controls);
-
-/// The least number of controls among which one that stands out can be told. A least-squares fit to the others must
-/// have four observations more than unknowns: with fewer, nearly any point can be the odd one.
-std::size_t fewestToTell(GeorefMethod const& method);
-
-/// Fits, and looks for outliers, one by one, with each fit leaving the earlier ones out. Where the controls are too few
-/// for the method to tell, but enough for an affine one, that one judges.
-///
-/// A least-squares method: by Baarda's data snooping. A point's leave-one-out residual, over the spread that the fit to
-/// the others shows, squared, has an F distribution where all is well; the least likely point is out when the chance of
-/// any of n points to be so far off is below 1 percent. (Baarda 1968, A testing procedure for use in geodetic networks;
-/// the spread is that without the point, as in Cook & Weisberg 1982, p. 20.)
-///
-/// A method that meets every point: a point is out when its leave-one-out residual is more than 12 times the median of
-/// the others', all taken without it; of the three points with the greatest residuals, the one whose absence makes the
-/// others agree best is looked at.
-///
 /// Throws ControlsError where there is no map.
 Analysis analyse(GeorefMethod const& method, std::vector<ControlPoint> const& controls);
 

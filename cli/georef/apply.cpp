@@ -9,7 +9,7 @@ namespace {
 
 class Application : public PointWork {
 public:
-    explicit Application(CGeorefTransform& map) : m_map(map) {}
+    explicit Application(GeorefFit const& map) : m_map(map) {}
 
     std::string header(std::string_view line, Layout const& layout) const override {
         return headerWith(line, layout, {"target_x", "target_y"});
@@ -19,7 +19,7 @@ public:
         m_mapped.clear();
         for (PROJPOINT const& point : block.points)
             m_mapped.push_back({point.x, point.y});
-        m_map.Forward(m_mapped.data(), static_cast<int>(m_mapped.size()));
+        m_map.map(m_mapped);
         for (std::size_t i = 0; i < m_mapped.size(); ++i) {
             if (block.states[i] != PointState::Good)
                 continue;
@@ -30,13 +30,13 @@ public:
     }
 
 private:
-    CGeorefTransform& m_map;
+    GeorefFit const& m_map;
     std::vector<GEOREFPOINT> m_mapped;
 };
 
 } // namespace
 
-int applyGeoref(CGeorefTransform& map, GeorefJob const& job, Output& output) {
+int applyGeoref(GeorefFit const& map, GeorefJob const& job, Output& output) {
     Application application(map);
     RowWriter const writer(output, job.decimals, false);
     return RowStream(application, job.files, job.columns, writer, output).run(job.strict);

@@ -1,6 +1,7 @@
 // Files of source points in, with their target coordinates out.
 #pragma once
 
+#include "cli/georef/analysis.h"
 #include "cli/points/layout.h"
 #include "cli/text/output.h"
 
@@ -21,6 +22,6 @@ struct GeorefJob {
 /// Runs files of points through a fitted map, in blocks of lines, in memory that does not grow with the input. Columns
 /// and headers are treated as elsewhere; results go into new columns, or replace coordinates without a header. Returns
 /// the exit status. Throws UsageError for a header that cannot be used.
-int applyGeoref(CGeorefTransform& map, GeorefJob const& job, Output& output);
+int applyGeoref(GeorefFit const& map, GeorefJob const& job, Output& output);
 
 } // namespace ZrProj::Command

@@ -1,38 +1,26 @@
 // The georeferencing methods as options of the command.
 #pragma once
 
+#include <zrproj/c.h>
 #include <zrproj/zrproj.h>
 
-#include <array>
 #include <string_view>
+#include <vector>
 
 namespace ZrProj::Command {
 
 struct GeorefMethod {
     std::string_view key; // of --method
     TransformMethod method;
-    std::size_t needed;  // controls
-    std::size_t unknown; // numbers that the fit finds; 0: it meets every control
+    std::size_t needed; // controls
 };
 
-// clang-format off
-inline constexpr std::array georefMethods{
-    GeorefMethod{"helmert",          TransformMethodHelmert,                 2,  4},
-    GeorefMethod{"affine",           TransformMethodAffinePolynomial,        3,  6},
-    GeorefMethod{"bilinear",         TransformMethod1stOrderPolynomial,      4,  8},
-    GeorefMethod{"second",           TransformMethod2ndOrderPolynomial,      6,  12},
-    GeorefMethod{"third",            TransformMethod3rdOrderPolynomial,      10, 20},
-    GeorefMethod{"thin-plate",       TransformMethodThinPlateSpline,         3,  0},
-    GeorefMethod{"cubic",            TransformMethodNaturalCubicSpline,      3,  0},
-    GeorefMethod{"marcov",           TransformMethodMarcovSpline,            3,  0},
-    GeorefMethod{"exponential",      TransformMethodExponentialSpline,       3,  0},
-    GeorefMethod{"rational",         TransformMethodRationalQuadraticSpline, 3,  0},
-    GeorefMethod{"inverse-distance", TransformMethodInverseDistanceSquared,  3,  0},
-};
-// clang-format on
+/// The methods that controls are fitted by, least squares first, in the library's order.
+std::vector<GeorefMethod> const& georefMethods();
 
+/// Whether a method meets every control.
 constexpr bool isExact(GeorefMethod const& method) {
-    return method.unknown == 0;
+    return method.method >= TransformMethodThinPlateSpline;
 }
 
 /// Throws UsageError for a text that names none.

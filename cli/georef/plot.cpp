@@ -16,13 +16,6 @@ constexpr double farthest = 60;                          // what the longest arr
 constexpr int cells = 10, steps = 6;                     // of the grid, and between two of its knots
 constexpr double barb = 7;                               // of an arrow's head
 
-using Map = CGeorefTransform;
-
-GEOREFPOINT mapped(Map& map, GEOREFPOINT point) {
-    map.Forward(&point, 1);
-    return point;
-}
-
 struct Box {
     GEOREFPOINT low{HUGE_VAL, HUGE_VAL}, high{-HUGE_VAL, -HUGE_VAL};
 
@@ -58,11 +51,11 @@ std::string timesText(double times) {
 }
 
 /// What the plot is drawn against: an affine map, or the map itself where the controls determine none.
-std::unique_ptr<Map> plainMap(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
+GeorefFit plainMap(GeorefMethod const& method, std::vector<ControlPoint> const& controls) {
     try {
-        return fitGeoref(georefMethods[1], controls);
+        return {georefMethods()[1], controls};
     } catch (ControlsError const&) {
-        return fitGeoref(method, controls);
+        return {method, controls};
     }
 }
 
@@ -91,7 +84,7 @@ private:
     GeorefMethod const& m_method;
     std::vector<ControlPoint> const& m_controls;
     Analysis const& m_analysis;
-    std::unique_ptr<Map> m_map, m_affine; // the second: what bends are counted from
+    GeorefFit m_map, m_affine; // the second: what bends are counted from
     Box m_source, m_target;
     double m_unit = 1;                        // a target unit on paper
     double m_arrowTimes = 1, m_bendTimes = 1; // larger than it is
@@ -100,7 +93,7 @@ private:
 };
 
 Plot::Plot(GeorefMethod const& method, std::vector<ControlPoint> const& controls, Analysis const& analysis)
-    : m_method(method), m_controls(controls), m_analysis(analysis), m_map(fitGeoref(method, controls)),
+    : m_method(method), m_controls(controls), m_analysis(analysis), m_map(method, controls),
       m_affine(plainMap(method, controls)) {
     for (auto const& c : controls) {
         m_source.add(c.source);
@@ -110,7 +103,7 @@ Plot::Plot(GeorefMethod const& method, std::vector<ControlPoint> const& controls
         throw ControlsError("the target points are all in one place: there is nothing to draw");
     for (int i = 0; i <= cells; ++i)
         for (int j = 0; j <= cells; ++j)
-            m_target.add(mapped(*m_affine, knot(i, j)));
+            m_target.add(m_affine(knot(i, j)));
     if (!std::isfinite(m_target.longest()))
         throw ControlsError("the target coordinates are too large to draw");
     m_unit = (width - 2 * margin) / m_target.longest();
@@ -129,7 +122,7 @@ GEOREFPOINT Plot::knot(double i, double j) const {
 
 /// Where a source point is drawn.
 GEOREFPOINT Plot::bent(GEOREFPOINT const& source) {
-    GEOREFPOINT const plain = mapped(*m_affine, source), real = mapped(*m_map, source);
+    GEOREFPOINT const plain = m_affine(source), real = m_map(source);
     return {plain.x + m_bendTimes * (real.x - plain.x), plain.y + m_bendTimes * (real.y - plain.y)};
 }
 
@@ -141,7 +134,7 @@ GEOREFPOINT Plot::offset(std::size_t i) {
         return {0, 0};
     auto others = m_controls;
     others.erase(others.begin() + static_cast<std::ptrdiff_t>(i));
-    GEOREFPOINT const there = mapped(*fitGeoref(m_method, others), m_controls[i].source);
+    GEOREFPOINT const there = GeorefFit(m_method, others)(m_controls[i].source);
     return {there.x - m_controls[i].target.x, there.y - m_controls[i].target.y};
 }
 
@@ -152,7 +145,7 @@ void Plot::chooseScales() {
                          isExact(m_method) ? m_analysis.residuals[i].left.value_or(0) : m_analysis.residuals[i].length);
     for (int i = 0; i <= cells; ++i)
         for (int j = 0; j <= cells; ++j) {
-            GEOREFPOINT const plain = mapped(*m_affine, knot(i, j)), real = mapped(*m_map, knot(i, j));
+            GEOREFPOINT const plain = m_affine(knot(i, j)), real = m_map(knot(i, j));
             bend = std::max(bend, std::hypot(real.x - plain.x, real.y - plain.y));
         }
     double const rounding = 1e-9 * m_target.longest();

@@ -1,6 +1,5 @@
 #include "cli/georef/report.h"
 
-#include "cli/georef/coefficients.h"
 #include "cli/text/output.h"
 
 #include <algorithm>
@@ -68,20 +67,19 @@ std::string titleWithLine(ControlPoint const& control) {
 
 /// The length that tells: left out where that could be made.
 std::string awayText(GeorefMethod const& method, Analysis const& analysis) {
-    Residual const& residual = analysis.worstResidual;
     std::string const by = analysis.judge == &method ? "" : " by " + std::string(analysis.judge->key);
-    return residual.left ? fixed(*residual.left) + " from where the other points put it" + by
-                         : fixed(residual.length) + " from where the fit puts it" + by;
+    return analysis.worstLeft ? fixed(*analysis.worstLeft) + " from where the other points put it" + by
+                              : fixed(analysis.worstLength) + " from where the fit puts it" + by;
 }
 
 /// Who tells that a point stands out, where it is not the method itself.
 void writeJudge(Output& output, GeorefMethod const& method, std::vector<ControlPoint> const& controls,
                 Analysis const& analysis) {
-    if (!canFindOutliers(method, controls.size()))
+    if (!analysis.hasLooked)
         output << "too many points to look for one that stands out\n";
-    else if (controls.size() < fewestToTell(method))
+    else if (controls.size() < analysis.fewestToTell)
         output << "too few points for " << method.key << " to tell whether one stands out: it needs "
-               << std::to_string(fewestToTell(method)) << (analysis.judge == &method ? "" : "; judged by affine")
+               << std::to_string(analysis.fewestToTell) << (analysis.judge == &method ? "" : "; judged by affine")
                << '\n';
 }
 
@@ -90,7 +88,7 @@ void writeMirrorHint(Output& output, std::vector<ControlPoint> const& controls, 
     auto mirrored = controls;
     for (auto& control : mirrored)
         control.source.y = -control.source.y;
-    double const rms = analyse(georefMethods.front(), mirrored).rms;
+    double const rms = analyse(georefMethods().front(), mirrored).rms;
     if (rms < analysis.rms / 10)
         output << "a similarity cannot mirror: with the source's y counted the other way the root mean square is "
                << fixed(rms) << '\n';
@@ -125,21 +123,21 @@ void writeGeorefFit(Output& output, GeorefMethod const& method, std::vector<Cont
 
 void writeGeorefComparison(Output& output, std::vector<ControlPoint> const& controls) {
     Table table{{"method", "mean", "rms", "left out mean", "rms", "worst", "left out", ""}, "lrrrrlrl", {}};
-    for (GeorefMethod const& method : georefMethods) {
+    for (GeorefMethod const& method : georefMethods()) {
         if (controls.size() < method.needed)
             continue;
         try {
             Analysis const analysis = analyse(method, controls);
             table.rows.push_back({std::string(method.key), fixed(analysis.mean), fixed(analysis.rms),
                                   fixedOrDash(analysis.leftMean), fixedOrDash(analysis.leftRms),
-                                  controls[analysis.worst].title(), fixedOrDash(analysis.worstResidual.left),
+                                  controls[analysis.worst].title(), fixedOrDash(analysis.worstLeft),
                                   std::string(analysis.outliers.empty() ? "" : "<-- stands out") +
                                       (analysis.judge == &method ? "" : " by affine")});
         } catch (ControlsError const&) { // the controls determine no such map
         }
     }
     if (table.rows.empty())
-        throw ControlsError(whyNoFit(georefMethods.front(), controls));
+        throw ControlsError(whyNoFit(georefMethods().front(), controls));
     table.write(output);
 }
 
