@@ -1,21 +1,12 @@
 #include "contender.h"
 
-#include "formulas/levels.h"
+#include "levels/level.h"
 
 #include <memory>
 #include <numbers>
 
 namespace ZrProj::bench {
 namespace {
-
-struct NamedLevel {
-    formulas::Level level;
-    char const* name;
-};
-constexpr NamedLevel levels[] = {{formulas::Level::scalar, "scalar"},
-                                 {formulas::Level::baseline, "baseline"},
-                                 {formulas::Level::avx2, "avx2"},
-                                 {formulas::Level::avx512, "avx512"}};
 
 Contender contenderOf(Case const& definition) {
     PROJDATA record = definition.record;
@@ -45,14 +36,14 @@ Contender contenderOf(DatumType datum) {
 /// One contender for each level that this machine has.
 template <class What> std::vector<Contender> atEachLevel(What const& what) {
     std::vector<Contender> contenders;
-    auto const before = formulas::levelInUse();
-    for (auto const& at : levels)
-        if (formulas::isAvailable(at.level)) {
-            formulas::useLevel(at.level);
+    auto const before = levels::levelInUse();
+    for (auto const level : levels::allLevels)
+        if (levels::isAvailable(level)) {
+            levels::useLevel(level);
             contenders.push_back(contenderOf(what));
-            contenders.back().name = at.name;
+            contenders.back().name = levels::nameOf(level);
         }
-    formulas::useLevel(before);
+    levels::useLevel(before);
     return contenders;
 }
 

@@ -1,4 +1,4 @@
-# zrproj_processor_levels(TARGET PREFIX SOURCES...): compiles formula sources once per processor level, each into the
+# zrproj_processor_levels(TARGET PREFIX SOURCES...): compiles arithmetic sources once per processor level, each into the
 # namespace of its level, as object libraries PREFIX-LEVEL, and hands the objects on to whatever links TARGET (an object
 # library's own objects are all that CMake takes of it).
 #

@@ -3,9 +3,11 @@
 #include "datum/catalogue.h"
 #include "datum/method_table.h"
 #include "datum/nadcon.h"
+#include "levels/level.h"
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <cstring>
 #include <optional>
 
@@ -48,13 +50,12 @@ End destinationEnd(DATUMXFORM const& request) {
     return catalogueEnd(twoWayDatumRow(request.Destination), true);
 }
 
-void prepareStep(Step& step, MethodSet const& methods, DatumType type, DATUM2WGS84 const& end) {
-    if (end.Method == DatumMethodMolodensky)
-        methods.molodensky(step, end);
-    else if (end.Method == DatumMethodBursaWolf)
-        methods.bursaWolf(step, end);
-    else if (end.Method == DatumMethodMRE)
-        methods.regression(step, type);
+/// Empty for a method that is not computed.
+Step stepOf(MethodSet const& methods, DatumType type, DATUM2WGS84 const& end) {
+    auto const row =
+        std::ranges::find(datumMethodTable, end.Method, &DatumMethodRow::method) - datumMethodTable.begin();
+    auto const make = methods.steps[row];
+    return make ? make(end, type) : Step{};
 }
 
 bool shiftByConus(DATUMPOINT* points, std::size_t count) {
@@ -64,44 +65,33 @@ bool shiftByPrvi(DATUMPOINT* points, std::size_t count) {
     return convertNadcon("prvi", points, count);
 }
 
-void run(Step const& step, Block& block) {
-    if (step.run)
-        step.run(step, block);
-}
-
-template <class Work> void forEachBlock(std::span<DATUMPOINT> points, Work const& work) {
-    while (!points.empty()) {
-        auto const count = std::min<std::size_t>(points.size(), blockPoints);
-        work(points.data(), static_cast<int>(count));
-        points = points.subspan(count);
-    }
+/// Whether a point was marked.
+template <std::size_t count>
+bool run(MethodSet const& methods, levels::Stage const (&stages)[count], std::span<DATUMPOINT> points) {
+    return methods.driver(stages, count, levels::pointsOf(points.data(), points.size()), {}).lost;
 }
 
 /// A grid takes many points at once, since each time it reads files: turns are kept until it has shifted them.
 constexpr std::size_t gridPoints = 16384;
 
+/// What the longitude is cut by, in full turns.
+signed char turnOf(double lon) {
+    double const rest = std::fmod(lon, 360.0);
+    return rest > 180 ? 1 : rest < -180 ? -1 : 0;
+}
+
 bool convertByGrid(Conversion const& c, std::span<DATUMPOINT> points, bool& marked) {
     auto const& methods = *c.methods;
-    std::array<signed char, gridPoints> turns; // in full turns
-    Block block;
-    auto turn = turns.begin();
-    forEachBlock(points, [&](DATUMPOINT* p, int count) {
-        methods.read(block, p, count);
-        methods.cut(block);
-        turn = std::transform(block.turn, block.turn + count, turn, [](double t) { return t / 360; });
-        marked |= methods.write(block, p);
-    });
+    std::array<signed char, gridPoints> turns;
+    std::ranges::transform(points, turns.begin(), turnOf, &DATUMPOINT::x);
+    marked |= run(methods, {{methods.cut, nullptr}}, points);
     if (!c.grid(points.data(), points.size()))
         return false;
-    turn = turns.begin();
-    forEachBlock(points, [&](DATUMPOINT* p, int count) {
-        methods.read(block, p, count);
-        run(c.destination, block);
-        std::transform(turn, turn + count, block.turn, [](signed char t) { return 360.0 * t; });
-        turn += count;
-        methods.restore(block);
-        marked |= methods.write(block, p);
+    marked |= run(methods, {c.destination.stage()}, points);
+    std::ranges::transform(points, turns, points.begin(), [](DATUMPOINT p, signed char turn) {
+        return DATUMPOINT{p.x + 360.0 * turn, p.y};
     });
+    marked |= run(methods, {{methods.restore, nullptr}}, points);
     return true;
 }
 
@@ -113,9 +103,9 @@ Conversion prepareConversion(DATUMXFORM const& request) noexcept {
     if (!source || !destination)
         return result;
     result.isDefined = true;
-    result.methods = &methodsInUse();
-    prepareStep(result.source, *result.methods, request.Source, *source);
-    prepareStep(result.destination, *result.methods, request.Destination, *destination);
+    result.methods = &levels::operationsInUse<MethodSet>();
+    result.source = stepOf(*result.methods, request.Source, *source);
+    result.destination = stepOf(*result.methods, request.Destination, *destination);
     if (source->Method == DatumMethodNadcon)
         result.grid = request.Source == DatumTypeNad1927ConusNadcon ? shiftByConus : shiftByPrvi;
     return result;
@@ -128,15 +118,9 @@ bool convert(Conversion const& c, std::span<DATUMPOINT> points, bool& marked) {
                 return false;
         return true;
     }
-    Block block;
-    forEachBlock(points, [&](DATUMPOINT* p, int count) {
-        c.methods->read(block, p, count);
-        c.methods->cut(block);
-        run(c.source, block);
-        run(c.destination, block);
-        c.methods->restore(block);
-        marked |= c.methods->write(block, p);
-    });
+    auto const& methods = *c.methods;
+    marked |= run(
+        methods, {{methods.cut, nullptr}, c.source.stage(), c.destination.stage(), {methods.restore, nullptr}}, points);
     return true;
 }
 

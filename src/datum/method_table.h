@@ -26,6 +26,8 @@ struct DatumMethodRow {
     DatumNeeds needs;
     bool inverts; // from WGS 84 as well
 
+    /// Whether a source in kernels/ computes it.
+    constexpr bool isComputed() const { return needs != DatumNeeds::Nothing && needs != DatumNeeds::Grid; }
     constexpr bool hasShifts() const { return needs == DatumNeeds::Shifts || hasRotations(); }
     constexpr bool hasRotations() const { return needs == DatumNeeds::Rotations; }
     /// Whether a caller's own record says all that the method needs.

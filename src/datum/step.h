@@ -1,6 +1,9 @@
-// What a conversion of datums is made of, the same for every processor level: a block of points in the first-level
-// cache, and the steps that run over it.
+// What a conversion of datums is made of, the same for every processor level: stages between longitudes and latitudes
+// in degrees.
 #pragma once
+
+#include "datum/method_table.h"
+#include "levels/stage.h"
 
 #include <zrproj/datum.h>
 
@@ -8,42 +11,28 @@
 
 namespace ZrProj::datum {
 
-inline constexpr int blockPoints = 256;
-
-/// Up to blockPoints points, in degrees. A marked point's coordinates are NaN, which every step hands on.
-struct Block {
-    alignas(64) double x[blockPoints], y[blockPoints];
-    double turn[blockPoints]; // to be added to the longitude in the end: -360, 0 or 360
-    int count;
-};
-
-/// A method made ready for one end of a conversion.
+/// A method made ready for one end of a conversion; without code the points stay as they are.
 struct Step {
-    using Run = void (*)(Step const& step, Block& block) noexcept;
+    levels::StageCode code;
+    alignas(double) std::byte constants[128];
 
-    Run run = nullptr;                        // null: the points stay as they are
-    alignas(double) std::byte constants[128]; // read by `run` only
+    /// Lives no longer than the step, and only while that stays where it is.
+    levels::Stage stage() const { return {code, constants}; }
 };
 
 /// The operations of one processor level.
 struct MethodSet {
-    /// Takes up to blockPoints points; those with an infinite, NaN or DBL_MAX coordinate as marked ones.
-    void (*read)(Block& block, DATUMPOINT const* points, int count) noexcept;
-    /// Brings longitudes into -180 to 180 and latitudes into -90 to 90, and notes the turn.
-    void (*cut)(Block& block) noexcept;
-    /// Undoes the turn and brings the coordinates into range again.
-    void (*restore)(Block& block) noexcept;
-    /// Gives the points back, DBL_MAX for what is marked or not finite. Whether any was.
-    bool (*write)(Block const& block, DATUMPOINT* points) noexcept;
+    levels::Convert* driver;
 
-    /// What the record says, in the direction that it says. The record's figures are those of its ellipsoid.
-    void (*molodensky)(Step& step, DATUM2WGS84 const& record) noexcept;
-    void (*bursaWolf)(Step& step, DATUM2WGS84 const& record) noexcept;
-    /// The regression equations of a datum that has them.
-    void (*regression)(Step& step, DatumType type) noexcept;
+    /// Brings longitudes into -180 to 180 and latitudes into -90 to 90, and keeps what was taken off.
+    levels::StageCode cut;
+    /// Adds it again and brings the coordinates into range.
+    levels::StageCode restore;
+
+    /// What the record says, in the direction that it says, by each row of datumMethodTable; null where points are not
+    /// shifted by a formula. The record's figures are those of its ellipsoid; equations are those of the datum.
+    using MakeStep = Step (*)(DATUM2WGS84 const& record, DatumType type) noexcept;
+    MakeStep steps[datumMethodTable.size()];
 };
-
-/// The operations at the level in use.
-MethodSet const& methodsInUse() noexcept;
 
 } // namespace ZrProj::datum

@@ -13,7 +13,7 @@ struct zrproj_analysis {
 
 namespace ZrProj::Door {
 
-formulas::Polynomial affineMap(std::span<double const, 6> coefficients) {
+georef::Polynomial affineMap(std::span<double const, 6> coefficients) {
     auto const& c = coefficients;
     return {.terms = 3, .centre = {}, .x = {c[2], c[0], c[1]}, .y = {c[5], c[3], c[4]}};
 }

@@ -16,7 +16,7 @@ struct zrproj_fit {
 namespace ZrProj::Door {
 
 /// The map of six coefficients.
-formulas::Polynomial affineMap(std::span<double const, 6> coefficients);
+georef::Polynomial affineMap(std::span<double const, 6> coefficients);
 
 /// `count` pairs of a caller's array.
 std::vector<GEOREFPOINT> pairsOf(double const* pairs, std::size_t count);

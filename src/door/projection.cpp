@@ -47,15 +47,15 @@ Projection::Projection(Handle handle, PROJDATA const& definition)
     if (!m_isSeries || !converter().forward)
         return;
     std::array poles{PROJPOINT{m_meridian, -90}, PROJPOINT{m_meridian, 90}};
-    run(converter().forward, poles);
+    run(&formulas::Converter::forward, poles);
     m_south = poles[0].y - poleTolerance * m_radius;
     m_north = poles[1].y + poleTolerance * m_radius;
     m_middle = poles[0].x;
 }
 
 /// The one place where the converters are called.
-void Projection::run(formulas::Converter::Run direction, std::span<PROJPOINT> points) const noexcept {
-    direction(converter(), points.data(), static_cast<int>(points.size()));
+void Projection::run(formulas::Converter::Direction direction, std::span<PROJPOINT> points) const noexcept {
+    converter().convert(direction, levels::pointsOf(points.data(), points.size()), {.keepsMarked = true});
 }
 
 /// The longitude within 180 degrees of the central one.
@@ -81,7 +81,7 @@ void Projection::forward(std::span<PROJPOINT> points, std::span<Reason> reasons)
         if (!hasResult(reasons[i]))
             points[i] = mark;
     }
-    run(converter().forward, points);
+    run(&formulas::Converter::forward, points);
     for (std::size_t i = 0; i < points.size(); ++i)
         if (hasResult(reasons[i]) && isMarked(points[i]))
             reasons[i] = ZRPROJ_NOT_SHOWN;
@@ -104,7 +104,7 @@ Reason Projection::reasonOfResult(PROJPOINT const& map, PROJPOINT const& place) 
     if (isSurelyGood(map))
         return range;
     PROJPOINT back = place;
-    run(converter().forward, {&back, 1});
+    run(&formulas::Converter::forward, {&back, 1});
     double const miss = std::fabs(back.x - map.x) + std::fabs(back.y - map.y);
     double const limit = range == ZRPROJ_FAR ? farMiss : nearMiss;
     return miss < limit * m_radius ? range : Reason{ZRPROJ_OFF_THE_MAP};
@@ -120,7 +120,7 @@ void Projection::inverse(std::span<PROJPOINT> points, std::span<Reason> reasons)
             points[i] = mark;
     if (m_isSeries)
         std::ranges::copy(points, map.begin());
-    run(converter().inverse, points);
+    run(&formulas::Converter::inverse, points);
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (!hasResult(reasons[i]))
             continue;

@@ -43,7 +43,7 @@ private:
     Projection(Handle handle, PROJDATA const& definition);
 
     formulas::Converter const& converter() const { return ProjectionBlock::of(m_handle.get()).converter; }
-    void run(formulas::Converter::Run direction, std::span<PROJPOINT> points) const noexcept;
+    void run(formulas::Converter::Direction direction, std::span<PROJPOINT> points) const noexcept;
     double beside(double longitude) const noexcept;
     Reason rangeOf(double longitude) const noexcept;
     bool isSurelyGood(PROJPOINT const& map) const noexcept;

@@ -1,4 +1,4 @@
-#include "formulas/auxiliary_latitude.h"
+#include "formulas/ellipsoid.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
@@ -146,6 +146,16 @@ double authalicQ(double flattening) {
         return 2;
     double const e = eccentricity(flattening);
     return 1 + (1 - e * e) * arcTanh(e) / e;
+}
+
+PowerSeries eccentricArtanh(double flattening) {
+    double const e2 = flattening * (2 - flattening);
+    PowerSeries series;
+    for (double power = e2; power > 1e-18 && series.terms < PowerSeries::maxTerms; power *= e2) {
+        series.c[series.terms] = power / (2 * series.terms + 1);
+        ++series.terms;
+    }
+    return series;
 }
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

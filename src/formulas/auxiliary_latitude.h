@@ -7,7 +7,7 @@
 // Accuracy  6e-16 rad either way (measured by the tests), for flattenings up to 0.2. A sphere has no terms.
 #pragma once
 
-#include "formulas/elementary.h"
+#include "formulas/points.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 

@@ -15,7 +15,7 @@
 // alpha_k a polynomial in s of degree 2 k - 1 (alpha_0 = 1), beta_k one of degree 2 k.
 #pragma once
 
-#include "formulas/meridian.h"
+#include "formulas/ellipsoid.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 

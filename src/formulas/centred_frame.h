@@ -4,8 +4,7 @@
 #pragma once
 
 #include "formulas/converter.h"
-#include "formulas/elementary.h"
-#include "formulas/outline.h"
+#include "formulas/points.h"
 
 #include <zrproj/projection.h>
 

@@ -1,7 +1,7 @@
 // Complex numbers over any number type, for conformal maps that are polynomials.
 #pragma once
 
-#include "formulas/number.h"
+#include "formulas/points.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 

@@ -5,8 +5,7 @@
 // image of one about the north pole. Lengths are in units of the semi-major axis.
 #pragma once
 
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/points.h"
 
 #include "formulas/parameters.h"
 

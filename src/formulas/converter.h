@@ -5,29 +5,35 @@
 #include "formulas/map_edges.h"
 #include "formulas/method.h"
 #include "formulas/parameters.h"
+#include "levels/level.h"
+#include "levels/stage.h"
 
 #include <zrproj/projection.h>
 
 #include <cstddef>
+#include <optional>
 
 namespace ZrProj::formulas {
 
-/// What became of an array of points.
-struct Outcome {
-    bool unplottable = false; // at least one point was marked
-    bool failed = false;      // at least one point raised an arithmetic exception
-};
-
-/// A projection made ready: the formula's constants and the functions that run it over arrays, in place, between
-/// degrees and map coordinates; null where the parameters define no map.
+/// A projection made ready: the formula's constants, and its two directions as stages between degrees and map
+/// coordinates, whose code is empty where the parameters define no map.
 struct Converter {
-    using Run = Outcome (*)(Converter const& converter, PROJPOINT* points, int count) noexcept;
+    using Direction = levels::StageCode Converter::*;
 
-    Run forward = nullptr;
-    Run inverse = nullptr;
+    levels::StageCode forward, inverse;
+    levels::Convert* driver = nullptr; // at the level of the stages
     double xOrg = 0, yOrg = 0, scale = 1;
     double fullTurn = 360; // what a longitude of 360 degrees comes back as: where that is an edge, just inside
-    alignas(std::max_align_t) std::byte constants[3072]; // read by the two functions only
+    alignas(std::max_align_t) std::byte constants[3072];
+
+    /// A stage lives no longer than the converter, and only while that stays where it is.
+    levels::Stage stageOf(Direction direction) const { return {this->*direction, this}; }
+
+    /// Where there is a map.
+    levels::Outcome convert(Direction direction, levels::Points const& points, levels::Marking const& marking) const {
+        auto const stage = stageOf(direction);
+        return driver(&stage, 1, points, marking);
+    }
 };
 
 /// The operations of a formula. All but `prepare` take points in degrees.
@@ -43,5 +49,12 @@ struct Formula {
 struct FormulaSet {
     Formula (*byMethod[methodCount])() noexcept;
 };
+
+/// A formula at the level in use; nothing for Method::none.
+inline std::optional<Formula> formulaOf(Method method) noexcept {
+    if (method == Method::none)
+        return {};
+    return levels::operationsInUse<FormulaSet>().byMethod[static_cast<std::size_t>(method)]();
+}
 
 } // namespace ZrProj::formulas

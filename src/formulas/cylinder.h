@@ -1,8 +1,7 @@
 // The frame of the cylindrical maps: a rectangle, the longitudes spread evenly over its width.
 #pragma once
 
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/points.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 

@@ -2,9 +2,9 @@
 // lines and areas are cut at. Degrees, but where radians are named.
 #pragma once
 
-#include "formulas/elementary.h"
 #include "formulas/map_edges.h"
 #include "formulas/parameters.h"
+#include "formulas/points.h"
 
 #include <zrproj/projection.h>
 

@@ -14,9 +14,9 @@
 #pragma once
 
 #include "formulas/centred_frame.h"
-#include "formulas/isometric_latitude.h"
-#include "formulas/longitude.h"
+#include "formulas/ellipsoid.h"
 #include "formulas/oblique_cylinder.h"
+#include "formulas/points.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 

@@ -14,7 +14,7 @@
 // epsilon, k      expansion parameters, (16) and (9)
 #pragma once
 
-#include "formulas/outline.h"
+#include "formulas/points.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 

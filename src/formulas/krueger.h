@@ -14,8 +14,8 @@
 #pragma once
 
 #include "formulas/auxiliary_latitude.h"
+#include "formulas/ellipsoid.h"
 #include "formulas/krueger_table.h"
-#include "formulas/power_series.h"
 #include "formulas/transverse_sphere.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

@@ -9,7 +9,7 @@
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/centred_frame.h"
 #include "formulas/edges.h"
-#include "formulas/outline.h"
+#include "formulas/points.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 

@@ -11,9 +11,9 @@
 // m             radius of a parallel          n   cone constant
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/cone.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/power_series.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

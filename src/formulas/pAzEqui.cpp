@@ -12,11 +12,11 @@
 // phi1, lambda0   the centre          lambda   longitude from it
 // alpha1          azimuth of a place from the centre          rho   its distance
 #include "formulas/centred_frame.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
+#include "formulas/geodesic.h"
 #include "formulas/geodesic_course.h"
-#include "formulas/longitude.h"
-#include "formulas/meridian.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

@@ -10,9 +10,9 @@
 // phi, lambda   latitude, longitude from the central meridian          phi1   standard parallel
 // M             meridian distance          m   radius of a parallel          rho, E   polar coordinates, (19-8), (19-9)
 #include "formulas/cone.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/meridian.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -7,9 +7,8 @@
 //
 // phi0, lambda0   the origin      X   Cassini's northing from it      rho, nu   radii of curvature at phi
 #include "formulas/cassini_series.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

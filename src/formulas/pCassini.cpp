@@ -14,10 +14,9 @@
 // D, beta1        latitude and reduced latitude of the foot: the place on the central meridian as far north as the
 //                 point, beyond 90 degrees on the far side of a pole
 #include "formulas/cassini_series.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/geodesic.h"
-#include "formulas/longitude.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

@@ -8,10 +8,8 @@
 //
 // phi0, lambda0   the origin          h   the plane's height          rho, nu   radii of curvature, at phi0 with a 0
 // A, B            as in the source, lengths in units of the semi-major axis          G   1 + h / rho midway to phi
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -9,8 +9,8 @@
 // beta      authalic latitude
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/cylinder.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -9,9 +9,8 @@
 // beta      authalic latitude          theta   the parameter, sin theta = sqrt(3) / 2 sin beta
 // R         the authalic sphere's radius
 #include "formulas/auxiliary_latitude.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
+#include "formulas/formula.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

@@ -9,9 +9,9 @@
 // phi, lambda   latitude, longitude          phi0, phi1, phi2   latitude of origin, standard parallels
 // M             meridian distance          m   radius of a parallel          n   cone constant
 #include "formulas/cone.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/meridian.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

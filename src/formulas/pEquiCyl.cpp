@@ -7,9 +7,9 @@
 //
 // phi, lambda   latitude, longitude          phi1   standard parallel
 #include "formulas/cylinder.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/meridian.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

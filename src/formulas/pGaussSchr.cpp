@@ -8,8 +8,8 @@
 //           gauss_sphere.h.
 //
 // phi0, lambda0   the origin          chi0   its latitude on the sphere          R   the sphere's radius
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/gauss_sphere.h"
 #include "formulas/transverse_sphere.h"
 

@@ -7,10 +7,8 @@
 //
 // phi1, lambda0   the centre      c   distance from it
 #include "formulas/centred_frame.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

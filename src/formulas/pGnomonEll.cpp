@@ -8,10 +8,9 @@
 // phi1, lambda0   the centre          alpha1   azimuth of a place from there
 // m12, M12        reduced length and scale of the geodesic, over the semi-minor axis; rho = m12 / M12
 #include "formulas/centred_frame.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/geodesic_course.h"
-#include "formulas/longitude.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

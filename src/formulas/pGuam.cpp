@@ -7,10 +7,9 @@
 // Domain    longitudes within 10 degrees of the centre, latitudes up to 80 degrees.
 //
 // phi1, lambda0   the centre          M, M1   meridian distance of phi, of phi1          m   length of a radian of phi
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/meridian.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

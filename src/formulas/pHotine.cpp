@@ -15,9 +15,11 @@
 // gammac          the angle by which u and v are turned to x and y: alpha, or what the system says (IOGP 2019, 9812, 9815)
 // B, E            of the sphere that carries the line, see gauss_sphere.h
 // lambda0, gamma0 where the line crosses the equator of that sphere, and its azimuth there; D is that of (9-14)
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 #include "formulas/gauss_sphere.h"
+#include "formulas/oblique_cylinder.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

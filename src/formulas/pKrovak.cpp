@@ -14,8 +14,8 @@
 // alphaC          co-latitude of the axis on the sphere          phiP, kP   pseudo standard parallel, scale on it
 // T, D            latitude and longitude about the axis          n          cone constant
 // r, theta        polar coordinates about the apex
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/gauss_sphere.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

@@ -11,8 +11,8 @@
 // phi0, lambda0   the centre          alphac   azimuth of the line there          R   radius of Gauss's sphere
 // H, G            point on the transverse Mercator map from the centre, northing first; factor of its cube
 #include "formulas/complex.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/gauss_sphere.h"
 #include "formulas/transverse_sphere.h"
 

@@ -9,10 +9,8 @@
 // phi1, lambda0   the centre      beta   authalic latitude      Rq   radius of the authalic sphere      m1   (14-15)
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/centred_frame.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

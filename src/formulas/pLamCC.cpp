@@ -11,9 +11,9 @@
 // psi           isometric latitude, log(1/t) of the source          m   radius of a parallel
 // n             cone constant          rho, theta   polar coordinates about the apex
 #include "formulas/cone.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/isometric_latitude.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

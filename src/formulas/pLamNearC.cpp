@@ -10,9 +10,9 @@
 // m, s0           meridian distance from phi0, of phi0           M           what m is on the map, m + A m^3 over k0
 // A               1 / (6 rho0 nu0)
 #include "formulas/cone.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/meridian.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -7,9 +7,9 @@
 //
 // phi, lambda   latitude, longitude          psi   isometric latitude
 #include "formulas/cylinder.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/isometric_latitude.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

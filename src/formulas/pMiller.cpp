@@ -7,8 +7,8 @@
 // phi, lambda   latitude, longitude
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/cylinder.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -7,9 +7,8 @@
 // Domain    the globe, as a sphere of the semi-major axis; the inverse up to the ellipse.
 //
 // phi, lambda   latitude, longitude from the central meridian          theta   parametric latitude
-#include "formulas/arc_plus_sine.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

@@ -13,10 +13,8 @@
 // psi, A          isometric latitude from the origin, a real polynomial of latitude with the coefficients A
 // z, B            northing plus i easting over the semi-major axis, a complex polynomial of theta
 #include "formulas/complex.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -9,9 +9,8 @@
 //
 // phi, lambda   latitude, longitude        phip, lambdap   of the line's northern pole
 // x             along the line, from where it crosses the equator eastwards        k0   scale on the line
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
+#include "formulas/formula.h"
 #include "formulas/oblique_cylinder.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

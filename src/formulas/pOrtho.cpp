@@ -11,10 +11,8 @@
 // X, Y, Z         geocentric coordinates over a, X in the centre's meridian
 // U               height above the plane of the map through the ellipsoid's centre, over a
 #include "formulas/centred_frame.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

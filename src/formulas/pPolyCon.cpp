@@ -8,10 +8,9 @@
 //
 // phi, lambda   latitude, longitude from the central meridian          M, M0   meridian distance of phi, of the origin
 // m             radius of a parallel, N cos phi          E   lambda sin phi, the angle about the centre of the arc
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/meridian.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

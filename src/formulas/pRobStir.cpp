@@ -5,8 +5,8 @@
 // Departs   the fraction counts from the parallel below everywhere, so that the map is continuous.
 // Accuracy  5e-8 m, beside the poles 1e-6 m; round trip 1e-12 degrees or 2e-8 m.
 // Domain    the globe, as a sphere of the semi-major axis; the inverse up to the outline.
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/robinson.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

@@ -5,8 +5,8 @@
 // Departs   one cubic spline through the table mirrored to -90..90 degrees, third derivative continuous at +-85.
 // Accuracy  5e-8 m, beside the poles 1e-6 m; round trip 1e-12 degrees or 2e-8 m.
 // Domain    the globe, as a sphere of the semi-major axis; the inverse up to the outline.
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/robinson.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

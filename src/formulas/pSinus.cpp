@@ -6,10 +6,9 @@
 // Domain    the globe.
 //
 // phi, lambda   latitude, longitude          M   meridian distance          m   radius of a parallel
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/meridian.h"
+#include "formulas/ellipsoid.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -10,10 +10,8 @@
 // phi1, lambda0   the centre      chi   conformal latitude      m1   (14-15)      k0   scale at the centre
 #include "formulas/auxiliary_latitude.h"
 #include "formulas/centred_frame.h"
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

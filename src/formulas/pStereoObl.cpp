@@ -8,8 +8,8 @@
 // Domain    all but the antipode of the centre, and the strip of gauss_sphere.h.
 //
 // phi0, lambda0   the centre      chi0   its latitude on the sphere      R   the sphere's radius      k0   scale there
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/gauss_sphere.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

@@ -11,9 +11,8 @@
 // phi, lambda   latitude, longitude          e2, ep2   eccentricity squared, e'^2 = e2 / (1 - e2)
 // M, M0         meridian distance of phi, of the latitude of origin          k0   scale on the central meridian
 // N, R1         radius of curvature in the prime vertical, in the meridian   T, C, A, D   as in the source
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/elementary.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -2,16 +2,16 @@
 // the well-known series of pTMerc.cpp lose millimetres, then metres; these do not.
 //
 // Source    Karney (2011), see krueger.h.
-// Accuracy  3e-9 m as far as 6500 km east and west, 6e-8 m at the end of the map, from what the series omits; round trip
+// Accuracy  3e-9 m as far as 6500 km east and west, 6e-8 m at the end of the map, from what the series omits; round
+// trip
 //           1e-12 degrees or 2e-8 m.
 // Domain    as far as 6800 km from the central meridian, on both sides of the globe: northings go on beyond the poles.
 //           On a sphere, all but the two points that lie a quarter turn away on the equator. Flattenings up to 1/50.
 //
 // xi, eta   northing from the equator and easting over the rectifying sphere's radius
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/krueger.h"
-#include "formulas/longitude.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

@@ -7,10 +7,9 @@
 // Domain    the globe; a map point outside its zone is nowhere. Zones of up to 30 degrees.
 //
 // lambdaI, W   western limit of zone 1 and width of a zone          Z   the zone's number, 1 to 2 pi / W
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/krueger.h"
-#include "formulas/longitude.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

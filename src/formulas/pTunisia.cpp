@@ -6,10 +6,8 @@
 // Domain    the globe.
 //
 // phi0, lambda0   the origin          A   grads a kilometre to the north, different on both sides of the origin
-#include "formulas/driver.h"
 #include "formulas/edges.h"
-#include "formulas/longitude.h"
-#include "formulas/outline.h"
+#include "formulas/formula.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {

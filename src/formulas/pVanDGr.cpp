@@ -9,8 +9,8 @@
 //
 // phi, lambda   latitude, longitude from the central meridian         s, u   |phi| / 90 degrees, |lambda| / 180 degrees
 // rho, alpha    modulus and argument of w, tan(alpha / 2) = u; the south is mirrored
-#include "formulas/driver.h"
 #include "formulas/edges.h"
+#include "formulas/formula.h"
 #include "formulas/world.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {

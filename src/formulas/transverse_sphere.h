@@ -9,7 +9,7 @@
 // xi, eta       northing from the equator, -pi to pi; easting
 #pragma once
 
-#include "formulas/outline.h"
+#include "formulas/points.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 

@@ -75,7 +75,7 @@ void countFromZero(Powers& c, double centre) {
             c[i] -= centre * c[i + 1];
 }
 
-Grid expanded(formulas::Polynomial const& map, double const (&coefficients)[10]) {
+Grid expanded(georef::Polynomial const& map, double const (&coefficients)[10]) {
     Grid grid{};
     auto const terms = termsOf(map.terms);
     for (std::size_t k = 0; k < terms.size(); ++k)
@@ -96,11 +96,11 @@ Grid expanded(formulas::Polynomial const& map, double const (&coefficients)[10])
 } // namespace
 
 void GeorefMap::map(std::span<GEOREFPOINT> points) const noexcept {
-    auto const& kernels = formulas::georefKernels();
+    auto const& kernels = georef::kernels();
     if (auto const* const fitted = polynomial())
-        kernels.mapByPolynomial(*fitted, points.data(), points.size());
+        kernels.mapByPolynomial(*fitted, levels::pointsOf(points.data(), points.size()), {});
     else
-        kernels.mapByWarp(std::get<FittedWarp>(m_map).warp, points.data(), points.size());
+        kernels.mapByWarp(std::get<FittedWarp>(m_map).warp, levels::pointsOf(points.data(), points.size()), {});
 }
 
 bool areTooMany(TransformMethod method, std::size_t controls) {

@@ -16,7 +16,7 @@ namespace ZrProj {
 /// A map of the plane, ready to use. Immutable.
 class GeorefMap {
 public:
-    explicit GeorefMap(formulas::Polynomial const& polynomial) : m_map(polynomial) {}
+    explicit GeorefMap(georef::Polynomial const& polynomial) : m_map(polynomial) {}
     explicit GeorefMap(FittedWarp warp) : m_map(std::move(warp)) {}
 
     /// Points in place, as RefForward maps them: marked ones stay so, and results that are not finite become so.
@@ -27,10 +27,10 @@ public:
     }
 
     /// Null for a warp.
-    formulas::Polynomial const* polynomial() const { return std::get_if<formulas::Polynomial>(&m_map); }
+    georef::Polynomial const* polynomial() const { return std::get_if<georef::Polynomial>(&m_map); }
 
 private:
-    std::variant<formulas::Polynomial, FittedWarp> m_map;
+    std::variant<georef::Polynomial, FittedWarp> m_map;
 };
 
 /// Nothing where the controls determine no such map (whyNoFit), and for method 5, which has none. May run out of

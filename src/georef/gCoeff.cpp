@@ -4,11 +4,11 @@
 
 namespace ZrProj {
 
-formulas::Polynomial coefficientMap(GEOREF const& georef) noexcept {
+georef::Polynomial coefficientMap(GEOREF const& georef) noexcept {
     return {.terms = 3, .centre = {}, .x = {georef.C, georef.A, georef.B}, .y = {georef.F, georef.D, georef.E}};
 }
 
-bool setCoefficients(GEOREF& georef, formulas::Polynomial const& map) noexcept {
+bool setCoefficients(GEOREF& georef, georef::Polynomial const& map) noexcept {
     auto const atOrigin = [&](double const(&c)[10]) { return c[0] - c[1] * map.centre.x - c[2] * map.centre.y; };
     double const C = atOrigin(map.x), F = atOrigin(map.y);
     if (!std::isfinite(C) || !std::isfinite(F))

@@ -25,7 +25,7 @@ GEOREFPOINT centroid(std::span<GEOREFPOINT const> points) noexcept {
 
 } // namespace
 
-formulas::Polynomial fitHelmert(Controls const& controls) noexcept {
+georef::Polynomial fitHelmert(Controls const& controls) noexcept {
     if (controls.size() < 2)
         AssertFailed(".\\gHelmert.cpp", __LINE__);
     auto const from = centroid(controls.source), to = centroid(controls.target);

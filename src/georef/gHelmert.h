@@ -2,12 +2,12 @@
 #pragma once
 
 #include "georef/controls.h"
-#include "georef/kernels/kernel_set.h"
+#include "georef/kernels.h"
 
 namespace ZrProj {
 
 /// Fits X = a x - b y + c and Y = b x + a y + d to the controls by least squares. Where the controls are coincident, or
 /// fewer than two, which raises an assertion, no scale can be told and the coefficients are NaN.
-formulas::Polynomial fitHelmert(Controls const& controls) noexcept;
+georef::Polynomial fitHelmert(Controls const& controls) noexcept;
 
 } // namespace ZrProj

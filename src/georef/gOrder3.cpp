@@ -26,7 +26,7 @@ Matrix termMatrix(std::span<Term const> terms, std::span<GEOREFPOINT const> poin
 
 } // namespace
 
-std::optional<formulas::Polynomial> fitPolynomial(int terms, Controls const& controls) {
+std::optional<georef::Polynomial> fitPolynomial(int terms, Controls const& controls) {
     auto const exponents = termsOf(terms);
     if (controls.size() < exponents.size()) {
         AssertFailed(".\\gOrder3.cpp", __LINE__);
@@ -46,7 +46,7 @@ std::optional<formulas::Polynomial> fitPolynomial(int terms, Controls const& con
         result[0] += to.centre.*coordinate;
         return std::ranges::all_of(result, [](double c) { return std::isfinite(c); });
     };
-    formulas::Polynomial map{.terms = terms, .centre = from.centre};
+    georef::Polynomial map{.terms = terms, .centre = from.centre};
     if (!fit(&GEOREFPOINT::x, map.x) || !fit(&GEOREFPOINT::y, map.y))
         return std::nullopt;
     return map;

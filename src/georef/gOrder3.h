@@ -2,7 +2,7 @@
 #pragma once
 
 #include "georef/controls.h"
-#include "georef/kernels/kernel_set.h"
+#include "georef/kernels.h"
 
 #include <optional>
 
@@ -11,6 +11,6 @@ namespace ZrProj {
 /// Fits a polynomial of 3, 4, 6 or 10 terms to the controls by least squares; with as many controls as terms it meets
 /// them. Returns nothing where the controls do not determine the terms, and nothing, with an assertion, for too few of
 /// them. Throws when memory runs out.
-std::optional<formulas::Polynomial> fitPolynomial(int terms, Controls const& controls);
+std::optional<georef::Polynomial> fitPolynomial(int terms, Controls const& controls);
 
 } // namespace ZrProj

@@ -1,7 +1,7 @@
 // What a georeference system is: the address of the record inside a block of memory that holds more.
 #pragma once
 
-#include "georef/kernels/kernel_set.h"
+#include "georef/kernels.h"
 
 #include <atomic>
 #include <cstddef>
@@ -13,7 +13,7 @@ namespace ZrProj {
 struct GeorefBlock {
     std::atomic<int> owners{1};
     std::vector<GEOREFPOINT> source, target;
-    formulas::Polynomial polynomial; // the map of methods 0 to 5
+    georef::Polynomial polynomial;   // the map of methods 0 to 5
     CImageRegistration registration; // the map of methods 6 to 11
     GEOREF record{};
 

@@ -17,10 +17,10 @@ double dot(double const* a, double const* b, std::size_t count) {
 
 } // namespace
 
-SplineEquations::SplineEquations(formulas::Warp const& warp, Factorisation const& affine, std::vector<double> matrix)
+SplineEquations::SplineEquations(georef::Warp const& warp, Factorisation const& affine, std::vector<double> matrix)
     : m_affine(&affine), m_count(warp.controls), m_values(std::move(matrix)) {
     for (std::size_t i = 0; i < m_count; ++i)
-        formulas::georefKernels().basisRow(warp, i, m_values.data() + i * m_count);
+        georef::kernels().basisRow(warp, i, m_values.data() + i * m_count);
     for (std::size_t i = 0; i < affine.reflections(); ++i)
         reflectBothSides(affine.reflector(i), i);
 }
@@ -42,7 +42,7 @@ void SplineEquations::reflectBothSides(std::span<double const> reflector, std::s
     }
 }
 
-formulas::SymmetricMatrix SplineEquations::trailingBlock() {
+georef::SymmetricMatrix SplineEquations::trailingBlock() {
     return {m_values.data() + affineTerms * (m_count + 1), m_count - affineTerms, m_count};
 }
 
@@ -52,10 +52,10 @@ bool SplineEquations::factorise() {
     for (std::size_t i = 0; i < matrix.size; ++i)
         largest = std::max(largest, matrix.row(i)[i]);
     double const leastPivot = 4 * std::numeric_limits<double>::epsilon() * largest;
-    return formulas::georefKernels().factorise(matrix, leastPivot);
+    return georef::kernels().factorise(matrix, leastPivot);
 }
 
-std::optional<SplineEquations> SplineEquations::of(formulas::Warp const& warp, Factorisation const& affine,
+std::optional<SplineEquations> SplineEquations::of(georef::Warp const& warp, Factorisation const& affine,
                                                    std::vector<double> matrix) {
     SplineEquations result(warp, affine, std::move(matrix));
     if (!result.factorise())

@@ -11,7 +11,7 @@
 //           Approximation, chapters 6 and 8, for the definiteness.
 #pragma once
 
-#include "georef/kernels/kernel_set.h"
+#include "georef/kernels.h"
 #include "georef/least_squares.h"
 
 #include <optional>
@@ -25,7 +25,7 @@ public:
     /// Sets the equations up and factorises them. Returns nothing where the trailing block is not positive definite to
     /// the precision of its numbers. `affine` is P's factorisation, which must outlive the result; `matrix` has the
     /// size of K, the square of the number of controls, whatever its values.
-    static std::optional<SplineEquations> of(formulas::Warp const& warp, Factorisation const& affine,
+    static std::optional<SplineEquations> of(georef::Warp const& warp, Factorisation const& affine,
                                              std::vector<double> matrix);
 
     /// The weights w, one a control, and the affine coefficients a of 1, u and v.
@@ -37,10 +37,10 @@ public:
     Solution solve(std::vector<double> targets) const;
 
 private:
-    SplineEquations(formulas::Warp const& warp, Factorisation const& affine, std::vector<double> matrix);
+    SplineEquations(georef::Warp const& warp, Factorisation const& affine, std::vector<double> matrix);
     void reflectBothSides(std::span<double const> reflector, std::size_t at);
     bool factorise();
-    formulas::SymmetricMatrix trailingBlock();
+    georef::SymmetricMatrix trailingBlock();
     double const* row(std::size_t i) const { return m_values.data() + i * m_count; }
 
     Factorisation const* m_affine;

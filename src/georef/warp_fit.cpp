@@ -57,7 +57,7 @@ FittedWarp emptyWarp(WarpingMethod method, std::span<GEOREFPOINT const> source, 
     return fitted;
 }
 
-bool areAnyCoincident(formulas::Warp const& warp) {
+bool areAnyCoincident(georef::Warp const& warp) {
     std::vector<std::pair<double, double>> points(warp.controls);
     for (std::size_t i = 0; i < points.size(); ++i)
         points[i] = {warp.u[i], warp.v[i]};
@@ -73,7 +73,7 @@ bool chooseUnit(FittedWarp& fitted, std::span<GEOREFPOINT const> source) {
     return std::isfinite(warp.perUnit);
 }
 
-Matrix affineTerms(formulas::Warp const& warp) {
+Matrix affineTerms(georef::Warp const& warp) {
     Matrix matrix(warp.controls, 3);
     std::ranges::fill(matrix.column(0), 1.0);
     std::copy_n(warp.u, warp.controls, matrix.column(1).begin());
@@ -93,9 +93,9 @@ struct Residuals {
     }
 };
 
-Residuals residualsOf(formulas::Warp const& warp, Controls const& controls) {
+Residuals residualsOf(georef::Warp const& warp, Controls const& controls) {
     std::vector<GEOREFPOINT> mapped(controls.source.begin(), controls.source.end());
-    formulas::georefKernels().mapByWarp(warp, mapped.data(), mapped.size());
+    georef::kernels().mapByWarp(warp, levels::pointsOf(mapped.data(), mapped.size()), {});
     Residuals residuals{std::vector<double>(mapped.size()), std::vector<double>(mapped.size())};
     for (std::size_t i = 0; i < mapped.size(); ++i) {
         residuals.x[i] = controls.target[i].x - mapped[i].x;
@@ -105,7 +105,7 @@ Residuals residualsOf(formulas::Warp const& warp, Controls const& controls) {
 }
 
 /// Fits the affine least-squares map of one coordinate; its coefficients go into `plane`, its residuals into `weights`.
-void fitDistances(formulas::Warp const& warp, Factorisation const& affine, std::span<GEOREFPOINT const> target,
+void fitDistances(georef::Warp const& warp, Factorisation const& affine, std::span<GEOREFPOINT const> target,
                   double GEOREFPOINT::*coordinate, double (&plane)[3], double* weights) {
     std::vector<double> wanted(target.size());
     std::ranges::transform(target, wanted.begin(), coordinate);

@@ -2,7 +2,7 @@
 #pragma once
 
 #include "georef/controls.h"
-#include "georef/kernels/kernel_set.h"
+#include "georef/kernels.h"
 
 #include <optional>
 #include <vector>
@@ -11,7 +11,7 @@ namespace ZrProj {
 
 /// A warp and the arrays that it points into, which stay where they are when this is moved.
 struct FittedWarp {
-    formulas::Warp warp;
+    georef::Warp warp;
     std::vector<double> arrays; // u, v, the weights in x and those in y, one after the other
 
     double* weightsX() { return arrays.data() + 2 * warp.controls; }

@@ -1,5 +1,4 @@
 // Projection handles and the conversion of points through them.
-#include "formulas/levels.h"
 #include "frame/errors.h"
 #include "frame/log.h"
 #include "host/fpenv.h"
@@ -103,21 +102,21 @@ bool markNotFinite(std::span<PROJPOINT> points) noexcept {
 }
 
 /// The conversion of a record that defines no map.
-formulas::Outcome markAll(std::span<PROJPOINT> points) noexcept {
-    formulas::Outcome outcome;
+levels::Outcome markAll(std::span<PROJPOINT> points) noexcept {
+    levels::Outcome outcome;
     for (auto& point : points) {
         bool const marked =
             (point.x == DBL_MAX && std::isfinite(point.y)) || (point.y == DBL_MAX && std::isfinite(point.x));
         if (marked)
             continue;
         point = {DBL_MAX, DBL_MAX};
-        outcome.unplottable = true;
+        outcome.lost = true;
     }
     return outcome;
 }
 
 struct Direction {
-    formulas::Converter::Run formulas::Converter::*run;
+    formulas::Converter::Direction code;
     char const* failure;
 };
 constexpr Direction forward{&formulas::Converter::forward, "Forward projection function failed!\n"};
@@ -139,14 +138,16 @@ bool convert(void* handle, PROJPOINT* points, int count, Direction const& direct
     auto& block = ProjectionBlock::of(handle);
     if (!block.formula)
         return convertNothing(block.record, {points, static_cast<std::size_t>(count)});
-    auto const run = block.converter.*direction.run;
+    auto const size = static_cast<std::size_t>(count);
     auto const outcome = withDefaultFloatingPoint([&] {
-        return run ? run(block.converter, points, count) : markAll({points, static_cast<std::size_t>(count)});
+        return block.converter.*direction.code
+                   ? block.converter.convert(direction.code, levels::pointsOf(points, size), {.keepsMarked = true})
+                   : markAll({points, size});
     });
-    block.record.iResult = outcome.unplottable || outcome.failed ? 1 : 0;
+    block.record.iResult = outcome.lost || outcome.failed ? 1 : 0;
     if (outcome.failed)
         LogPrintf("%s", direction.failure);
-    else if (outcome.unplottable)
+    else if (outcome.lost)
         LogPrintf("  One or more unplottable points generated.\n");
     return !outcome.failed;
 }

@@ -1,6 +1,6 @@
 #include "systems/conversion.h"
 
-#include "formulas/levels.h"
+#include "formulas/converter.h"
 #include "systems/method_table.h"
 
 #include <cfloat>
@@ -294,18 +294,23 @@ std::variant<SystemConverter, Unsupported> SystemConverter::make(Conversion cons
     return made;
 }
 
-formulas::Outcome SystemConverter::forward(PROJPOINT* points, int count) const noexcept {
+levels::Outcome SystemConverter::run(formulas::Converter::Direction direction, PROJPOINT* points,
+                                     int count) const noexcept {
+    return map_.convert(direction, levels::pointsOf(points, static_cast<std::size_t>(count)), {.keepsMarked = true});
+}
+
+levels::Outcome SystemConverter::forward(PROJPOINT* points, int count) const noexcept {
     turn(points, count, 1, 1, -meridian_);
     if (isGeographic_)
-        return wrap(points, count), formulas::Outcome{};
-    auto const outcome = map_.forward(map_, points, count);
+        return wrap(points, count), levels::Outcome{};
+    auto const outcome = run(&formulas::Converter::forward, points, count);
     turn(points, count, xSense_, ySense_, 0);
     return outcome;
 }
 
-formulas::Outcome SystemConverter::inverse(PROJPOINT* points, int count) const noexcept {
+levels::Outcome SystemConverter::inverse(PROJPOINT* points, int count) const noexcept {
     turn(points, count, xSense_, ySense_, 0);
-    auto const outcome = isGeographic_ ? formulas::Outcome{} : map_.inverse(map_, points, count);
+    auto const outcome = isGeographic_ ? levels::Outcome{} : run(&formulas::Converter::inverse, points, count);
     turn(points, count, 1, 1, meridian_);
     wrap(points, count);
     return outcome;

@@ -36,11 +36,13 @@ public:
     /// Nothing where the parameters define no map.
     static std::variant<SystemConverter, Unsupported> make(Conversion const& conversion);
 
-    formulas::Outcome forward(PROJPOINT* points, int count) const noexcept;
-    formulas::Outcome inverse(PROJPOINT* points, int count) const noexcept;
+    levels::Outcome forward(PROJPOINT* points, int count) const noexcept;
+    levels::Outcome inverse(PROJPOINT* points, int count) const noexcept;
 
 private:
     SystemConverter() = default;
+
+    levels::Outcome run(formulas::Converter::Direction direction, PROJPOINT* points, int count) const noexcept;
 
     formulas::Converter map_;
     bool isGeographic_ = false;

@@ -76,7 +76,7 @@ constexpr DatumType conversions[][2] = {{DatumTypeNorthAmericanDatum1927, DatumT
 TEST(DatumMethods, AgreeWithAHighPrecisionEvaluation) {
     auto const cases = readCases();
     std::set<DatumType> types;
-    test::forEachLevel([&](formulas::Level) {
+    test::forEachLevel([&](levels::Level) {
         for (auto const& c : cases) {
             DatumHandle const handle(toOrFromWgs84(c.type, c.from));
             auto const p = handle(c.before.x, c.before.y);
@@ -89,7 +89,7 @@ TEST(DatumMethods, AgreeWithAHighPrecisionEvaluation) {
 }
 
 TEST(DatumMethods, GiveAPointTheSameBitsAnywhere) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const& [from, to] : conversions) {
             DatumHandle const handle(datumRequest(from, to));
             auto const source = pointsEverywhere(700);
@@ -110,11 +110,11 @@ TEST(DatumMethods, GiveAPointTheSameBitsAnywhere) {
 TEST(DatumMethods, AgreeBetweenLevels) {
     for (auto const& [from, to] : conversions) {
         std::vector<DATUMPOINT> reference;
-        test::forEachLevel([&, from = from, to = to](formulas::Level level) {
+        test::forEachLevel([&, from = from, to = to](levels::Level level) {
             DatumHandle const handle(datumRequest(from, to));
             auto points = pointsEverywhere(3000);
             ASSERT_TRUE(DatConvertDatum(handle.handle, points.data(), 3000));
-            if (level == formulas::Level::scalar)
+            if (level == levels::Level::scalar)
                 reference = points;
             for (std::size_t i = 0; i < points.size(); ++i) {
                 if (from == 229 || std::abs(reference[i].y) > 89)
@@ -136,7 +136,7 @@ TEST(DatumMethods, ConvertByAGridOnTheCallersSide) {
             }
         return true;
     };
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         auto conversion =
             datum::prepareConversion(datumRequest(DatumTypeNad1927ConusNadcon, DatumTypeEuropean1950Mean));
         ASSERT_TRUE(conversion.isDefined && conversion.grid);

@@ -62,7 +62,7 @@ TEST(BursaWolf, NeedsNoLoop) {
                                    record(0.5, 500, 0, 0),           record(1 / 150.0, 3e6, 2e6, -1e6),
                                    record(0.1, -5e7, 1e6, 4e7),      record(0.01, 0, 0, 6.2e6)};
     double const lats[] = {-90, -89.999, -60, -30, -1e-9, 0, 20, 45, 70, 89, 90};
-    test::forEachLevel([&](formulas::Level) {
+    test::forEachLevel([&](levels::Level) {
         for (auto const& r : records) {
             auto request = test::datumRequest(DatumTypeUserDefined, DatumTypeUserDefined);
             request.SourceParams = r;

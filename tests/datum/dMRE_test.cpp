@@ -38,7 +38,7 @@ TEST(Regression, GivesThePublishedExamples) {
         std::istringstream(line) >> type >> latD >> latM >> latS >> lonD >> lonM >> lonS >> north >> east;
         double const lat = std::copysign(std::abs(latD) + latM / 60 + latS / 3600, latD);
         double const lon = lonD + lonM / 60 + lonS / 3600;
-        test::forEachLevel([&](formulas::Level) {
+        test::forEachLevel([&](levels::Level) {
             auto const p = DatumHandle(toOrFromWgs84(static_cast<DatumType>(type), true))(lon, lat);
             EXPECT_NEAR((p.y - lat) * 3600, north, 0.0006) << line;
             EXPECT_NEAR((p.x - lon) * 3600, east, 0.0006) << line;
@@ -50,7 +50,7 @@ TEST(Regression, GivesThePublishedExamples) {
 
 TEST(Regression, NestsWhatThePowersSay) {
     for (auto const& centre : datum::regressionCentres)
-        test::forEachLevel([&](formulas::Level) {
+        test::forEachLevel([&](levels::Level) {
             DatumHandle const handle(toOrFromWgs84(centre.type, true));
             double const reach = 1 / centre.K; // the area: U and V up to 1 or so
             for (double north = -1; north <= 1; north += 0.25)

@@ -104,7 +104,7 @@ TEST(DatumConversion, LeavesPointsOfOneDatumAlone) {
 }
 
 TEST(DatumConversion, NormalisesAndKeepsTheCallersSide) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (DatumType const type : {DatumTypeNorthAmericanDatum1927, DatumTypeDhdnBursaWolf}) {
             DatumHandle const handle(datumRequest(type, DatumTypeWorldGeodeticSystem1984));
             auto const east = handle(-160, 40);
@@ -129,7 +129,7 @@ TEST(DatumConversion, NormalisesAndKeepsTheCallersSide) {
 }
 
 TEST(DatumConversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         DatumHandle const handle(datumRequest(DatumTypeEuropean1950Mean, DatumTypeWorldGeodeticSystem1972BursaWolf));
         auto const good = handle(9, 45);
         for (auto const& bad : {DATUMPOINT{9, notANumber},
@@ -153,7 +153,7 @@ TEST(DatumConversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
 
 // The record's flag is the direction: set for neither end, both go towards WGS 84.
 TEST(DatumConversion, AppliesOwnRecordsInTheirDirection) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (DatumType const type : {DatumTypeAdindanMean, DatumTypeDhdnBursaWolf}) {
             DatumHandle const from(toOrFromWgs84(type, true)), to(toOrFromWgs84(type, false));
             auto const forth = paramsOf(type, false), back = paramsOf(type, true);
@@ -176,7 +176,7 @@ TEST(DatumConversion, AppliesOwnRecordsInTheirDirection) {
 }
 
 TEST(DatumConversion, MarksWhatAFormulaCannotGive) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         auto own = paramsOf(DatumTypeDhdnBursaWolf, false);
         own.Scale = -1e6; // shrinks the Earth to the point (dX, dY, dZ)
         expectNear(DatumHandle(ownEnds(own, {}))(10, 20), DatumHandle(ownEnds(own, {}))(50, -60), 0);
@@ -207,7 +207,7 @@ TEST(DatumConversion, AppliesAPrimeMeridianAsAShift) {
 }
 
 TEST(DatumConversion, PolesAreConvertedInLatitude) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (double const pole : {90.0, -90.0}) {
             DatumHandle const molodensky(
                 datumRequest(DatumTypeNorthAmericanDatum1927, DatumTypeWorldGeodeticSystem1984)),
@@ -230,7 +230,7 @@ TEST(DatumConversion, PolesAreConvertedThroughTwoSteps) {
                                 DatumTypeDhdnBursaWolf,
                                 DatumTypeMrtEverestModifiedBursaWolf,
                                 DatumTypeNtfFranceParisMeridianBursaWolf};
-    test::forEachLevel([&](formulas::Level) {
+    test::forEachLevel([&](levels::Level) {
         for (DatumType const from : datums)
             for (DatumType const to : datums)
                 for (double const pole : {90.0, -90.0})
@@ -248,7 +248,7 @@ TEST(DatumConversion, PolesAreConvertedThroughTwoSteps) {
 
 // A shift that moves a point on the equator by millions of turns, east alone: the next step takes what is left of them.
 TEST(DatumConversion, StepsTakeALongitudeWithoutItsTurns) {
-    test::forEachLevel([&](formulas::Level) {
+    test::forEachLevel([&](levels::Level) {
         for (double const shift : {1e12, 1e18, -1e18}) {
             auto far = paramsOf(DatumTypeNorthAmericanDatum1927, false);
             far.dX = shift;

@@ -66,8 +66,8 @@ TEST(AuxiliaryLatitude, AgreesWithItsDefinition) {
                 phi[i] = 1.55 * (static_cast<double>(i) / 31.5 - 1);
                 exact[i] = static_cast<double>(kind.exact(e2, static_cast<Wide>(phi[i])));
             }
-            test::forEachLevel([&](Level level) {
-                auto const function = probeOf(level).auxiliaryLatitude.*kind.function;
+            test::forEachLevel([&](levels::Level level) {
+                auto const function = levels::operationsAt<Probe>(level).auxiliaryLatitude.*kind.function;
                 EXPECT_TRUE(function(flattening, phi.data(), xi.data(), unused.data(), count));
                 EXPECT_TRUE(function(flattening, exact.data(), unused.data(), back.data(), count));
                 for (std::size_t i = 0; i < count; ++i) {
@@ -82,8 +82,8 @@ TEST(AuxiliaryLatitude, AgreesWithItsDefinition) {
 TEST(AuxiliaryLatitude, KnowsItsLimits) {
     std::array<double, 8> const angle{-1.5, -1, -0.5, 0, 0.3, 0.6, 0.9, 1.2};
     std::array<double, 8> xi, phi;
-    test::forEachLevel([&](Level level) {
-        auto const& probe = probeOf(level).auxiliaryLatitude;
+    test::forEachLevel([&](levels::Level level) {
+        auto const& probe = levels::operationsAt<Probe>(level).auxiliaryLatitude;
         EXPECT_FALSE(probe.conformal(0.6, angle.data(), xi.data(), phi.data(), 8));
         EXPECT_TRUE(probe.conformal(0, angle.data(), xi.data(), phi.data(), 8));
         EXPECT_EQ(xi, angle);

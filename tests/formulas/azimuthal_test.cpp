@@ -12,7 +12,7 @@ using test::isMarked;
 using test::Projection;
 
 TEST(Azimuthal, MarksTheAntipodeAndNothingNearIt) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* words :
              {"type=stereographic ellipsoid=wgs-84 lat0=40 lon0=-100",
               "type=stereographic ellipsoid=standard-sphere-of-6370997-meters lat0=40 lon0=-100",
@@ -43,7 +43,7 @@ TEST(Azimuthal, FillsThePlaneAndMarksInfinity) {
     } const cases[] = {
         {"type=stereographic ellipsoid=wgs-84 lat0=-30 lon0=170", {1e15, -3e15}, {-10, 30}},
         {"type=gnomonic ellipsoid=standard-sphere-of-6370997-meters lat1=40 lon0=-100", {1e15, 0}, {-10, 0}}};
-    test::forEachLevel([&](formulas::Level) {
+    test::forEachLevel([&](levels::Level) {
         for (auto const& each : cases) {
             Projection map(each.words);
             PROJPOINT points[] = {each.from, {1e300, 0}, {0, -1e300}, {DBL_MAX / 2, DBL_MAX / 2}, {1e23, 0}};
@@ -57,7 +57,7 @@ TEST(Azimuthal, FillsThePlaneAndMarksInfinity) {
 }
 
 TEST(LambertAzimuthal, KeepsItsRimAndMarksWhatLiesOutside) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection map("type=lambert-azimuthal ellipsoid=standard-sphere-of-6370997-meters lat1=40 lon0=-100");
         double const rim = 2 * 6370997;
         for (double const turn : {0.0, 0.7, 2.5, 4.0}) {
@@ -72,7 +72,7 @@ TEST(LambertAzimuthal, KeepsItsRimAndMarksWhatLiesOutside) {
 }
 
 TEST(Gnomonic, MarksTheHorizonAndWhatLiesBehind) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* centre : {"type=gnomonic ellipsoid=standard-sphere-of-6370997-meters",
                                    "type=gnomonic ellipsoid=standard-sphere-of-6370997-meters lat1=40 lon0=-100",
                                    "type=gnomonic ellipsoid=standard-sphere-of-6370997-meters lat1=-90 lon0=30"}) {

@@ -9,7 +9,7 @@ using test::Projection;
 
 // Between the two edges of the unrolled cone is nothing; the edges stay, though a false origin rounds them.
 TEST(Cone, HasAGap) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const type : {"type=albers", "type=lambert-conformal-conic", "type=equidistant-conic"}) {
             Projection projection(std::string(type) + " ellipsoid=wgs-84 lat1=25 lat2=60 lon0=-96 x0=1e7 y0=1e7");
             for (double const lat : {-60.0, 10.0, 89.0, 89.99999})
@@ -23,7 +23,7 @@ TEST(Cone, HasAGap) {
 }
 
 TEST(Cone, EndsAtThePoles) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* words : {"type=albers ellipsoid=wgs-84 lat1=10 lat2=50",
                                   "type=equidistant-conic ellipsoid=wgs-84 lat1=10 lat2=50"}) {
             Projection projection(words);

@@ -9,7 +9,7 @@ using test::Projection;
 
 // The opposite meridian is on the map twice, at its two edges, and stays there though a false origin rounds it.
 TEST(Cylinder, EndsAtTheOppositeMeridian) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* words :
              {"type=mercator ellipsoid=wgs-84 lon0=-179.7 x0=1e7", "type=miller ellipsoid=wgs-84 lon0=-179.7 x0=1e7",
               "type=equidistant-cylindrical ellipsoid=wgs-84 lat1=60 lon0=-179.7 x0=1e7"}) {
@@ -26,7 +26,7 @@ TEST(Cylinder, EndsAtTheOppositeMeridian) {
 }
 
 TEST(Cylinder, EndsAtThePoles) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* words :
              {"type=miller ellipsoid=wgs-84 y0=1e7", "type=equidistant-cylindrical ellipsoid=wgs-84 y0=1e7"}) {
             Projection projection(words);

@@ -112,7 +112,7 @@ std::vector<PROJPOINT> smoothPoints(Projection& projection, double reach) {
 }
 
 template <class Check> void forEachSet(std::vector<std::string> const& sets, Check const& check) {
-    test::forEachLevel([&](formulas::Level) {
+    test::forEachLevel([&](levels::Level) {
         for (auto const& words : sets) {
             Projection projection(words);
             check(projection);

@@ -58,11 +58,11 @@ Card const cards[] = {
 };
 
 /// The function of one pair, at the level.
-double at(Level level, ElementaryProbe::Function ElementaryProbe::*function, double x, double y = 0) {
+double at(levels::Level level, ElementaryProbe::Function ElementaryProbe::*function, double x, double y = 0) {
     double xs[8], ys[8], results[8];
     std::fill_n(xs, 8, x);
     std::fill_n(ys, 8, y);
-    (probeOf(level).elementary.*function)(xs, ys, results, 8);
+    (levels::operationsAt<Probe>(level).elementary.*function)(xs, ys, results, 8);
     return results[5];
 }
 
@@ -78,8 +78,9 @@ TEST(Elementary, KeepsItsAccuracyCards) {
             x[i] = across(random);
             y[i] = any(random);
         }
-        test::forEachLevel([&](Level level) {
-            (probeOf(level).elementary.*card.function)(x.data(), y.data(), result.data(), static_cast<int>(count));
+        test::forEachLevel([&](levels::Level level) {
+            (levels::operationsAt<Probe>(level).elementary.*card.function)(x.data(), y.data(), result.data(),
+                                                                           static_cast<int>(count));
             double worst = 0;
             for (std::size_t i = 0; i < count; ++i)
                 worst = std::max(worst, ulps(result[i], card.exact(x[i], y[i])));
@@ -90,7 +91,7 @@ TEST(Elementary, KeepsItsAccuracyCards) {
 
 TEST(Elementary, IsExactWhereSingularPointsAreTested) {
     constexpr double halfPi = 1.5707963267948966;
-    test::forEachLevel([&](Level level) {
+    test::forEachLevel([&](levels::Level level) {
         EXPECT_EQ(at(level, &ElementaryProbe::sin, halfPi), 1);
         EXPECT_EQ(at(level, &ElementaryProbe::sin, -halfPi), -1);
         EXPECT_EQ(at(level, &ElementaryProbe::cos, 0), 1);
@@ -106,7 +107,7 @@ TEST(Elementary, IsExactWhereSingularPointsAreTested) {
 
 TEST(Elementary, KnowsItsEdges) {
     constexpr double pi = 3.141592653589793;
-    test::forEachLevel([&](Level level) {
+    test::forEachLevel([&](levels::Level level) {
         EXPECT_EQ(at(level, &ElementaryProbe::atan2, -1, 0.0), pi);
         EXPECT_EQ(at(level, &ElementaryProbe::atan2, -1, -0.0), -pi);
         EXPECT_EQ(at(level, &ElementaryProbe::atan2, 0, 0), 0);
@@ -124,12 +125,12 @@ TEST(Elementary, KnowsItsEdges) {
 
 TEST(Elementary, NoLaneChangesAnother) {
     double const strange[] = {0.3, infinity, -1, 0, std::nan(""), 1e300, 5e-324, -0.0};
-    test::forEachLevel([&](Level level) {
+    test::forEachLevel([&](levels::Level level) {
         for (auto const function : {&ElementaryProbe::sin, &ElementaryProbe::cos, &ElementaryProbe::atan2,
                                     &ElementaryProbe::asin, &ElementaryProbe::exp, &ElementaryProbe::log}) {
             double y[8], result[8];
             std::fill_n(y, 8, 0.7);
-            (probeOf(level).elementary.*function)(strange, y, result, 8);
+            (levels::operationsAt<Probe>(level).elementary.*function)(strange, y, result, 8);
             EXPECT_EQ(result[0], at(level, function, 0.3, 0.7));
         }
     });

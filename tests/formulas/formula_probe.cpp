@@ -1,7 +1,7 @@
 #include "probe.h"
 
 #include "formulas/auxiliary_latitude.h"
-#include "formulas/elementary.h"
+#include "levels/elementary.h"
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
@@ -23,18 +23,25 @@ bool runBothWays(double flattening, double const* angle, double* xi, double* phi
 }
 
 } // namespace
-
-constinit Probe const probe{
-    {run<decltype([](Register x, Register) { return sin(x); })>,
-     run<decltype([](Register x, Register) { return cos(x); })>,
-     run<decltype([](Register x, Register y) { return atan2(y, x); })>,
-     run<decltype([](Register x, Register) { return asin(x); })>,
-     run<decltype([](Register x, Register) { return acos(x); })>,
-     run<decltype([](Register x, Register) { return exp(x); })>,
-     run<decltype([](Register x, Register) { return expm1(x); })>,
-     run<decltype([](Register x, Register) { return log(x); })>,
-     run<decltype([](Register x, Register) { return log1p(x); })>,
-     run<decltype([](Register x, Register) { return cbrt(x); })>},
-    {runBothWays<conformalLatitude>, runBothWays<authalicLatitude>, runBothWays<rectifyingLatitude>, rectifyingRadius}};
-
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL
+
+namespace ZrProj {
+
+template <> formulas::Probe const& levels::operationsOf<formulas::Probe, levels::ZRPROJ_LEVEL::Home>() noexcept {
+    using namespace formulas::ZRPROJ_LEVEL;
+    static constexpr formulas::Probe probe{{run<decltype([](Register x, Register) { return sin(x); })>,
+                                            run<decltype([](Register x, Register) { return cos(x); })>,
+                                            run<decltype([](Register x, Register y) { return atan2(y, x); })>,
+                                            run<decltype([](Register x, Register) { return asin(x); })>,
+                                            run<decltype([](Register x, Register) { return acos(x); })>,
+                                            run<decltype([](Register x, Register) { return exp(x); })>,
+                                            run<decltype([](Register x, Register) { return expm1(x); })>,
+                                            run<decltype([](Register x, Register) { return log(x); })>,
+                                            run<decltype([](Register x, Register) { return log1p(x); })>,
+                                            run<decltype([](Register x, Register) { return cbrt(x); })>},
+                                           {runBothWays<conformalLatitude>, runBothWays<authalicLatitude>,
+                                            runBothWays<rectifyingLatitude>, rectifyingRadius}};
+    return probe;
+}
+
+} // namespace ZrProj

@@ -37,7 +37,7 @@ TEST(NoMap, EveryPointIsMarked) {
             "method=transverse-mercator-zoned radius=6378137 rf=298.257223563 zone_width=7",
         }) {
         SCOPED_TRACE(words);
-        test::forEachLevel([&](formulas::Level) {
+        test::forEachLevel([&](levels::Level) {
             test::Projection nowhere(words);
             EXPECT_TRUE(isMarked(nowhere.forward(PROJPOINT{5, 10})));
             EXPECT_TRUE(isMarked(nowhere.inverse(PROJPOINT{5e5, 1e6})));

@@ -32,7 +32,7 @@ double apart(PROJPOINT const& a, PROJPOINT const& b) {
 // About the antipode many geodesics are nearly the shortest; they touch an astroid, whose eastern and western ends are
 // the ends of the line where two of them are.
 TEST(AzimuthalEquidistant, ComesBackFromAroundTheAntipode) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (double const flattening : {earth, 0.02})
             for (double const lat1 : {0.0, 1e-9, 40.0, -89.9}) {
                 auto map = azimuthalEquidistant(lat1, flattening);
@@ -49,7 +49,7 @@ TEST(AzimuthalEquidistant, ComesBackFromAroundTheAntipode) {
 }
 
 TEST(AzimuthalEquidistant, EndsHalfATurnFromTheCentre) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (double const flattening : {0.0, earth})
             for (double const lat1 : {0.0, 35.0, 90.0, -90.0}) {
                 auto map = azimuthalEquidistant(lat1, flattening);

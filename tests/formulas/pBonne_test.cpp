@@ -6,7 +6,7 @@ using test::isMarked;
 using test::Projection;
 
 TEST(Bonne, GoesOverIntoSinusoidal) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* words :
              {"type=bonne ellipsoid=wgs-84 lat1=-1e-14", "type=bonne ellipsoid=wgs-84 lat1=1e-300"}) {
             Projection cone(words), straight("type=sinusoidal ellipsoid=wgs-84");
@@ -21,7 +21,7 @@ TEST(Bonne, GoesOverIntoSinusoidal) {
 }
 
 TEST(Bonne, EndsAtTheOppositeMeridian) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection("type=bonne ellipsoid=wgs-84 lat1=35 lon0=100");
         auto const edge = projection.forward({280, -40}), inner = projection.forward({279, -40});
         EXPECT_NEAR(projection.inverse(edge).x, 280, 1e-11);

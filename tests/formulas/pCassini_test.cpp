@@ -26,7 +26,7 @@ Projection cassini(double flattening) {
 // Close to the central meridian one formula, elsewhere another.
 TEST(Cassini, IsSmoothWhereItsFormulasMeet) {
     constexpr double meeting = 0.08 / degree, step = 1e-3;
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (double const flattening : {1e-5, earth, 1 / 160.0, 0.02}) {
             auto map = cassini(flattening);
             for (double lat = -89; lat < 90; lat += 4) {
@@ -44,7 +44,7 @@ TEST(Cassini, IsSmoothWhereItsFormulasMeet) {
 // A quarter turn from the central meridian geodesics from it come together on the equator, north and south of an
 // astroid; beyond the poles its far side is the central meridian.
 TEST(Cassini, ComesBackFromAllOverTheGlobe) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (double const flattening : {0.0, earth, 0.02}) {
             auto map = cassini(flattening);
             for (double const lat : {-90.0, -45.0, -0.5, -1e-5, -1e-12, 0.0, 1e-13, 1e-9, 1e-3, 0.1, 1.0, 60.0, 89.9})
@@ -60,7 +60,7 @@ TEST(Cassini, ComesBackFromAllOverTheGlobe) {
 }
 
 TEST(Cassini, EndsWhereGeodesicsMeet) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (double const flattening : {0.0, earth}) {
             auto map = cassini(flattening);
             auto const quadrant = map.forward(PROJPOINT{0, 90}).y; // a quarter of the meridian

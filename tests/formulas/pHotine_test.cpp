@@ -19,7 +19,7 @@ void expectNear(PROJPOINT const& actual, PROJPOINT const& expected, double toler
 } // namespace
 
 TEST(Hotine, GivesOneMapForOneLine) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         // The line's direction turns u and v round, and x and y stay.
         std::string const centre = "type=hotine ellipsoid=wgs-84 lat0=-38 lon1=175 use_alpha=1 u_offset=1 k0=0.9996";
         Projection south(centre + " alpha=130"), north(centre + " alpha=-50"), tilted(centre + " alpha=130 rotate=1"),
@@ -65,7 +65,7 @@ TEST(Hotine, ReadsItsFlagsAsBytes) {
 }
 
 TEST(Hotine, MarksThePolesOfItsLine) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* words :
              {"type=hotine ellipsoid=wgs-84 lat0=0 lon0=20 alpha=90 use_alpha=1 rotate=1 u_offset=1",
               "type=hotine ellipsoid=standard-sphere-of-6370997-meters lat0=0 lon0=20 alpha=-90 use_alpha=1"}) {
@@ -81,7 +81,7 @@ TEST(Hotine, MarksThePolesOfItsLine) {
 }
 
 TEST(Hotine, MarksTheStripThatWouldCoverOtherLand) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         std::string const line = " lat0=0 lon0=20 alpha=40 use_alpha=1 rotate=1";
         Projection ellipsoid("type=hotine ellipsoid=wgs-84" + line),
             sphere("type=hotine ellipsoid=standard-sphere-of-6370997-meters" + line);

@@ -6,7 +6,7 @@ using test::isMarked;
 using test::Projection;
 
 TEST(LambertConformalConic, EndsAtTheFarPole) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (double const side : {-1, 1}) {
             Projection projection(side > 0
                                       ? "type=lambert-conformal-conic ellipsoid=wgs-84 lat1=50 lat2=30 lat0=90"
@@ -24,7 +24,7 @@ TEST(LambertConformalConic, EndsAtTheFarPole) {
 
 // As the parallels become opposite, the cone becomes the cylinder of Mercator's projection, reduced to be true there.
 TEST(LambertConformalConic, GoesOverIntoMercator) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection cone("type=lambert-conformal-conic ellipsoid=wgs-84 lat1=30 lat2=-29.99999999999999"),
             cylinder("type=mercator ellipsoid=wgs-84");
         double const trueScale = cone.forward({1, 0}).x / cylinder.forward({1, 0}).x;

@@ -8,7 +8,7 @@ using test::isMarked;
 using test::Projection;
 
 TEST(Mercator, EndsBeforeThePoles) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection("type=mercator ellipsoid=wgs-84 lon0=10 lat0=30");
         EXPECT_TRUE(isMarked(projection.forward({20, 90})) && isMarked(projection.forward({20, -90})));
         PROJPOINT const last{20, std::nextafter(90.0, 0)}, map = projection.forward(last);

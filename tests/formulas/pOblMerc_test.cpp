@@ -10,7 +10,7 @@ using test::isMarked;
 using test::Projection;
 
 TEST(ObliqueMercator, LaysItsLineAlongXAndMarksItsPoles) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         // Either order of the points, and a line whose pole the cross product finds in the south.
         for (auto const* words : {"type=oblique-mercator ellipsoid=standard-sphere-of-6370997-meters lat1=20 lon1=-100 "
                                   "lat2=40 lon2=-60 k0=0.5",

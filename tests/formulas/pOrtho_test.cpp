@@ -11,7 +11,7 @@ using test::isMarked;
 using test::Projection;
 
 TEST(Orthographic, ShowsTheLimbAndNothingBehindIt) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* ellipsoid :
              {"type=orthographic ellipsoid=wgs-84", "type=orthographic ellipsoid=standard-sphere-of-6370997-meters"})
             for (auto const* centre : {" lat0=0 lon0=0", " lat0=40 lon0=-100", " lat0=-90 lon0=30"}) {
@@ -33,7 +33,7 @@ TEST(Orthographic, ShowsTheLimbAndNothingBehindIt) {
 }
 
 TEST(Orthographic, MarksWhatLiesOutsideTheDisc) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection map("type=orthographic ellipsoid=wgs-84 lat0=55 lon0=5");
         double const a = map.record().MajorRadius;
         PROJPOINT points[] = {{a, 0},      {a * (1 + 1e-13), 0},      {a * 1.001, 0}, {0, -1.001 * a}, {1e300, 0},

@@ -9,7 +9,7 @@ using test::Projection;
 
 // The in-range area is half the globe, but the inverse finds every point of the map.
 TEST(Polyconic, ComesBackFromAllOverTheGlobe) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const* words :
              {"type=polyconic ellipsoid=wgs-84 lat0=20", "type=polyconic radius=6378137 flattening=0.2"}) {
             Projection projection(words);
@@ -24,7 +24,7 @@ TEST(Polyconic, ComesBackFromAllOverTheGlobe) {
 }
 
 TEST(Polyconic, EndsAtTheOppositeMeridian) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection("type=polyconic ellipsoid=wgs-84");
         for (double const lat : {-60.0, 0.0, 1e-9, 85.0}) {
             auto const edge = projection.forward({180, lat}), inner = projection.forward({179, lat});
@@ -38,7 +38,7 @@ TEST(Polyconic, EndsAtTheOppositeMeridian) {
 
 // The equator has a form of its own in the source; beside it nothing jumps.
 TEST(Polyconic, IsSmoothAcrossTheEquator) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection("type=polyconic ellipsoid=wgs-84");
         double const x = projection.forward({120, 0}).x;
         for (double const lat : {1e-320, -1e-300, 1e-200, -1e-120, 1e-99, 1e-16}) {

@@ -6,7 +6,7 @@
 using namespace ZrProj;
 
 TEST(RobinsonSterling, IsContinuousAcrossTheParallelsOfTheTable) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         test::Projection map("type=robinson-sterling ellipsoid=standard-sphere-of-6370997-meters");
         for (int lat = -85; lat <= 85; lat += 5) {
             auto const at = map.forward(PROJPOINT{180, double(lat)});

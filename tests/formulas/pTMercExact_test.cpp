@@ -17,7 +17,7 @@ constexpr char const* exact = "method=transverse-mercator-exact radius=6378137 r
 } // namespace
 
 TEST(TransverseMercatorExact, EndsWhereItNoLongerMapsBack) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection(exact);
         for (double const side : {-1, 1}) {
             auto const last = projection.forward(PROJPOINT{177 + side * 61, 0});
@@ -31,7 +31,7 @@ TEST(TransverseMercatorExact, EndsWhereItNoLongerMapsBack) {
 }
 
 TEST(TransverseMercatorExact, GoesOnBeyondThePolesAndTheAntimeridian) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection(exact);
         double const pole = projection.forward(PROJPOINT{177, 90}).y;
         auto const near = projection.forward(PROJPOINT{180, 80}), far = projection.forward(PROJPOINT{-6, 80});
@@ -45,7 +45,7 @@ TEST(TransverseMercatorExact, GoesOnBeyondThePolesAndTheAntimeridian) {
 
 // The well-known series is right within a millimetre at 3 degrees, and far off where systems that are wide go.
 TEST(TransverseMercatorExact, LeavesTheSeriesBehind) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection(exact), series("type=transverse-mercator ellipsoid=wgs-84 lon0=177 k0=0.9996");
         auto const apart = [&](PROJPOINT const& at) {
             auto const a = projection.forward(at), b = series.forward(at);

@@ -22,7 +22,7 @@ int zoneOf(PROJPOINT const& map) {
 } // namespace
 
 TEST(TransverseMercatorZoned, NumbersZonesFromTheWest) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection(grid);
         for (int zone = 1; zone <= 60; ++zone) {
             double const west = -186 + 6.0 * zone;
@@ -34,7 +34,7 @@ TEST(TransverseMercatorZoned, NumbersZonesFromTheWest) {
 }
 
 TEST(TransverseMercatorZoned, MarksWhatIsInNoZone) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Projection projection(grid);
         for (double const x : {500000.0, 61500000.0, -31500000.0, 32100000.0, 32900000.0, 1e300})
             EXPECT_TRUE(isMarked(projection.inverse(PROJPOINT{x, 5e6}))) << x;

@@ -27,7 +27,7 @@ PROJPOINT forward(CProjector& projector, double lon, double lat) {
 } // namespace
 
 TEST(TransverseMercator, MapsPolesToTheCentralMeridian) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         PROJDATA record = transverseMercator(EllipsoidTypeWgs84);
         CProjector projector(&record);
         auto const north = forward(projector, 40, 90), south = forward(projector, -2, -90);
@@ -39,7 +39,7 @@ TEST(TransverseMercator, MapsPolesToTheCentralMeridian) {
 }
 
 TEST(TransverseMercator, KnowsTheSpheresSingularPoints) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         PROJDATA record = transverseMercator(EllipsoidTypeStandardSphereOf6370997Meters);
         CProjector projector(&record);
         auto const east = forward(projector, 90, 0);

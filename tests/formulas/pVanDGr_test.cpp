@@ -11,7 +11,7 @@ using namespace ZrProj;
 // The axes, where the printed formulas divide by zero, and places close to them.
 TEST(VanDerGrinten, HoldsItsDigitsBesideTheAxes) {
     constexpr double pi = 3.141592653589793;
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         PROJDATA record{};
         record.Type = ProjTypeVanDerGrinten;
         record.MajorRadius = 180 / pi;

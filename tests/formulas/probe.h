@@ -1,7 +1,7 @@
 // Lets the tests call what the formulas of each processor level share, over arrays.
 #pragma once
 
-#include "formulas/levels.h"
+#include "levels/level.h"
 
 namespace ZrProj::formulas {
 
@@ -23,35 +23,5 @@ struct Probe {
     ElementaryProbe elementary;
     AuxiliaryLatitudeProbe auxiliaryLatitude;
 };
-
-namespace scalar {
-extern Probe const probe;
-}
-namespace baseline {
-extern Probe const probe;
-}
-namespace avx2 {
-extern Probe const probe;
-}
-namespace avx512 {
-extern Probe const probe;
-}
-
-inline Probe const& probeOf(Level level) {
-    switch (level) {
-#if defined(ZRPROJ_SIMD)
-    case Level::baseline:
-        return baseline::probe;
-#if defined(__x86_64__)
-    case Level::avx2:
-        return avx2::probe;
-    case Level::avx512:
-        return avx512::probe;
-#endif
-#endif
-    default:
-        return scalar::probe;
-    }
-}
 
 } // namespace ZrProj::formulas

@@ -224,7 +224,7 @@ void expectAgreement(Projection& scalar, Projection& level, Points const& points
 }
 
 Projection atScalarLevel(std::string const& words) {
-    test::LevelScope const scope(formulas::Level::scalar);
+    test::LevelScope const scope(levels::Level::scalar);
     return Projection(words);
 }
 
@@ -240,7 +240,7 @@ class Sweep : public testing::TestWithParam<Sets> {
 protected:
     /// Calls check(projection) for each of the parameter sets at each processor level.
     template <class Check> static void forEachProjection(Check const& check) {
-        test::forEachLevel([&](formulas::Level) {
+        test::forEachLevel([&](levels::Level) {
             for (auto const& words : GetParam().words) {
                 Projection projection(words);
                 check(projection);
@@ -345,7 +345,7 @@ TEST_P(Sweep, LevelsAgreeWithScalar) {
 
 // Records that pass validation and define a map of little or nothing: what they cannot show is marked.
 TEST(SweepOdd, ParameterSetsOfLittleUseFailNoCall) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         for (auto const& words : test::oddParameterSets()) {
             Projection projection(words);
             projection.inverse(projection.forward(projection.samples()));

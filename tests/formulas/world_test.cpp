@@ -21,7 +21,7 @@ PROJPOINT fromCentre(PROJPOINT point, double factor) {
 } // namespace
 
 TEST_P(Outline, IsShownAndNothingBeyondIt) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         test::Projection map(std::string("type=") + projectionRow(GetParam())->key +
                              " ellipsoid=standard-sphere-of-6370997-meters x0=3e6 y0=-2e6");
         for (double const lon : {-180.0, 180.0})

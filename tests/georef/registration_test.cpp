@@ -44,7 +44,7 @@ TEST(Registration, MeetsItsControls) {
     for (int const count : {3, 4, 70, 300}) {
         auto const controls = rough(count);
         forEachWarp([&](int method) {
-            forEachLevel([&](formulas::Level) {
+            forEachLevel([&](levels::Level) {
                 CImageRegistration registration;
                 ASSERT_TRUE(calibrate(registration, method, controls));
                 EXPECT_EQ(registration.Method(), method);

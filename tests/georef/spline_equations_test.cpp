@@ -16,7 +16,7 @@ constexpr std::size_t count = 40;
 
 struct Problem {
     std::vector<double> u, v, targets;
-    formulas::Warp warp;
+    georef::Warp warp;
     Matrix terms{count, 3};
 
     explicit Problem(WarpingMethod method) {
@@ -59,7 +59,7 @@ TEST(SplineEquations, AreSolved) {
         double const size = largest(weights);
         for (std::size_t i = 0; i < count; ++i) {
             std::vector<double> basis(count);
-            formulas::georefKernels().basisRow(problem.warp, i, basis.data());
+            georef::kernels().basisRow(problem.warp, i, basis.data());
             double sum = plane[0] + plane[1] * problem.u[i] + plane[2] * problem.v[i];
             for (std::size_t j = 0; j < count; ++j)
                 sum += basis[j] * weights[j];

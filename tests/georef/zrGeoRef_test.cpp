@@ -45,7 +45,7 @@ void expectCases(std::string const& file, double tolerance) {
     for (auto& c : georefCases(file)) {
         SCOPED_TRACE(RefMethodName(c.method) + (" of " + std::to_string(c.controls.source.size())));
         GEOREF const record = c.controls.record(c.method);
-        forEachLevel([&](formulas::Level) {
+        forEachLevel([&](levels::Level) {
             CGeorefTransform transform(&record);
             auto mapped = c.points.source;
             ASSERT_TRUE(transform.Forward(mapped.data(), static_cast<int>(mapped.size())));
@@ -83,7 +83,7 @@ TEST(Georef, MapsAPointTheSameWhereverItStands) {
     for (auto const method : fitted) {
         SCOPED_TRACE(RefMethodName(method));
         GEOREF const record = controls.record(method);
-        forEachLevel([&](formulas::Level) {
+        forEachLevel([&](levels::Level) {
             CGeorefTransform transform(&record);
             auto const many = scattered(600, 50000, [](GEOREFPOINT p) { return p; }).source;
             auto together = many;

@@ -155,7 +155,7 @@ TEST(Conversion, RefusesTypesWithoutAFormula) {
 }
 
 TEST(Conversion, NormalisesLongitudeAndLatitude) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Handle const tm(recordOf(ProjTypeTransverseMercator, 8));
         EXPECT_TRUE(sameBits(forward(tm.handle, 370, 50), forward(tm.handle, 10, 50)));
         EXPECT_TRUE(sameBits(forward(tm.handle, 10, 100), forward(tm.handle, 10, 80)));
@@ -171,7 +171,7 @@ TEST(Conversion, NormalisesLongitudeAndLatitude) {
 }
 
 TEST(Conversion, AddsTheOriginBeforeItScales) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         PROJDATA record = recordOf(ProjTypeTransverseMercator);
         Handle const plain(record);
         record.Scale = 2;
@@ -193,7 +193,7 @@ TEST(Conversion, AddsTheOriginBeforeItScales) {
 }
 
 TEST(Conversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Handle const utm(utm17());
         auto const good = forward(utm.handle, -80.5, 33);
         for (auto const& bad : {PROJPOINT{notANumber, 1},
@@ -224,7 +224,7 @@ TEST(Conversion, MarksBrokenPointsAndKeepsTheirNeighbours) {
 }
 
 TEST(Conversion, FailsTheCallOnAnArithmeticException) {
-    test::forEachLevel([](formulas::Level) {
+    test::forEachLevel([](levels::Level) {
         Handle const utm(utm17());
         PROJPOINT north[] = {{500000, 1e24}, {500000, 1e50}}; // too far to mean an angle, but no exception
         EXPECT_TRUE(ProjInverse(utm.handle, north, 2));

@@ -96,7 +96,7 @@ std::vector<ProjectionCase> projectionCases(std::string const& file) {
 void expectProjectionCases(std::string const& file) {
     auto const cases = projectionCases(file);
     ASSERT_FALSE(cases.empty()) << file;
-    forEachLevel([&](formulas::Level) {
+    forEachLevel([&](levels::Level) {
         for (auto const& c : cases)
             expectCase(c);
     });

@@ -1,7 +1,7 @@
 #include "support/registry.h"
 
-#include "formulas/levels.h"
 #include "host/fpenv.h"
+#include "levels/level.h"
 #include "proj/projection_table.h"
 #include "support/words.h"
 
@@ -105,22 +105,24 @@ Projection::Projection(std::string const& words) : words_(words), record_(record
         ProjGetStateZoneParams(&record_);
 }
 
-bool Projection::Direct::run(formulas::Converter::Run conversion, std::span<PROJPOINT> points) {
-    if (!conversion) {
+bool Projection::Direct::run(formulas::Converter::Direction direction, std::span<PROJPOINT> points) {
+    if (!(converter.*direction)) {
         std::ranges::fill(points, PROJPOINT{DBL_MAX, DBL_MAX});
         return true;
     }
-    auto const convert = [&] { return conversion(converter, points.data(), int(points.size())); };
+    auto const convert = [&] {
+        return converter.convert(direction, levels::pointsOf(points.data(), points.size()), {.keepsMarked = true});
+    };
     return !withDefaultFloatingPoint(convert).failed;
 }
 
 bool Projection::tryForward(std::span<PROJPOINT> points) {
-    return direct_ ? direct_->run(direct_->converter.forward, points)
+    return direct_ ? direct_->run(&formulas::Converter::forward, points)
                    : projector_.Forward(points.data(), int(points.size()));
 }
 
 bool Projection::tryInverse(std::span<PROJPOINT> points) {
-    return direct_ ? direct_->run(direct_->converter.inverse, points)
+    return direct_ ? direct_->run(&formulas::Converter::inverse, points)
                    : projector_.Inverse(points.data(), int(points.size()));
 }
 

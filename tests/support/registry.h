@@ -57,7 +57,7 @@ private:
         formulas::ParametersInDegrees parameters;
         formulas::Converter converter;
 
-        bool run(formulas::Converter::Run conversion, std::span<PROJPOINT> points);
+        bool run(formulas::Converter::Direction direction, std::span<PROJPOINT> points);
     };
 
     std::string words_;

@@ -15,7 +15,7 @@
 // a, f, e2      semi-major axis, flattening and eccentricity squared of an ellipsoid
 // p, r          distance from the axis, from the centre
 // u             reduced latitude
-#include "datum/kernels/driver.h"
+#include "datum/kernels/method.h"
 
 namespace ZrProj::datum::ZRPROJ_LEVEL {
 namespace {
@@ -69,8 +69,8 @@ BursaWolf methodOf(DATUM2WGS84 const& record) {
 
 } // namespace
 
-void prepareBursaWolf(Step& step, DATUM2WGS84 const& record) noexcept {
-    hold(step, methodOf(record));
+template <> Step makeStep<DatumMethodBursaWolf>(DATUM2WGS84 const& record, DatumType) noexcept {
+    return stepOf(methodOf(record));
 }
 
 } // namespace ZrProj::datum::ZRPROJ_LEVEL

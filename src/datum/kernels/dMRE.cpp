@@ -7,7 +7,7 @@
 // Domain    the datum's own area: powers up to U^9 V^9 run away outside. Evaluated wherever it is asked for.
 //
 // U, V   latitude and longitude from the centre of the area, scaled by K
-#include "datum/kernels/driver.h"
+#include "datum/kernels/method.h"
 #include "datum/mre.h"
 
 namespace ZrProj::datum::ZRPROJ_LEVEL {
@@ -32,8 +32,8 @@ struct Equations {
 
 } // namespace
 
-void prepareRegression(Step& step, DatumType type) noexcept {
-    hold(step, Equations{regressionOf(type)});
+template <> Step makeStep<DatumMethodMRE>(DATUM2WGS84 const&, DatumType type) noexcept {
+    return stepOf(Equations{regressionOf(type)});
 }
 
 } // namespace ZrProj::datum::ZRPROJ_LEVEL

@@ -13,7 +13,7 @@
 // phi, lambda    latitude, longitude        a, f, e2   semi-major axis, flattening, eccentricity squared of the source
 // da, df         semi-major axis and flattening of the target less the source's
 // W              sqrt(1 - e2 sin^2 phi); the radii of curvature are N = a / W and M = a (1 - e2) / W^3
-#include "datum/kernels/driver.h"
+#include "datum/kernels/method.h"
 
 #include <cmath>
 
@@ -59,10 +59,9 @@ Molodensky methodOf(DATUM2WGS84 const& record) {
 
 } // namespace
 
-void prepareMolodensky(Step& step, DATUM2WGS84 const& record) noexcept {
+template <> Step makeStep<DatumMethodMolodensky>(DATUM2WGS84 const& record, DatumType) noexcept {
     auto const method = methodOf(record);
-    if (!method.isIdentity())
-        hold(step, method);
+    return method.isIdentity() ? Step{} : stepOf(method);
 }
 
 } // namespace ZrProj::datum::ZRPROJ_LEVEL

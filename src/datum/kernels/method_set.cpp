@@ -1,9 +1,62 @@
-#include "datum/kernels/method_set.h"
+// The set of a processor level's datum methods, and the ends of every conversion: longitudes into the range of the
+// formulas and back. A method without a source is an undefined symbol to the linker.
+#include "datum/kernels/method.h"
+#include "levels/level.h"
 
-#include "datum/levels.h"
+#include <utility>
 
-namespace ZrProj::datum::ZRPROJ_LEVEL {
+namespace ZrProj {
+namespace datum::ZRPROJ_LEVEL {
+namespace {
 
-constinit MethodSet const methodSet{read, cut, restore, write, prepareMolodensky, prepareBursaWolf, prepareRegression};
+template <class R> Pair<R> cut(Pair<R> degrees, R& turn) {
+    auto const p = normalised(degrees);
+    turn = select(p.x < -180.0, R(-360.0), select(p.x > 180.0, R(360.0), R(0.0)));
+    return {p.x - turn, p.y};
+}
 
-} // namespace ZrProj::datum::ZRPROJ_LEVEL
+template <class R> Pair<R> restore(Pair<R> degrees, R& turn) {
+    return normalised(Pair<R>{degrees.x + turn, degrees.y});
+}
+
+template <Pair<Register> (*end)(Pair<Register>, Register&)>
+void runEnd(void const*, levels::Block& __restrict block) noexcept {
+    int const count = block.count;
+    for (int i = 0; i < count; i += lanes) {
+        Register turn = load(block.kept + i);
+        auto const out = end({load(block.x + i), load(block.y + i)}, turn);
+        store(block.x + i, out.x);
+        store(block.y + i, out.y);
+        store(block.kept + i, turn);
+    }
+}
+
+template <Pair<double> (*end)(Pair<double>, double&)> void runEndAlone(void const*, levels::LonePoint& point) noexcept {
+    auto const out = end({point.x, point.y}, point.kept);
+    point.x = out.x;
+    point.y = out.y;
+}
+
+template <std::size_t row> constexpr MethodSet::MakeStep stepOfRow() {
+    if constexpr (datumMethodTable[row].isComputed())
+        return makeStep<datumMethodTable[row].method>;
+    else
+        return nullptr;
+}
+
+template <std::size_t... row> constexpr MethodSet setOf(std::index_sequence<row...>) {
+    return {levels::ZRPROJ_LEVEL::convert,
+            {runEnd<cut<Register>>, runEndAlone<cut<double>>},
+            {runEnd<restore<Register>>, runEndAlone<restore<double>>},
+            {stepOfRow<row>()...}};
+}
+
+} // namespace
+} // namespace datum::ZRPROJ_LEVEL
+
+template <> datum::MethodSet const& levels::operationsOf<datum::MethodSet, levels::ZRPROJ_LEVEL::Home>() noexcept {
+    static constexpr auto set = datum::ZRPROJ_LEVEL::setOf(std::make_index_sequence<datumMethodTable.size()>());
+    return set;
+}
+
+} // namespace ZrProj

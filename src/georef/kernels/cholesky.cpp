@@ -1,10 +1,8 @@
 // A = L L^T, column block by column block: the block's own rows, the rows below it, and then what these take off the
 // rest of the matrix, which is nearly all of the work and goes tile by tile through registers.
-#include "georef/kernels/cholesky.h"
+#include "georef/kernels/kernels.h"
 
-#include "formulas/number.h"
-
-namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace ZrProj::georef::ZRPROJ_LEVEL {
 namespace {
 
 constexpr std::size_t blockColumns = 64; // a multiple of every register's size
@@ -90,4 +88,4 @@ bool factorise(SymmetricMatrix const& m, double leastPivot) noexcept {
     return true;
 }
 
-} // namespace ZrProj::formulas::ZRPROJ_LEVEL
+} // namespace ZrProj::georef::ZRPROJ_LEVEL

@@ -1,11 +1,11 @@
-#include "georef/kernels/kernel_set.h"
+#include "georef/kernels/kernels.h"
 
-#include "georef/kernels/cholesky.h"
-#include "georef/kernels/polynomial.h"
-#include "georef/kernels/warp.h"
+namespace ZrProj {
 
-namespace ZrProj::formulas::ZRPROJ_LEVEL {
+template <> georef::KernelSet const& levels::operationsOf<georef::KernelSet, levels::ZRPROJ_LEVEL::Home>() noexcept {
+    using namespace georef::ZRPROJ_LEVEL;
+    static constexpr georef::KernelSet set{mapByPolynomial, mapByWarp, basisRow, factorise};
+    return set;
+}
 
-constinit KernelSet const georefKernels{mapByPolynomial, mapByWarp, basisRow, factorise};
-
-} // namespace ZrProj::formulas::ZRPROJ_LEVEL
+} // namespace ZrProj

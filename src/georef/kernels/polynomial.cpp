@@ -1,8 +1,6 @@
-#include "georef/kernels/polynomial.h"
+#include "georef/kernels/kernels.h"
 
-#include "georef/kernels/point_registers.h"
-
-namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace ZrProj::georef::ZRPROJ_LEVEL {
 namespace {
 
 /// The polynomial of so many terms, Horner's way in u with coefficients in v.
@@ -18,28 +16,34 @@ template <int terms, class R> R sum(double const (&c)[10], R u, R v) {
                v * (c[2] + v * (c[5] + v * c[9]));
 }
 
-template <int terms> void mapBy(Polynomial const& map, GEOREFPOINT* points, std::size_t count) {
-    mapPoints(
-        [map](Xy<Register> p) {
-            Register const u = p.x - map.centre.x, v = p.y - map.centre.y;
-            return Xy<Register>{sum<terms>(map.x, u, v), sum<terms>(map.y, u, v)};
-        },
-        points, count);
+template <int terms> struct Terms {
+    Polynomial polynomial;
+
+    template <class R> Pair<R> convert(Pair<R> p) const {
+        R const u = p.x - polynomial.centre.x, v = p.y - polynomial.centre.y;
+        return {sum<terms>(polynomial.x, u, v), sum<terms>(polynomial.y, u, v)};
+    }
+};
+
+template <int terms>
+levels::Outcome mapBy(Polynomial const& map, levels::Points const& points, levels::Marking const& marking) {
+    return convertPoints<Direct<Terms<terms>>>(points, marking, Terms<terms>{map});
 }
 
 } // namespace
 
-void mapByPolynomial(Polynomial const& map, GEOREFPOINT* points, std::size_t count) noexcept {
+levels::Outcome mapByPolynomial(Polynomial const& map, levels::Points const& points,
+                                levels::Marking const& marking) noexcept {
     switch (map.terms) {
     case 3:
-        return mapBy<3>(map, points, count);
+        return mapBy<3>(map, points, marking);
     case 4:
-        return mapBy<4>(map, points, count);
+        return mapBy<4>(map, points, marking);
     case 6:
-        return mapBy<6>(map, points, count);
+        return mapBy<6>(map, points, marking);
     default:
-        return mapBy<10>(map, points, count);
+        return mapBy<10>(map, points, marking);
     }
 }
 
-} // namespace ZrProj::formulas::ZRPROJ_LEVEL
+} // namespace ZrProj::georef::ZRPROJ_LEVEL

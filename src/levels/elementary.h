@@ -4,11 +4,11 @@
 // unless a card says otherwise. "ulp" is the greatest error found by the tests, which hold each function to it.
 #pragma once
 
-#include "formulas/number.h"
+#include "levels/number.h"
 
 #include <numbers>
 
-namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace ZrProj::levels::ZRPROJ_LEVEL {
 
 inline constexpr double pi = std::numbers::pi;
 inline constexpr double halfPi = pi / 2;
@@ -147,7 +147,7 @@ template <class R> R log(R x) {
     auto const subnormal = (x > 0.0) & (x < DBL_MIN);
     R const raised = log(select(subnormal, x * 0x1p54, R(1.0))) - 54 * std::numbers::ln2;
     R const pole = -1.0 / abs(select(zero, x, R(1.0)));
-    return select(regular, result, select(subnormal, raised, select(zero, pole, select(x > 0.0, x, R(unplottable)))));
+    return select(regular, result, select(subnormal, raised, select(zero, pole, select(x > 0.0, x, R(notANumber)))));
 }
 
 /// log(1 + x), for x above -1. 1.6 ulp.
@@ -170,4 +170,4 @@ template <class R> R cbrt(R x) {
     return copySign(root + (size - root * root * root) * r * r / 3.0, x);
 }
 
-} // namespace ZrProj::formulas::ZRPROJ_LEVEL
+} // namespace ZrProj::levels::ZRPROJ_LEVEL

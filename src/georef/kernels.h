@@ -2,11 +2,14 @@
 // level.
 #pragma once
 
+#include "levels/level.h"
+#include "levels/stage.h"
+
 #include <zrproj/registration.h>
 
 #include <cstddef>
 
-namespace ZrProj::formulas {
+namespace ZrProj::georef {
 
 /// X and Y as polynomials of u = x - centre.x and v = y - centre.y, terms in the order
 /// 1, u, v, u^2, uv, v^2, u^3, u^2 v, u v^2, v^3; for 4 terms the fourth is uv.
@@ -37,8 +40,10 @@ struct SymmetricMatrix {
 };
 
 struct KernelSet {
-    void (*mapByPolynomial)(Polynomial const& map, GEOREFPOINT* points, std::size_t count) noexcept;
-    void (*mapByWarp)(Warp const& map, GEOREFPOINT* points, std::size_t count) noexcept;
+    levels::Outcome (*mapByPolynomial)(Polynomial const& map, levels::Points const& points,
+                                       levels::Marking const& marking) noexcept;
+    levels::Outcome (*mapByWarp)(Warp const& map, levels::Points const& points,
+                                 levels::Marking const& marking) noexcept;
     /// basis(r) for every control, r its distance from control `i`; not for inverse distances.
     void (*basisRow)(Warp const& map, std::size_t i, double* row) noexcept;
     /// Cholesky's factor L, in place on and below the diagonal. False where a pivot is not above `leastPivot`.
@@ -46,19 +51,8 @@ struct KernelSet {
 };
 
 /// At the processor level in use.
-KernelSet const& georefKernels() noexcept;
-
-namespace scalar {
-extern KernelSet const georefKernels;
-}
-namespace baseline {
-extern KernelSet const georefKernels;
-}
-namespace avx2 {
-extern KernelSet const georefKernels;
-}
-namespace avx512 {
-extern KernelSet const georefKernels;
+inline KernelSet const& kernels() noexcept {
+    return levels::operationsInUse<KernelSet>();
 }
 
-} // namespace ZrProj::formulas
+} // namespace ZrProj::georef

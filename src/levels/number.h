@@ -1,7 +1,8 @@
-// The number types that a formula is written for: `double`, and `Register`, a SIMD register full of doubles. What holds
-// for one holds for each lane of the other: no operation here lets one lane's value change another lane's result.
+// The number types that all arithmetic over arrays is written for: `double`, and `Register`, a SIMD register full of
+// doubles. What holds for one holds for each lane of the other: no operation here lets one lane's value change another
+// lane's result.
 //
-// This header, like all formula code, is compiled once per processor level, into the namespace ZRPROJ_LEVEL (scalar,
+// This header, like all such code, is compiled once per processor level, into the namespace ZRPROJ_LEVEL (scalar,
 // baseline, avx2, avx512). Nothing of a level may be shared with another: an inline function compiled for a newer
 // processor could be the copy that the linker keeps for everybody.
 #pragma once
@@ -16,7 +17,7 @@
 #include <xsimd/xsimd.hpp>
 #endif
 
-namespace ZrProj::formulas::ZRPROJ_LEVEL {
+namespace ZrProj::levels::ZRPROJ_LEVEL {
 
 inline double select(bool condition, double yes, double no) {
     return condition ? yes : no;
@@ -151,11 +152,13 @@ inline Register copySign(Register magnitude, Register sign) {
 
 #endif
 
-/// What a formula returns for a point that it cannot show. Quiet: no floating-point flag is raised by it.
-inline constexpr double unplottable = std::numeric_limits<double>::quiet_NaN();
+/// For what cannot be computed. Quiet: no floating-point flag is raised by it.
+inline constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
-/// A geographic point in radians, and a point of the map in the unit of the ellipsoid's radius.
-template <class R> struct LonLat { R lon, lat; };
-template <class R> struct Xy { R x, y; };
+/// A coordinate pair on its way.
+template <class R> struct Pair { R x, y; };
 
-} // namespace ZrProj::formulas::ZRPROJ_LEVEL
+/// A condition on an R.
+template <class R> using Condition = decltype(R() < R());
+
+} // namespace ZrProj::levels::ZRPROJ_LEVEL

@@ -1,14 +1,14 @@
-// Runs a method over a block, a register full of points at a time.
+// What the source of a datum method is written with.
 //
 // A method is a struct of constants with a template over the number type,
 //
 //     template <class R> Pair<R> shifted(Pair<R> degrees) const;
 #pragma once
 
-#include "datum/kernels/method_set.h"
-#include "formulas/converter.h"
+#include "datum/step.h"
 #include "formulas/degrees.h"
-#include "formulas/elementary.h"
+#include "formulas/parameters.h"
+#include "levels/driver.h"
 
 #include <cmath>
 #include <cstring>
@@ -34,38 +34,38 @@ inline double withoutTurns(double degrees) {
     return std::fabs(degrees) > reach ? std::fmod(degrees, 360.0) : degrees;
 }
 
-/// The same lane by lane. Out of line, since only poles, absurd parameters and regression equations far from their area
-/// need it.
-[[gnu::noinline]] inline Pair<Register> withoutTurns(Pair<Register> degrees) {
-    double x[lanes], y[lanes];
-    store(x, degrees.x);
-    store(y, degrees.y);
-    for (int i = 0; i < lanes; ++i) {
-        x[i] = withoutTurns(x[i]);
-        y[i] = withoutTurns(y[i]);
-    }
-    return {load(x), load(y)};
-}
-
 /// What the step before left, where sines and cosines of it have a meaning.
+inline Pair<double> withinReach(Pair<double> degrees) {
+    return {withoutTurns(degrees.x), withoutTurns(degrees.y)};
+}
+
+#if !defined(ZRPROJ_LEVEL_scalar)
+/// Only poles, absurd parameters and regression equations far from their area need it.
 [[gnu::always_inline]] inline Pair<Register> withinReach(Pair<Register> degrees) {
-    return any((abs(degrees.x) > reach) | (abs(degrees.y) > reach)) ? withoutTurns(degrees) : degrees;
+    return eachLaneWhere<withinReach>((abs(degrees.x) > reach) | (abs(degrees.y) > reach), degrees);
 }
+#endif
 
-template <class M> void runStep(Step const& step, Block& block) noexcept {
-    M const method = *std::launder(reinterpret_cast<M const*>(step.constants));
-    for (int i = 0; i < block.count; i += lanes) {
-        auto const p = method.shifted(withinReach({load(block.x + i), load(block.y + i)}));
-        store(block.x + i, p.x);
-        store(block.y + i, p.y);
-    }
-}
+/// A method as a stage.
+template <class M> struct Shift {
+    M const& method;
 
-/// Makes `method` what the step runs.
-template <class M> void hold(Step& step, M const& method) {
+    explicit Shift(void const* constants) : method(*std::launder(static_cast<M const*>(constants))) {}
+
+    template <class R> Pair<R> enter(Pair<R> degrees) const { return withinReach(degrees); }
+    template <class R> Pair<R> convert(Pair<R> degrees) const { return method.shifted(degrees); }
+    template <class R> Pair<R> leave(Pair<R> degrees) const { return degrees; }
+};
+
+/// A step that runs `method`.
+template <class M> Step stepOf(M const& method) {
+    Step step{codeOf<Shift<M>>(), {}};
     static_assert(std::is_trivially_copyable_v<M> && sizeof(M) <= sizeof step.constants);
     std::memcpy(step.constants, &method, sizeof method);
-    step.run = runStep<M>;
+    return step;
 }
+
+/// The step of a method: specialised, for its own method, at the end of each method's source.
+template <DatumMethod method> Step makeStep(DATUM2WGS84 const& record, DatumType type) noexcept;
 
 } // namespace ZrProj::datum::ZRPROJ_LEVEL

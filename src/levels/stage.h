@@ -1,0 +1,75 @@
+// Points on their way through a computation: where they come from, the stages that they pass, and what becomes of
+// them. The same for every processor level.
+#pragma once
+
+#include <cfloat>
+#include <cstddef>
+
+namespace ZrProj::levels {
+
+/// A caller's points, which are converted in place: pairs, two arrays, or whatever else lies at a stride.
+struct Points {
+    std::byte *x, *y;      // a `double` each, aligned or not: the first point's
+    std::ptrdiff_t stride; // bytes from a point's numbers to those of the next one
+    std::size_t count;
+};
+
+/// The same of an array of records that are an x and a y.
+template <class Record> Points pointsOf(Record* records, std::size_t count) noexcept {
+    static_assert(sizeof(Record) == 2 * sizeof(double));
+    auto* const first = reinterpret_cast<std::byte*>(records);
+    return {first, first + sizeof(double), sizeof(Record), count};
+}
+
+inline constexpr int blockPoints = 256;
+
+/// Up to blockPoints points in the first-level cache, in an order of their own. What cannot be computed is NaN.
+struct Block {
+    alignas(64) double x[blockPoints], y[blockPoints];
+    double kept[blockPoints]; // 0 at first; what a stage leaves for a later one
+    int count;
+};
+
+/// A point that did not come out of a block, on its way alone, in `double` with the arithmetic flags watched: a
+/// register may overflow where `double` does not.
+struct LonePoint {
+    double x, y;
+    double kept = 0;
+    bool raised = false; // a stage raised an arithmetic exception
+};
+
+/// One step of a computation, compiled for a processor level; empty, it leaves points as they are. The constants are
+/// read by these functions only.
+struct StageCode {
+    void (*run)(void const* constants, Block& block) noexcept = nullptr;
+    void (*alone)(void const* constants, LonePoint& point) noexcept = nullptr;
+
+    [[gnu::always_inline]] explicit operator bool() const { return run != nullptr; }
+};
+struct Stage {
+    StageCode code;
+    void const* constants;
+};
+
+/// What became of a point that is asked about: that it came in marked, infinite or NaN, or which stage lost it, the
+/// n-th from 0 being lostInStage + n.
+inline constexpr unsigned char cameOut = 0, cameInLost = 1, lostInStage = 2;
+
+/// How a computation says what it could not compute. A point with a coordinate of DBL_MAX comes in marked.
+struct Marking {
+    double marker = DBL_MAX;        // both coordinates of what is lost become this
+    bool keepsMarked = false;       // what came in marked and finite stays as it is, and does not count
+    unsigned char* fates = nullptr; // where a point's place is given and holds cameOut: what became of it
+};
+
+/// What became of an array of points.
+struct Outcome {
+    bool lost = false;   // at least one point was marked
+    bool failed = false; // at least one point raised an arithmetic exception
+};
+
+/// A level's driver. Stages must be of the same level.
+using Convert = Outcome(Stage const* stages, std::size_t stageCount, Points const& points,
+                        Marking const& marking) noexcept;
+
+} // namespace ZrProj::levels
