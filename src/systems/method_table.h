@@ -22,7 +22,7 @@ struct MethodRow {
     Method method;
     int code; // 0: without one
     std::string_view name;
-    std::array<int, 7> parameters; // codes, filled up with 0
+    std::array<int, 8> parameters; // codes, filled up with 0
 };
 
 // clang-format off
@@ -60,6 +60,11 @@ inline constexpr ParameterRow parameterRows[] = {
     {8835, Parameter::longitudeOfOrigin, Kind::angle,  "Longitude of topocentric origin"},
     {8836, Parameter::planeHeight,       Kind::length, "Ellipsoidal height of topocentric origin"},
     {8840, Parameter::viewHeight,        Kind::length, "Viewpoint height"},
+    // Without a code in the register:
+    {-1,   Parameter::latitudeOfPoint1,  Kind::angle,  "Latitude of 1st point"},
+    {-2,   Parameter::longitudeOfPoint1, Kind::angle,  "Longitude of 1st point"},
+    {-3,   Parameter::latitudeOfPoint2,  Kind::angle,  "Latitude of 2nd point"},
+    {-4,   Parameter::longitudeOfPoint2, Kind::angle,  "Longitude of 2nd point"},
 };
 
 /// In the order of Method. Where the register keeps a method under two codes, the row has the one in force.
@@ -122,7 +127,7 @@ inline constexpr MethodRow methodRows[] = {
     {Method::eckert4,                         0, "Eckert IV",                               {8802, 8806, 8807}},
     {Method::eckert6,                         0, "Eckert VI",                               {8802, 8806, 8807}},
     {Method::gaussSchreiber,                  0, "Gauss Schreiber Transverse Mercator",     {8801, 8802, 8805, 8806, 8807}},
-    {Method::hotineTwoPoints,                 0, "Hotine Oblique Mercator Two Point Natural Origin", {8811, 8815, 8816, 8817}},
+    {Method::hotineTwoPoints,                 0, "Hotine Oblique Mercator Two Point Natural Origin", {8811, -1, -2, -3, -4, 8815, 8816, 8817}},
 };
 // clang-format on
 

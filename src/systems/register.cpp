@@ -35,7 +35,7 @@ void setConversion(Definition& definition, ConversionRow const& row) {
     definition.conversionCode = row.code;
     definition.method = row.method;
     auto const& parameters = rowOf(row.method).parameters;
-    for (std::size_t i = 0; i < parameters.size() && parameters[i] != 0; ++i)
+    for (std::size_t i = 0; i < std::size(row.values) && parameters[i] != 0; ++i)
         definition.parameters[parameterByCode(parameters[i])->parameter] = values[row.values[i]];
 }
 

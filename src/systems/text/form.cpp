@@ -1,0 +1,107 @@
+#include "systems/text/form.h"
+
+#include "host/text.h"
+#include "systems/text/readers.h"
+
+#include <algorithm>
+#include <array>
+#include <charconv>
+
+namespace ZrProj::systems {
+
+namespace {
+
+constexpr std::string_view blanks = " \t\r\n";
+
+/// What may stand before a code, without regard to case.
+constexpr std::array<std::string_view, 7> codeBeginnings = {"EPSG:",
+                                                            "urn:ogc:def:crs:EPSG:",
+                                                            "urn:x-ogc:def:crs:EPSG:",
+                                                            "urn:ogc:def:crs,crs:EPSG:",
+                                                            "http://www.opengis.net/def/crs/EPSG/",
+                                                            "https://www.opengis.net/def/crs/EPSG/",
+                                                            "http://www.opengis.net/gml/srs/epsg.xml#"};
+
+std::string_view trimmed(std::string_view text) {
+    std::size_t const begin = std::min(text.find_first_not_of(blanks), text.size());
+    text.remove_prefix(begin);
+    return text.substr(0, text.find_last_not_of(blanks) + 1);
+}
+
+bool beginsWith(std::string_view text, std::string_view beginning) {
+    return equalIgnoringCase(text.substr(0, beginning.size()), beginning);
+}
+
+/// A whole number above 0 and nothing else.
+std::optional<Code> wholeCode(std::string_view text) {
+    Code code = 0;
+    auto const [end, error] = std::from_chars(text.data(), text.data() + text.size(), code);
+    if (error != std::errc() || end != text.data() + text.size() || code <= 0)
+        return {};
+    return code;
+}
+
+/// The code after the version, which may be left out (urn:ogc:def:crs:EPSG::4326), and before what follows it.
+std::optional<Code> codeAfter(std::string_view rest, char mark, char end) {
+    rest = rest.substr(0, rest.find(end));
+    return wholeCode(rest.substr(rest.rfind(mark) + 1));
+}
+
+/// Keywords of the first generation; every other keyword before a bracket is the second's.
+constexpr std::array<std::string_view, 8> wkt1Keywords = {"GEOGCS",  "PROJCS", "COMPD_CS", "GEOCCS",
+                                                          "VERT_CS", "VERTCS", "LOCAL_CS", "FITTED_CS"};
+
+bool isKeyword(std::string_view word) {
+    return !word.empty() && std::ranges::all_of(word, [](char c) {
+        char const small = asciiLower(c);
+        return (small >= 'a' && small <= 'z') || c == '_';
+    });
+}
+
+bool isProjString(std::string_view text) {
+    return text.starts_with('+') || text.starts_with("proj=") || text.starts_with("init=") ||
+           text.find("+proj=") != std::string_view::npos;
+}
+
+} // namespace
+
+std::optional<Code> codeIn(std::string_view text) {
+    text = trimmed(text);
+    for (std::string_view const beginning : codeBeginnings)
+        if (beginsWith(text, beginning))
+            return codeAfter(text.substr(beginning.size()), beginning.back() == '/' ? '/' : ':', ',');
+    return wholeCode(text);
+}
+
+Form formOf(std::string_view text) {
+    text = trimmed(text);
+    if (codeIn(text))
+        return Form::code;
+    if (text.starts_with('{'))
+        return Form::projJson;
+    std::size_t const bracket = text.find_first_of("[(");
+    std::string_view const keyword = trimmed(text.substr(0, std::min(bracket, text.size())));
+    bool const quoted = bracket != std::string_view::npos && trimmed(text.substr(bracket + 1)).find('"') == 0;
+    if (std::ranges::any_of(wkt1Keywords, [&](std::string_view each) { return equalIgnoringCase(each, keyword); }))
+        return Form::wkt1;
+    if (bracket != std::string_view::npos && isKeyword(keyword) && (quoted || keyword.ends_with("CRS")))
+        return Form::wkt2;
+    return isProjString(text) ? Form::projString : Form::name;
+}
+
+Outcome<Definition> readDefinition(std::string_view text) {
+    switch (formOf(text)) {
+    case Form::wkt1:
+        return readWkt1(text);
+    case Form::wkt2:
+        return readWkt2(text);
+    case Form::projJson:
+        return readProjJson(text);
+    case Form::projString:
+        return readProjString(text);
+    default:
+        return Problem{Fault::malformed, "line 1, column 1: well-known text, PROJJSON or a PROJ string was expected"};
+    }
+}
+
+} // namespace ZrProj::systems
