@@ -1,5 +1,5 @@
 // Where the maps end: which types a line can be torn in two by, and how sharp the limits of a range are.
-#include "formulas/levels.h"
+#include "formulas/converter.h"
 #include "proj/projection_table.h"
 #include "support/faults.h"
 #include "support/registry.h"
