@@ -1,11 +1,9 @@
 // The library for C, and for whatever can call C: coordinate systems, transforms between them, control points, clipping
 // and side files, as functions on handles. Plain C99 and C++11.
 //
-//     zrproj_parameters utm = {sizeof utm, 4, 47};            // Universal Transverse Mercator, WGS 84
-//     utm.lon0 = -81;                                          // zone 17
 //     zrproj_system *map, *geographic;
 //     zrproj_transform* transform;
-//     if (zrproj_system_create_from_parameters(&utm, &map) != ZRPROJ_OK)
+//     if (zrproj_system_create("WGS 84 / UTM zone 17N", &map) != ZRPROJ_OK) // or "EPSG:32617", or well-known text
 //         puts(zrproj_message());
 //     zrproj_system_geographic(map, &geographic);
 //     zrproj_transform_create(geographic, map, NULL, &transform);
@@ -24,7 +22,7 @@
 //   after a failure. A null pointer where it is not said to be allowed is ZRPROJ_BAD_ARGUMENT, memory that runs out is
 //   ZRPROJ_NO_MEMORY, and neither is listed again below.
 // - Texts that come out as pointers are UTF-8, closed by a null, and live as long as the library, unless said
-// otherwise.
+//   otherwise.
 // - Entries of a list are asked for one by one, 0 first; ZRPROJ_UNKNOWN is the answer past the last.
 // - Nothing is thrown, the caller's floating-point environment and locale are neither changed nor of any influence.
 #ifndef ZRPROJ_C_H
@@ -43,7 +41,7 @@ typedef enum zrproj_status {
     ZRPROJ_OK = 0,
     ZRPROJ_BAD_ARGUMENT,   ///< null, a count that cannot be, a number that is not finite
     ZRPROJ_BAD_DEFINITION, ///< the definition makes no sense; the message says where it stops making sense
-    ZRPROJ_UNKNOWN,        ///< well formed, but not in the list
+    ZRPROJ_UNKNOWN,        ///< well formed, but not in the list or register; the message suggests what is near
     ZRPROJ_UNSUPPORTED,    ///< known, but cannot be computed or said; the message says which part of it and why
     ZRPROJ_NO_PATH,        ///< no way from one datum to the other; the message says why
     ZRPROJ_FILE,           ///< could not be read or written, or is damaged; the message says where
@@ -179,6 +177,18 @@ ZRPROJ_API zrproj_status zrproj_parameters_set(zrproj_parameters* parameters, in
 /// A coordinate system.
 typedef struct zrproj_system zrproj_system;
 
+/// Makes a system of a definition in UTF-8, whatever its form: a code ("EPSG:28992", "28992", a URN), a name of the
+/// register or another maker's ("Amersfoort / RD New"; without regard to case; "WGS84", "NAD27", "UTM 17N"), well-known
+/// text of any generation (1 as GDAL or as ESRI writes it, 2 of 2015 or 2019), PROJJSON, or a PROJ string. Coordinates
+/// are x, y always, whatever a definition says of their order; axes that run south or west keep their sense. A compound
+/// system is taken by its horizontal part; heights and epochs are left out.
+///
+/// What says the same as an entry of the register is that entry. Where a code or name is contradicted by its own
+/// numbers the numbers count, and the message tells; it tells of a deprecated system too. ZRPROJ_BAD_DEFINITION, with
+/// the place as message, for a text that makes no sense; ZRPROJ_UNKNOWN, with what is near, for a code or name that
+/// the register does not have; ZRPROJ_UNSUPPORTED for what is known, but cannot be computed.
+ZRPROJ_API zrproj_status zrproj_system_create(char const* definition, zrproj_system** system);
+
 /// Makes a system of parameters. ZRPROJ_BAD_DEFINITION, with the reason as message, for parameters that make no
 /// projection or datum: a type that is none, an angle out of its range, a cone that is none, a zone without a
 /// definition, no ellipsoid at all. ZRPROJ_BAD_ARGUMENT for a number that is not finite. ZRPROJ_UNSUPPORTED for a
@@ -188,13 +198,50 @@ ZRPROJ_API zrproj_status zrproj_system_create_from_parameters(zrproj_parameters 
 
 ZRPROJ_API void zrproj_system_destroy(zrproj_system* system);
 
+/// The form of a system's text.
+typedef enum zrproj_format {
+    ZRPROJ_NAME = 0,    ///< "Amersfoort / RD New"
+    ZRPROJ_CODE,        ///< "EPSG:28992"; ZRPROJ_UNKNOWN for a system that is not in the register
+    ZRPROJ_WKT2,        ///< well-known text, ISO 19162:2019
+    ZRPROJ_WKT1,        ///< well-known text of the first generation as GDAL writes it
+    ZRPROJ_WKT_ESRI,    ///< well-known text of the first generation as ESRI writes it, for .prj files
+    ZRPROJ_PROJ_STRING, ///< "+proj=..."; of most datums it tells the ellipsoid alone
+    ZRPROJ_PROJJSON
+} zrproj_format;
+
+/// A system's text, for one made of parameters too. Buffer and length as for zrproj_transform_describe.
+/// ZRPROJ_UNSUPPORTED where the form cannot say what changes coordinates.
+ZRPROJ_API zrproj_status zrproj_system_text(zrproj_system const* system, zrproj_format format, char* buffer,
+                                            size_t size, size_t* length);
+
+/// The area of use in degrees; west > east crosses the antimeridian. Outputs may be null. ZRPROJ_UNKNOWN where the
+/// definition has none.
+ZRPROJ_API zrproj_status zrproj_system_area(zrproj_system const* system, double* west, double* south, double* east,
+                                            double* north);
+
 /// The parameters that a system stands for, completed: radius, flattening and scale factors, the false origin of a UTM
-/// zone. `parameters->size` must be set.
+/// zone. `parameters->size` must be set. ZRPROJ_UNSUPPORTED for a system made of a definition.
 ZRPROJ_API zrproj_status zrproj_system_parameters(zrproj_system const* system, zrproj_parameters* parameters);
 
 /// The system of longitudes and latitudes that a system is based on, of the same figure and datum, as a handle of its
 /// own.
 ZRPROJ_API zrproj_status zrproj_system_geographic(zrproj_system const* system, zrproj_system** geographic);
+
+/// The n-th system of the register, in the order of codes: its code, its name and its kind, "geographic" or
+/// "projected". Outputs may be null.
+ZRPROJ_API zrproj_status zrproj_register_entry(size_t n, int* code, char const** name, char const** kind);
+
+/// Searches the register: systems with all the words of `text` in their name, letter case ignored, or with that code,
+/// and with `place`, a longitude and a latitude in degrees, in their area of use; the smallest area first where a place
+/// is given, else in the order of codes. Either may be null. Deprecated systems are found by their whole code alone.
+/// The first `size` results are written to `entries`, as numbers for zrproj_register_entry, which may be null where
+/// `size` is 0; `*count` is how many there are. ZRPROJ_BAD_ARGUMENT for a place that is none.
+ZRPROJ_API zrproj_status zrproj_register_search(char const* text, double const* place, size_t* entries, size_t size,
+                                                size_t* count);
+
+/// The edition of the register and its terms of use, a sentence each.
+ZRPROJ_API char const* zrproj_register_version(void);
+ZRPROJ_API char const* zrproj_register_terms(void);
 
 // ---- Transforms.
 
@@ -211,7 +258,7 @@ typedef struct zrproj_options {
 
 /// Makes the way from one system to another; both may be destroyed afterwards. `options` may be null for the defaults.
 /// ZRPROJ_BAD_ARGUMENT for options of no known size or threads below -1. ZRPROJ_NO_PATH where the systems lie on
-/// different datums or figures.
+/// different datums or figures. Realizations of one datum are taken as one, which zrproj_transform_describe tells.
 ZRPROJ_API zrproj_status zrproj_transform_create(zrproj_system const* from, zrproj_system const* to,
                                                  zrproj_options const* options, zrproj_transform** transform);
 
@@ -227,10 +274,11 @@ ZRPROJ_API zrproj_status zrproj_transform_describe(zrproj_transform const* trans
 /// What became of a point. Below 16 the point has a result.
 typedef enum zrproj_reason {
     ZRPROJ_CONVERTED = 0,
-    ZRPROJ_FAR = 1,          ///< computed, but farther out than the method's accuracy is stated for: in the Transverse
-                             ///< Mercator family on an ellipsoid, more than 10 degrees from the central meridian
-    ZRPROJ_OUT_OF_AREA = 2,  ///< computed, but outside the datum shift's area
-    ZRPROJ_NOT_FINITE = 16,  ///< came in infinite, NaN or already marked (DBL_MAX)
+    ZRPROJ_FAR = 1,         ///< computed, but farther out than the method's accuracy is stated for: Transverse Mercator
+                            ///< of a definition more than 3900 km from its central meridian, and by parameters (types
+                            ///< 4, 17, 18) on an ellipsoid more than 10 degrees
+    ZRPROJ_OUT_OF_AREA = 2, ///< computed, but outside the datum shift's area
+    ZRPROJ_NOT_FINITE = 16, ///< came in infinite, NaN or already marked (DBL_MAX)
     ZRPROJ_BEYOND_POLE = 17, ///< a latitude above 90 degrees either way
     ZRPROJ_NOT_SHOWN = 18,   ///< a place that the projection does not show
     ZRPROJ_OFF_THE_MAP = 19, ///< map coordinates where no place is

@@ -1,7 +1,8 @@
 #include "door/points.h"
 #include "door/system.h"
 
-#include <zrproj/preclip.h>
+#include "formulas/converter.h"
+#include "proj/preclip_edges.h"
 
 #include <vector>
 
@@ -18,38 +19,54 @@ struct zrproj_pieces {
 
 namespace {
 
-using Preclip = bool (*)(void* handle, PROJPOINT const* points, unsigned count, CPROJCHAIN** chains);
+using Reader = std::vector<preclip::Path> (*)(std::span<PROJPOINT const> points);
 
-struct ChainsDeleter {
-    void operator()(CPROJCHAIN* chains) const { ProjFreeChains(chains); }
-};
+void shift(std::span<PROJPOINT> points, double degrees) {
+    if (degrees == 0)
+        return;
+    for (PROJPOINT& point : points)
+        point.x += degrees;
+}
 
-void take(zrproj_pieces& pieces, CPROJCHAIN const* chain) {
-    for (; chain; chain = chain->pNext) {
-        auto& piece = pieces.pieces.emplace_back(zrproj_pieces::Piece{{}, chain->bClosed});
-        piece.pairs.reserve(2 * std::size_t{chain->nPoints});
-        for (PROJPOINT const& point : std::span(chain->pPoints, chain->nPoints))
+/// What the map shows of a line or a ring, whose longitudes count from `meridian` where the map's edges may count from
+/// another.
+std::vector<preclip::Path> clipped(systems::Conversion const& conversion, double meridian,
+                                   std::vector<PROJPOINT> points, Reader read) {
+    double const offset = conversion.meridian - meridian;
+    auto const edges = formulas::formulaOf(conversion.method)->edges(conversion.parameters);
+    shift(points, -offset);
+    auto paths = preclip::cutToEdges(edges, read(points));
+    for (auto& path : paths) {
+        if (path.isAsGiven)
+            path.points = points;
+        shift(path.points, offset);
+    }
+    return paths;
+}
+
+void take(zrproj_pieces& pieces, std::span<preclip::Path const> paths) {
+    for (auto const& path : paths) {
+        auto& piece = pieces.pieces.emplace_back(zrproj_pieces::Piece{{}, path.isRing});
+        piece.pairs.reserve(2 * path.points.size());
+        for (PROJPOINT const& point : path.points)
             piece.pairs.insert(piece.pairs.end(), {point.x, point.y});
     }
 }
 
-zrproj_status clip(zrproj_system const* system, double const* points, size_t count, size_t least, Preclip preclip,
+zrproj_status clip(zrproj_system const* system, double const* points, size_t count, size_t least, Reader read,
                    zrproj_pieces** pieces) {
     return answerWith(pieces, [&](zrproj_pieces& made) -> Answer {
         if (!system || !points)
             return badArgument("null pointer to a system or points");
         if (count < least || count > std::numeric_limits<unsigned>::max())
             return badArgument("at least " + std::to_string(least) + " points are needed");
-        if (!system->projection)
+        if (system->projection->isGeographic())
             return unsupported("a geographic system's map has no edges");
         std::vector<PROJPOINT> given(count);
         for (size_t i = 0; i < count; ++i)
             given[i] = {points[2 * i], points[2 * i + 1]};
-        CPROJCHAIN* chains = nullptr;
-        if (!preclip(system->projection->handle(), given.data(), static_cast<unsigned>(count), &chains))
-            throw std::bad_alloc();
-        std::unique_ptr<CPROJCHAIN, ChainsDeleter> const owner(chains);
-        take(made, chains);
+        take(made, clipped(system->projection->conversion(), system->definition.datum.meridian.longitude,
+                           std::move(given), read));
         return {};
     });
 }
@@ -58,12 +75,12 @@ zrproj_status clip(zrproj_system const* system, double const* points, size_t cou
 
 zrproj_status zrproj_clip_line(zrproj_system const* system, double const* points, size_t count,
                                zrproj_pieces** pieces) {
-    return clip(system, points, count, 2, ProjLLPreclipPolyline, pieces);
+    return clip(system, points, count, 2, preclip::linesOf, pieces);
 }
 
 zrproj_status zrproj_clip_ring(zrproj_system const* system, double const* points, size_t count,
                                zrproj_pieces** pieces) {
-    return clip(system, points, count, 3, ProjLLPreclipPolygon, pieces);
+    return clip(system, points, count, 3, preclip::ringsOf, pieces);
 }
 
 zrproj_status zrproj_pieces_entry(zrproj_pieces const* pieces, size_t n, double const** points, size_t* count,

@@ -1,6 +1,6 @@
-// The Transverse Mercator family evaluates its series however far a point lies from the central meridian, and whatever
-// the map coordinates. So here its map ends 45 degrees from that meridian and at the poles, places farther than 10
-// degrees out are told, and their map coordinates must lead back to themselves.
+// The Transverse Mercator family of the records evaluates its series however far a point lies from the central
+// meridian, and whatever the map coordinates. So here its map ends 45 degrees from that meridian and at the poles,
+// places farther than 10 degrees out are told, and their map coordinates must lead back to themselves.
 #include "door/projection.h"
 
 #include <algorithm>
@@ -15,47 +15,52 @@ constexpr double lastDegrees = 45, farDegrees = 10;
 // Parts of the radius: a millimetre on the Earth, and more than the series themselves miss by within 10 degrees of the
 // meridian and over all of the map: 3 m and 100 km.
 constexpr double poleTolerance = 1.6e-10, nearMiss = 5e-7, farMiss = 1 / 64.0;
+// Krueger's series are stated to 3900 km from the central meridian (Karney 2011), which on the map is this part of the
+// radius times the scale there, asinh(tan(3900 km / 6378.137 km)).
+constexpr double kruegerReach = 0.6536;
 
 bool isMarked(PROJPOINT const& point) {
     return point.x == DBL_MAX || point.y == DBL_MAX;
 }
 
-bool isTransverse(ProjType type) {
-    return type == ProjTypeUniversalTransverseMercator || type == ProjTypeTransverseMercator ||
-           type == ProjTypeGaussKruger;
-}
-
 } // namespace
 
-std::shared_ptr<Projection const> Projection::make(zrproj_parameters const& parameters) {
-    PROJDATA record = recordOf(parameters);
-    if (isTransverse(record.Type))
-        record.Lon0 = wrapped(record.Lon0);
-    PROJDATA definition = record;
-    ProjGetStateZoneParams(&definition);
-    Handle handle(ProjCreateProjection(&record));
-    if (!handle)
-        throw std::bad_alloc();
-    std::unique_ptr<Projection> projection(new Projection(std::move(handle), definition));
-    return projection->converter().forward ? std::shared_ptr<Projection const>(std::move(projection)) : nullptr;
+std::variant<std::shared_ptr<Projection const>, systems::Unsupported>
+Projection::make(systems::Conversion const& conversion) {
+    systems::Conversion inTurn = conversion;
+    inTurn.parameters.lon0 = wrapped(conversion.parameters.lon0);
+    auto converter = systems::SystemConverter::make(inTurn);
+    if (auto* const why = std::get_if<systems::Unsupported>(&converter))
+        return std::move(*why);
+    return std::shared_ptr<Projection const>(
+        new Projection(inTurn, std::move(std::get<systems::SystemConverter>(converter))));
 }
 
-Projection::Projection(Handle handle, PROJDATA const& definition)
-    : m_handle(std::move(handle)), m_isSeries(isTransverse(definition.Type)),
-      m_isApproximate(m_isSeries && definition.Flattening > 0), m_meridian(definition.Lon0),
-      m_radius(definition.MajorRadius * definition.Scale) {
-    if (!m_isSeries || !converter().forward)
+Projection::Kind Projection::kindOf(formulas::Method method) {
+    switch (method) {
+    case formulas::Method::none:
+        return Kind::geographic;
+    case formulas::Method::transverseMercator:
+        return Kind::series;
+    case formulas::Method::transverseMercatorExact:
+        return Kind::krueger;
+    default:
+        return Kind::other;
+    }
+}
+
+Projection::Projection(systems::Conversion const& conversion, systems::SystemConverter&& converter)
+    : m_conversion(conversion), m_converter(std::move(converter)), m_kind(kindOf(conversion.method)),
+      m_meridian(conversion.parameters.lon0 + conversion.meridian),
+      m_radius(conversion.parameters.a * conversion.scale) {
+    if (m_kind != Kind::series && m_kind != Kind::krueger)
         return;
+    m_isApproximate = m_kind == Kind::series && conversion.parameters.f > 0;
     std::array poles{PROJPOINT{m_meridian, -90}, PROJPOINT{m_meridian, 90}};
-    run(&formulas::Converter::forward, poles);
+    m_converter.forward(poles.data(), static_cast<int>(poles.size()));
     m_south = poles[0].y - poleTolerance * m_radius;
     m_north = poles[1].y + poleTolerance * m_radius;
     m_middle = poles[0].x;
-}
-
-/// The one place where the converters are called.
-void Projection::run(formulas::Converter::Direction direction, std::span<PROJPOINT> points) const noexcept {
-    converter().convert(direction, levels::pointsOf(points.data(), points.size()), {.keepsMarked = true});
 }
 
 /// The longitude within 180 degrees of the central one.
@@ -72,19 +77,30 @@ Reason Projection::rangeOf(double longitude) const noexcept {
     return m_isApproximate && offset > farDegrees ? ZRPROJ_FAR : ZRPROJ_CONVERTED;
 }
 
+/// What Krueger's series make of map coordinates.
+Reason Projection::rangeOnMap(PROJPOINT const& map) const noexcept {
+    double const reach = kruegerReach * m_radius * m_conversion.parameters.k0;
+    return std::fabs(map.x - m_middle) > reach ? ZRPROJ_FAR : ZRPROJ_CONVERTED;
+}
+
 void Projection::forward(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept {
     for (std::size_t i = 0; i < points.size(); ++i) {
-        if (m_isSeries && hasResult(reasons[i])) {
+        if (m_kind == Kind::series && hasResult(reasons[i])) {
             points[i].x = beside(points[i].x);
             reasons[i] = std::max(reasons[i], rangeOf(points[i].x));
         }
         if (!hasResult(reasons[i]))
             points[i] = mark;
     }
-    run(&formulas::Converter::forward, points);
-    for (std::size_t i = 0; i < points.size(); ++i)
-        if (hasResult(reasons[i]) && isMarked(points[i]))
+    m_converter.forward(points.data(), static_cast<int>(points.size()));
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        if (!hasResult(reasons[i]))
+            continue;
+        if (isMarked(points[i]))
             reasons[i] = ZRPROJ_NOT_SHOWN;
+        else if (m_kind == Kind::krueger)
+            reasons[i] = std::max(reasons[i], rangeOnMap(points[i]));
+    }
 }
 
 /// Whether map coordinates are so near to the central meridian, for their distance from the poles, that a series cannot
@@ -95,7 +111,7 @@ bool Projection::isSurelyGood(PROJPOINT const& map) const noexcept {
 }
 
 /// What to think of the place that a series gives for map coordinates.
-Reason Projection::reasonOfResult(PROJPOINT const& map, PROJPOINT const& place) const noexcept {
+Reason Projection::reasonOfSeries(PROJPOINT const& map, PROJPOINT const& place) const noexcept {
     if (!(map.y >= m_south && map.y <= m_north))
         return ZRPROJ_OFF_THE_MAP;
     Reason const range = rangeOf(place.x);
@@ -104,10 +120,16 @@ Reason Projection::reasonOfResult(PROJPOINT const& map, PROJPOINT const& place) 
     if (isSurelyGood(map))
         return range;
     PROJPOINT back = place;
-    run(&formulas::Converter::forward, {&back, 1});
+    m_converter.forward(&back, 1);
     double const miss = std::fabs(back.x - map.x) + std::fabs(back.y - map.y);
     double const limit = range == ZRPROJ_FAR ? farMiss : nearMiss;
     return miss < limit * m_radius ? range : Reason{ZRPROJ_OFF_THE_MAP};
+}
+
+Reason Projection::reasonOfPlace(PROJPOINT const& place) const noexcept {
+    if (isMarked(place))
+        return ZRPROJ_OFF_THE_MAP;
+    return isGeographic() && std::fabs(place.y) > 90 ? ZRPROJ_BEYOND_POLE : ZRPROJ_CONVERTED;
 }
 
 void Projection::inverse(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept {
@@ -118,21 +140,22 @@ void Projection::inverse(std::span<PROJPOINT> points, std::span<Reason> reasons)
     for (std::size_t i = 0; i < points.size(); ++i)
         if (!hasResult(reasons[i]))
             points[i] = mark;
-    if (m_isSeries)
+    if (m_kind == Kind::series || m_kind == Kind::krueger)
         std::ranges::copy(points, map.begin());
-    run(&formulas::Converter::inverse, points);
+    m_converter.inverse(points.data(), static_cast<int>(points.size()));
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (!hasResult(reasons[i]))
             continue;
-        if (isMarked(points[i])) {
-            reasons[i] = ZRPROJ_OFF_THE_MAP;
+        reasons[i] = std::max(reasons[i], reasonOfPlace(points[i]));
+        if (!hasResult(reasons[i]))
             continue;
-        }
-        if (m_isSeries) {
+        if (m_kind == Kind::series) {
             points[i].x = beside(points[i].x);
-            reasons[i] = std::max(reasons[i], reasonOfResult(map[i], points[i]));
+            reasons[i] = std::max(reasons[i], reasonOfSeries(map[i], points[i]));
+            points[i].x = wrapped(points[i].x);
+        } else if (m_kind == Kind::krueger) {
+            reasons[i] = std::max(reasons[i], rangeOnMap(map[i]));
         }
-        points[i].x = wrapped(points[i].x);
     }
 }
 

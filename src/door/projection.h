@@ -1,9 +1,12 @@
-// A projection as the door uses it: made once, by any number of threads at a time, and with a reason for each point.
+// What carries a system's coordinates to places and back, as the door uses it: made once, by any number of threads at a
+// time, and with a reason for each point. The same for systems made from parameters and from definitions.
 #pragma once
 
-#include "door/parameters.h"
-#include "proj/handle.h"
+#include "systems/conversion.h"
 
+#include <zrproj/c.h>
+
+#include <cmath>
 #include <memory>
 #include <span>
 
@@ -23,36 +26,43 @@ inline double wrapped(double longitude) {
 
 class Projection {
 public:
-    /// parameters: complete. Null where they define no map.
-    static std::shared_ptr<Projection const> make(zrproj_parameters const& parameters);
+    /// Nothing where the conversion defines no map.
+    static std::variant<std::shared_ptr<Projection const>, systems::Unsupported>
+    make(systems::Conversion const& conversion);
 
-    /// Converts places in degrees, finite and within the poles, to map coordinates, and those on to degrees again. What
-    /// has no result comes in and leaves with its reason, whatever its coordinates.
+    /// Converts places in degrees from Greenwich, finite and within the poles, to the system's coordinates, and those
+    /// on to degrees again. What has no result comes in and leaves with its reason, whatever its coordinates.
     void forward(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept;
     void inverse(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept;
 
-    /// For the functions of the record interface that change nothing.
-    void* handle() const { return m_handle.get(); }
+    bool isGeographic() const { return m_kind == Kind::geographic; }
+
+    /// How the coordinates are computed; clipping goes by the edges of its map.
+    systems::Conversion const& conversion() const { return m_conversion; }
 
 private:
-    struct Deleter {
-        void operator()(void* handle) const { ProjDeleteProjection(handle); }
+    enum class Kind {
+        geographic,
+        series,  // of the Transverse Mercator family, as the records have it
+        krueger, // Transverse Mercator by Krueger's series
+        other
     };
-    using Handle = std::unique_ptr<void, Deleter>;
 
-    Projection(Handle handle, PROJDATA const& definition);
+    Projection(systems::Conversion const& conversion, systems::SystemConverter&& converter);
 
-    formulas::Converter const& converter() const { return ProjectionBlock::of(m_handle.get()).converter; }
-    void run(formulas::Converter::Direction direction, std::span<PROJPOINT> points) const noexcept;
+    static Kind kindOf(formulas::Method method);
     double beside(double longitude) const noexcept;
     Reason rangeOf(double longitude) const noexcept;
+    Reason rangeOnMap(PROJPOINT const& map) const noexcept;
     bool isSurelyGood(PROJPOINT const& map) const noexcept;
-    Reason reasonOfResult(PROJPOINT const& map, PROJPOINT const& place) const noexcept;
+    Reason reasonOfSeries(PROJPOINT const& map, PROJPOINT const& place) const noexcept;
+    Reason reasonOfPlace(PROJPOINT const& place) const noexcept;
 
-    Handle m_handle;
-    bool m_isSeries;                               // of the Transverse Mercator family
-    bool m_isApproximate;                          // and on an ellipsoid: there the series is cut off
-    double m_meridian;                             // the central one
+    systems::Conversion m_conversion;
+    systems::SystemConverter m_converter;
+    Kind m_kind;
+    bool m_isApproximate = false;                  // a series on an ellipsoid, where it is cut off
+    double m_meridian;                             // the central one, from Greenwich
     double m_radius;                               // on the map
     double m_south = 0, m_north = 0, m_middle = 0; // where a series' poles and its meridian lie
 };

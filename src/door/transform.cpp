@@ -1,13 +1,14 @@
 #include "door/points.h"
 #include "door/system.h"
-#include "proj/projection_table.h"
+#include "systems/datum_link.h"
 
 using namespace ZrProj;
 using namespace ZrProj::Door;
 
-/// From map coordinates to degrees by one projection, and on to map coordinates by the other.
+/// From one system's coordinates to degrees from Greenwich, and on to the other's.
 struct zrproj_transform {
     zrproj_system from, to;
+    systems::DatumLink link;
     int threads = 0;
 };
 
@@ -16,55 +17,27 @@ namespace {
 constexpr std::array reasonNames{"converted", "far", "out of area"};
 constexpr std::array failureNames{"not finite", "beyond pole", "not shown", "off the map", "off the grid"};
 
-bool areEqual(zrproj_shift const& a, zrproj_shift const& b) {
-    return a.method == b.method && a.dx == b.dx && a.dy == b.dy && a.dz == b.dz && a.rx == b.rx && a.ry == b.ry &&
-           a.rz == b.rz && a.scale == b.scale && a.prime_meridian == b.prime_meridian;
-}
-
-/// Why no way is known from one system to the other; "" where nothing lies between them.
-std::string separation(zrproj_parameters const& from, zrproj_parameters const& to) {
-    if (!hasDatum(from) || !hasDatum(to)) {
-        if (hasDatum(from) != hasDatum(to))
-            return "the datum of one of the systems is not told";
-    } else if (from.datum != to.datum || (from.datum == DatumTypeUserDefined && !areEqual(from.shift, to.shift))) {
-        return "the systems lie on different datums";
-    }
-    if (from.radius != to.radius || from.flattening != to.flattening)
-        return "the systems lie on different ellipsoids";
-    return "";
+/// Why no way is known from one system to the other.
+std::string separation(systems::Datum const& from, systems::Datum const& to) {
+    if (from.name == to.name)
+        return "the systems lie on different ellipsoids or shifts of the datum " + from.name;
+    return "the systems lie on different datums: " + from.name + " and " + to.name;
 }
 
 Answer make(zrproj_transform& transform, zrproj_system const& from, zrproj_system const& to,
             zrproj_options const& options) {
     if (options.threads < -1)
         return badArgument("threads below -1");
-    std::string const reason = separation(from.parameters, to.parameters);
-    if (!reason.empty())
-        return {ZRPROJ_NO_PATH, reason};
+    auto link = systems::linkBetween(from.definition.datum, to.definition.datum);
+    if (!link)
+        return {ZRPROJ_NO_PATH, separation(from.definition.datum, to.definition.datum)};
+    if (options.refuse_rough && link->accuracy > 1)
+        return {ZRPROJ_NO_PATH, link->told + " to no more than " + std::to_string(link->accuracy) + " m"};
     transform.from = from;
     transform.to = to;
+    transform.link = *std::move(link);
     transform.threads = options.threads;
     return {};
-}
-
-/// Map coordinates or degrees of a system, as degrees.
-void toDegrees(zrproj_system const& system, std::span<PROJPOINT> points, std::span<Reason> reasons) {
-    if (system.projection) {
-        system.projection->inverse(points, reasons);
-        return;
-    }
-    for (std::size_t i = 0; i < points.size(); ++i)
-        if (hasResult(reasons[i]) && std::fabs(points[i].y) > 90)
-            reasons[i] = ZRPROJ_BEYOND_POLE;
-}
-
-void fromDegrees(zrproj_system const& system, std::span<PROJPOINT> points, std::span<Reason> reasons) {
-    if (system.projection) {
-        system.projection->forward(points, reasons);
-        return;
-    }
-    for (PROJPOINT& point : points)
-        point.x = wrapped(point.x);
 }
 
 Answer convert(zrproj_transform const& transform, bool backwards, PointArray const& points) {
@@ -73,22 +46,26 @@ Answer convert(zrproj_transform const& transform, bool backwards, PointArray con
     zrproj_system const& from = backwards ? transform.to : transform.from;
     zrproj_system const& to = backwards ? transform.from : transform.to;
     convertArray(points, transform.threads, [&](std::span<PROJPOINT> block, std::span<Reason> reasons) {
-        toDegrees(from, block, reasons);
-        fromDegrees(to, block, reasons);
+        from.projection->inverse(block, reasons);
+        to.projection->forward(block, reasons);
     });
     return {};
 }
 
-std::string stepText(char const* before, zrproj_system const& system) {
-    return before + std::string(projectionTable[static_cast<std::size_t>(system.parameters.type)].name) + '\n';
+/// A line for an end of the way; none for a geographic one without a name.
+std::string endText(std::string const& way, zrproj_system const& system) {
+    std::string const name = calledBy(system);
+    bool const isMap = !system.projection->isGeographic();
+    if (name.empty())
+        return isMap ? way + " map coordinates by " + methodOf(system) + '\n' : "";
+    return way + ' ' + name + (isMap ? " by " + methodOf(system) : "") + '\n';
 }
 
 std::string description(zrproj_transform const& transform) {
-    std::string text;
-    if (transform.from.projection)
-        text += stepText("from map coordinates by ", transform.from);
-    if (transform.to.projection)
-        text += stepText("to map coordinates by ", transform.to);
+    std::string text = endText("from", transform.from);
+    if (!transform.link.told.empty())
+        text += transform.link.told + '\n';
+    text += endText("to", transform.to);
     if (text.empty())
         return "longitudes and latitudes as they are";
     text.pop_back();
@@ -117,7 +94,7 @@ zrproj_status zrproj_transform_describe(zrproj_transform const* transform, char*
     return answer([&] {
         if (!transform)
             return badArgument("null pointer to a transform");
-        give(accuracy, 0.0);
+        give(accuracy, transform->link.accuracy);
         return giveText(description(*transform), buffer, size, length);
     });
 }

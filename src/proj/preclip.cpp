@@ -6,6 +6,7 @@
 #include "host/fpenv.h"
 #include "proj/handle.h"
 #include "proj/preclip_cut.h"
+#include "proj/preclip_edges.h"
 
 #include <algorithm>
 #include <memory>
@@ -13,26 +14,26 @@
 
 namespace ZrProj {
 
+std::vector<preclip::Path> preclip::cutToEdges(formulas::MapEdges const& edges, std::vector<Path> paths) {
+    if (edges.window.present)
+        paths = cut(WindowArea(edges.window), std::move(paths));
+    if (edges.horizon.present)
+        paths = cut(HorizonArea(edges.horizon), std::move(paths));
+    if (edges.polarHole.present)
+        paths = cut(PolarHoleArea(edges.polarHole), std::move(paths));
+    for (auto const* hole : {&edges.hole, &edges.otherHole})
+        if (hole->present)
+            paths = cut(HoleArea(*hole), std::move(paths));
+    if (edges.oblique.present) // after the holes at its ends, whose boundaries it cuts too
+        paths = cut(ObliqueArea(edges.oblique), std::move(paths));
+    return paths;
+}
+
 namespace {
 
 using preclip::Path;
 
 constexpr char sourceFile[] = ".\\preclip.cpp";
-
-std::vector<Path> cutToEdges(formulas::MapEdges const& edges, std::vector<Path> paths) {
-    if (edges.window.present)
-        paths = preclip::cut(preclip::WindowArea(edges.window), std::move(paths));
-    if (edges.horizon.present)
-        paths = preclip::cut(preclip::HorizonArea(edges.horizon), std::move(paths));
-    if (edges.polarHole.present)
-        paths = preclip::cut(preclip::PolarHoleArea(edges.polarHole), std::move(paths));
-    for (auto const* hole : {&edges.hole, &edges.otherHole})
-        if (hole->present)
-            paths = preclip::cut(preclip::HoleArea(*hole), std::move(paths));
-    if (edges.oblique.present) // after the holes at its ends, whose boundaries it cuts too
-        paths = preclip::cut(preclip::ObliqueArea(edges.oblique), std::move(paths));
-    return paths;
-}
 
 /// Frees a list of chains that no caller has taken over.
 struct FreeChains {
@@ -67,7 +68,7 @@ bool preclipTo(ProjectionBlock const& block, std::span<PROJPOINT const> points, 
         return true;
     try {
         *chains = withDefaultFloatingPoint([&] {
-                      return chainsOf(cutToEdges(block.formula->edges(block.area), read(points)), points);
+                      return chainsOf(preclip::cutToEdges(block.formula->edges(block.area), read(points)), points);
                   }).release();
         return true;
     } catch (std::exception const&) { // no memory, or no vector so long

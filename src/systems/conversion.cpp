@@ -265,7 +265,7 @@ std::variant<Conversion, Unsupported> conversionOf(Definition const& system) {
     to.parameters = parametersOf(system.datum.ellipsoid, system.parameters);
     to.falseEasting = system.parameters.valueOr(Parameter::falseEasting, 0);
     to.falseNorthing = system.parameters.valueOr(Parameter::falseNorthing, 0);
-    to.unit = system.unit.factor;
+    to.scale = 1 / system.unit.factor;
     to.x = system.x;
     to.y = system.y;
     row.adapt(to);
@@ -285,7 +285,9 @@ std::variant<SystemConverter, Unsupported> SystemConverter::make(Conversion cons
     bool const bothTurned = xSense < 0 && ySense < 0;
     made.map_.xOrg = xSense * conversion.falseEasting;
     made.map_.yOrg = ySense * conversion.falseNorthing;
-    made.map_.scale = (bothTurned ? -1 : 1) / conversion.unit;
+    made.map_.scale = (bothTurned ? -1 : 1) * conversion.scale;
+    // Where 360 degrees are an edge, they stay just inside.
+    made.map_.fullTurn = std::fabs(conversion.parameters.lon0) == 180 ? std::nextafter(360, 0) : 360;
     made.xSense_ = bothTurned ? 1 : xSense;
     made.ySense_ = bothTurned ? 1 : ySense;
     formula->prepare(made.map_, inRadians(conversion.parameters));
@@ -312,7 +314,8 @@ levels::Outcome SystemConverter::inverse(PROJPOINT* points, int count) const noe
     turn(points, count, xSense_, ySense_, 0);
     auto const outcome = isGeographic_ ? levels::Outcome{} : run(&formulas::Converter::inverse, points, count);
     turn(points, count, 1, 1, meridian_);
-    wrap(points, count);
+    if (!isGeographic_) // there 180 degrees either way may be different edges of a map
+        wrap(points, count);
     return outcome;
 }
 

@@ -12,12 +12,12 @@
 
 namespace ZrProj::systems {
 
-/// A system's coordinates are (sense * map + false origin) / unit; longitudes count from the meridian.
+/// A system's coordinates are (sense * map + false origin) * scale; longitudes count from the meridian.
 struct Conversion {
     formulas::Method method = formulas::Method::none; // of a geographic system
     formulas::ParametersInDegrees parameters;         // lengths in metres
     double falseEasting = 0, falseNorthing = 0;       // metres
-    double unit = 1;                                  // metres
+    double scale = 1;                                 // units a metre
     Sense x = Sense::positive, y = Sense::positive;
     double meridian = 0; // degrees east of Greenwich
 };
@@ -30,7 +30,8 @@ struct Unsupported {
 std::variant<Conversion, Unsupported> conversionOf(Definition const& system);
 
 /// Runs a conversion over arrays of points, in place, between longitude and latitude, in degrees from Greenwich on the
-/// system's own datum, and the system's coordinates, x before y. Never changes: threads may share one.
+/// system's own datum, and the system's coordinates, x before y. What a geographic system's longitudes become may be in
+/// another turn of the globe. Never changes: threads may share one.
 class SystemConverter {
 public:
     /// Nothing where the parameters define no map.

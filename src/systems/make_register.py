@@ -250,6 +250,12 @@ class Register:
         self.table("datums.h", "Datums and datum ensembles.", "inline constexpr DatumRow datums[] = {", lambda: [
             f"{{{code}, {ellipsoid}, {meridian}, {decimal(accuracy or 0) * 100}, {texts[code]()}}}, // {name}"
             for code, name, ellipsoid, meridian, accuracy in rows])
+        members = self.ask("""SELECT member_code, ensemble_code FROM geodetic_datum_ensemble_member
+                              WHERE ensemble_auth_name = 'EPSG' ORDER BY member_code""")
+        names = {row[0]: row[1] for row in rows}
+        self.table("realizations.h", "Realizations and the ensembles that have them.",
+                   "inline constexpr RealizationRow realizations[] = {", lambda: [
+                       f"{{{member}, {ensemble}}}, // {names[member]}" for member, ensemble in members])
 
     # Systems
 

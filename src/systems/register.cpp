@@ -167,6 +167,11 @@ Entry entry(std::size_t n) {
     return entryOf(systems[n]);
 }
 
+Code ensembleOf(Code datum) {
+    auto const* row = find(realizations, datum);
+    return row ? row->ensemble : 0;
+}
+
 std::vector<Code> systemsOn(Code datum) {
     std::vector<Code> codes;
     for (SystemRow const& row : systems)

@@ -34,6 +34,9 @@ struct Entry {
 std::size_t entryCount();
 Entry entry(std::size_t n); // n < entryCount()
 
+/// The ensemble that a datum is a realization of, 0 for none.
+Code ensembleOf(Code datum);
+
 /// The codes of the systems that stand on a datum.
 std::vector<Code> systemsOn(Code datum);
 

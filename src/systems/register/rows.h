@@ -35,6 +35,10 @@ struct DatumRow {
     Text name;
 };
 
+struct RealizationRow {
+    std::uint16_t code, ensemble; // of datums
+};
+
 struct AreaRow {
     Text name;
     std::int16_t west, south, east, north; // hundredths of a degree; all 0: the register has none

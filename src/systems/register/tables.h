@@ -16,6 +16,7 @@
 #include "systems/register/meridians.h"
 #include "systems/register/pairs.h"
 #include "systems/register/parts.h"
+#include "systems/register/realizations.h"
 #include "systems/register/replacements.h"
 #include "systems/register/system_aliases.h"
 #include "systems/register/system_names.h"
