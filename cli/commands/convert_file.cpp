@@ -4,6 +4,7 @@
 #include "cli/files/map_info.h"
 #include "cli/files/tiff_file.h"
 #include "cli/model/datums.h"
+#include "cli/model/parameters.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
 
@@ -31,12 +32,12 @@ public:
     }
 
     int run(Output&) override {
-        FileFormat const* const format = isTiffFile(m_out) ? &tiffFormat() : formatOf(m_out);
-        if (!format)
+        auto const out = isTiffFile(m_out) ? MapFile{FileKind::GeoTiff, m_out} : sideFile(m_out);
+        if (!out)
             throw UsageError(inQuotes(m_out) + " is no TIFF file that is there, and no name of a side file; end it in "
                                                ".zrr, .rsf, .wld or the like");
         Misfit const misfit = m_acceptMisfit ? Misfit::Accepted : Misfit::Refused;
-        for (std::string const& note : format->write(m_out, map(), misfit))
+        for (std::string const& note : out->write(map(), misfit))
             std::fprintf(stderr, "zrproj: %s: %s\n", inQuotes(m_out).c_str(), note.c_str());
         return 0;
     }
@@ -44,41 +45,45 @@ public:
 private:
     bool saysSystem() const { return m_projection.any() || !m_datum.empty(); }
 
-    /// What is known of IN, with what the options say of it.
+    /// What the options say of IN, and what is known of it besides.
     MapInfo map() const {
         MapInfo info = saysSystem() && isTiffFile(m_in) ? readImage(m_in) : readMap(m_in);
-        if (!m_datum.empty())
-            setDatum(info, findDatum(m_datum, {}));
+        if (!m_datum.empty()) {
+            zrproj_parameters const datum = parametersOf(findDatum(m_datum, {}));
+            info = MapInfo(&datum, nullptr).with(info);
+        }
         if (m_projection.any())
             setProjection(info);
         return info;
     }
 
-    static void setDatum(MapInfo& info, Datum const& datum) {
-        info.datum = datum.type;
-        info.datumParameters = datum.record;
-        if (!datum.isOwn() && !DatGetDatumParams(datum.type, &info.datumParameters))
-            info.datumParameters.Method = datum.method();
-        info.datumFile = "--datum";
-    }
-
     /// As another map has it, with its datum where nothing else says one, or by its parameters.
     void setProjection(MapInfo& info) const {
-        if (!m_projection.likeFile().empty() && info.datumFile.empty()) {
+        if (!m_projection.likeFile().empty() && !info.tells(ZRPROJ_DATUM)) {
             MapInfo const like = readMap(m_projection.likeFile());
-            info.datum = like.datum;
-            info.datumParameters = like.datumParameters;
-            info.datumFile = like.datumFile;
+            if (like.tells(ZRPROJ_DATUM)) {
+                zrproj_parameters const datum = like.datum();
+                info = MapInfo(&datum, nullptr).with(info);
+            }
         }
-        Datum const datum{"", info.datum, info.datumParameters};
-        auto const figure = info.datumFile.empty() ? std::nullopt : figureOf(datum);
-        ProjectionChoice const choice = m_projection.choice(figure.value_or(Figure()));
+        ProjectionChoice choice = m_projection.choice(figureOf(info).value_or(Figure()));
         if (choice.zonePerPoint)
             throw UsageError("--utm auto is no projection of a map; name its zone");
-        info.projection = choice.record;
         if (choice.unit)
-            info.projection.Scale = 1 / choice.unit->metres;
-        info.projectionFile = "--projection";
+            choice.record.Scale = 1 / choice.unit->metres;
+        zrproj_parameters const projection = parametersOf(choice.record);
+        info = MapInfo(&projection, nullptr).with(info);
+    }
+
+    static std::optional<Figure> figureOf(MapInfo const& info) {
+        if (!info.tells(ZRPROJ_DATUM))
+            return std::nullopt;
+        zrproj_parameters const told = info.datum();
+        Datum datum{"", static_cast<DatumType>(told.datum)};
+        datum.record.Ellipsoid = static_cast<EllipsoidType>(told.ellipsoid);
+        datum.record.MajorRadius = told.radius;
+        datum.record.Flattening = told.flattening;
+        return Command::figureOf(datum);
     }
 
     std::string m_in, m_out, m_datum;

@@ -10,7 +10,7 @@ namespace ZrProj::Command {
 namespace {
 
 constexpr int coefficientDecimals = 15;
-constexpr std::int32_t mostPoints = 20; // shown one by one
+constexpr std::size_t mostPoints = 20; // shown one by one
 
 std::string numberText(double value) {
     std::array<char, 32> text{};
@@ -18,65 +18,62 @@ std::string numberText(double value) {
     return text.data();
 }
 
-std::string datumTitle(DatumType datum) {
-    std::string const name = datumName(datum);
+std::string datumTitle(int datum) {
+    std::string const name = datumName(static_cast<DatumType>(datum));
     return name.empty() ? "unknown (" + std::to_string(datum) + ")" : name;
 }
 
-void addDatum(Table& table, MapInfo const& info) {
-    DATUM2WGS84 const& p = info.datumParameters;
-    table.rows.push_back({"Datum", datumTitle(info.datum)});
-    table.rows.push_back({"To WGS 84 by", std::string(methodName(p.Method))});
-    if (p.Method != DatumMethodMolodensky && p.Method != DatumMethodBursaWolf)
+void addDatum(Table& table, zrproj_parameters const& datum) {
+    zrproj_shift const& p = datum.shift;
+    table.rows.push_back({"Datum", datumTitle(datum.datum)});
+    table.rows.push_back({"To WGS 84 by", std::string(methodName(static_cast<DatumMethod>(p.method)))});
+    if (p.method != DatumMethodMolodensky && p.method != DatumMethodBursaWolf)
         return;
-    table.rows.push_back({"Datum ellipsoid", ellipsoidName(p.Ellipsoid)});
-    table.rows.push_back({"Prime meridian", numberText(p.PrimeMeridian) + " degrees"});
-    table.rows.push_back({"Shifts", numberText(p.dX) + ", " + numberText(p.dY) + ", " + numberText(p.dZ) + " metres"});
-    if (p.Method != DatumMethodBursaWolf)
+    table.rows.push_back({"Datum ellipsoid", ellipsoidName(static_cast<EllipsoidType>(datum.ellipsoid))});
+    table.rows.push_back({"Prime meridian", numberText(p.prime_meridian) + " degrees"});
+    table.rows.push_back({"Shifts", numberText(p.dx) + ", " + numberText(p.dy) + ", " + numberText(p.dz) + " metres"});
+    if (p.method != DatumMethodBursaWolf)
         return;
     table.rows.push_back(
-        {"Rotations", numberText(p.rX) + ", " + numberText(p.rY) + ", " + numberText(p.rZ) + " arcseconds"});
-    table.rows.push_back({"Datum scale", numberText(p.Scale)});
+        {"Rotations", numberText(p.rx) + ", " + numberText(p.ry) + ", " + numberText(p.rz) + " arcseconds"});
+    table.rows.push_back({"Datum scale", numberText(p.scale)});
 }
 
-std::string pairText(GEOREFPOINT const& point) {
-    return numberText(point.x) + ", " + numberText(point.y);
+std::string pairText(double const* pair) {
+    return numberText(pair[0]) + ", " + numberText(pair[1]);
 }
 
-void addGeoreference(Table& table, GEOREF const& georef) {
-    table.rows.push_back({"Georeference", RefMethodName(georef.Method)});
-    if (georef.Method == TransformMethodPrecalculatedAffineCoefficients) {
-        std::string const a = numberText(georef.A), b = numberText(georef.B), d = numberText(georef.D);
-        table.rows.push_back({"X", a + " x + " + b + " y + " + numberText(georef.C)});
-        table.rows.push_back({"Y", d + " x + " + numberText(georef.E) + " y + " + numberText(georef.F)});
+void addGeoreference(Table& table, MapInfo const& info) {
+    auto const [size, method, count, source, target, c] = info.georeference();
+    table.rows.push_back({"Georeference", RefMethodName(static_cast<TransformMethod>(method))});
+    if (method == TransformMethodPrecalculatedAffineCoefficients) {
+        table.rows.push_back({"X", numberText(c[0]) + " x + " + numberText(c[1]) + " y + " + numberText(c[2])});
+        table.rows.push_back({"Y", numberText(c[3]) + " x + " + numberText(c[4]) + " y + " + numberText(c[5])});
         return;
     }
-    table.rows.push_back({"Control points", std::to_string(georef.nControls)});
-    if (auto const miss = controlMiss(georef, georef.Method))
+    table.rows.push_back({"Control points", std::to_string(count)});
+    if (auto const miss = controlMiss(info, method))
         table.rows.push_back({"Missed by", missText(*miss)});
-    for (std::int32_t i = 0; georef.pSource && i < georef.nControls && i < mostPoints; ++i)
-        table.rows.push_back({"", pairText(georef.pSource[i]) + " to " + pairText(georef.pTarget[i])});
-    if (georef.nControls > mostPoints)
+    for (std::size_t i = 0; i < count && i < mostPoints; ++i)
+        table.rows.push_back({"", pairText(source + 2 * i) + " to " + pairText(target + 2 * i)});
+    if (count > mostPoints)
         table.rows.push_back({"", "..."});
 }
 
 /// What of the map comes from a file.
-std::string partsFrom(std::string const& file, MapInfo const& info) {
+std::string partsFrom(MapFile const& file, MapInfo const& info) {
+    constexpr std::array names{"projection", "datum", "georeference"}; // by zrproj_part
     std::string parts;
-    auto const add = [&](std::string const& source, char const* part) {
-        if (source == file)
-            parts += (parts.empty() ? "" : ", ") + std::string(part);
-    };
-    add(info.projectionFile, "projection");
-    add(info.datumFile, "datum");
-    add(info.georefFile, "georeference");
+    for (auto const part : {ZRPROJ_PROJECTION, ZRPROJ_DATUM, ZRPROJ_GEOREFERENCE})
+        if (info.fileOf(part) == (file.kind == FileKind::GeoTiff ? "" : file.name))
+            parts += (parts.empty() ? "" : ", ") + std::string(names[part]);
     return parts.empty() ? "not used" : "used for " + parts;
 }
 
 void writeSources(Output& output, std::string const& image, MapInfo const& info) {
     Table table{{}, "lll", {}};
-    for (MapSource const& source : sourcesOf(image))
-        table.rows.push_back({source.name, source.format->title, partsFrom(source.name, info)});
+    for (MapFile const& file : filesOf(image))
+        table.rows.push_back({file.name, file.title(), partsFrom(file, info)});
     table.write(output);
     output << '\n';
 }
@@ -91,18 +88,18 @@ public:
 
     int run(Output& output) override {
         MapInfo const info = readMap(m_file);
-        if (FileFormat const* const format = formatOf(m_file))
-            output << m_file << ": " << format->title << "\n\n";
+        if (auto const side = sideFile(m_file))
+            output << m_file << ": " << side->title() << "\n\n";
         else
             writeSources(output, m_file, info);
         Table table{{}, "ll", {}};
-        if (!info.projectionFile.empty())
-            addProjection(table, info.projection);
-        if (!info.datumFile.empty())
-            addDatum(table, info);
-        if (!info.georefFile.empty())
-            addGeoreference(table, *info.georef);
-        for (std::string const& note : info.notes)
+        if (info.tells(ZRPROJ_PROJECTION))
+            addProjection(table, info.projection());
+        if (info.tells(ZRPROJ_DATUM))
+            addDatum(table, info.datum());
+        if (info.tells(ZRPROJ_GEOREFERENCE))
+            addGeoreference(table, info);
+        for (std::string const& note : info.notes())
             table.rows.push_back({"Not read", note});
         table.write(output);
         return 0;

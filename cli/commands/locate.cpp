@@ -37,37 +37,41 @@ private:
     /// The image's own projection, unless the options name one.
     ProjectionChoice choice() const {
         MapInfo const info = readMap(m_image);
-        if (info.georefFile.empty())
+        if (!info.tells(ZRPROJ_GEOREFERENCE))
             throw UsageError("nothing says how " + inQuotes(m_image) + " lies on the map");
-        ProjectionChoice choice = m_projection.any() ? m_projection.choice() : ProjectionChoice{};
-        if (!m_projection.any())
-            choice.record = info.projection;
-        if (choice.record.Type == ProjTypeUndefined)
+        if (!m_projection.any() && !info.tells(ZRPROJ_PROJECTION))
             throw UsageError("nothing says in which projection " + inQuotes(m_image) + " is" + reasons(info) +
                              "; give --utm, --state-plane, --projection or --like");
+        ProjectionChoice choice;
+        if (m_projection.any())
+            choice = m_projection.choice();
+        else
+            choice.record = info.projection();
         if (choice.zonePerPoint)
             throw UsageError("--utm auto is no projection of an image; name its zone");
         if (choice.unit)
             choice.record.Scale = 1 / choice.unit->metres;
-        warnOfMiss(*info.georef);
-        choice.image = std::make_shared<CGeorefTransform>(&*info.georef);
-        if (!choice.image->IsCreated())
+        warnOfMiss(info);
+        zrproj_fit* fit = nullptr;
+        if (zrproj_description_fit(info.handle(), &fit) != ZRPROJ_OK)
             throw UsageError("the georeference of " + inQuotes(m_image) + " cannot be made");
+        choice.image = {fit, zrproj_fit_destroy};
         return choice;
     }
 
     /// Of a similarity, which may have been given no choice: an RSF file says no other method.
-    void warnOfMiss(GEOREF const& georef) const {
-        if (georef.Method != TransformMethodHelmert)
+    void warnOfMiss(MapInfo const& info) const {
+        if (info.georeference().method != TransformMethodHelmert)
             return;
-        auto const miss = controlMiss(georef, georef.Method);
+        auto const miss = controlMiss(info, TransformMethodHelmert);
         if (miss && isWide(*miss))
             std::fprintf(stderr, "zrproj: the similarity (Helmert) that places %s misses its control points by %s\n",
                          inQuotes(m_image).c_str(), missText(*miss).c_str());
     }
 
     static std::string reasons(MapInfo const& info) {
-        return info.notes.empty() ? "" : " (" + info.notes.front() + ")";
+        auto const notes = info.notes();
+        return notes.empty() ? "" : " (" + notes.front() + ")";
     }
 
     std::string m_image, m_columns;

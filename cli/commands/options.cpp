@@ -224,9 +224,9 @@ PROJDATA ProjectionOptions::projectionLike() const {
         if (given(value.id))
             throw UsageError(parameter(value.id).option + " has no place beside --like, which tells it");
     MapInfo const info = readMap(m_like);
-    if (info.projectionFile.empty())
+    if (!info.tells(ZRPROJ_PROJECTION))
         throw UsageError("--like: " + inQuotes(m_like) + " tells no projection");
-    return info.projection;
+    return info.projection();
 }
 
 ProjectionChoice ProjectionOptions::choice(Figure const& standard) const {

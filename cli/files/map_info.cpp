@@ -2,57 +2,97 @@
 
 #include "cli/files/side_files.h"
 #include "cli/files/tiff_file.h"
+#include "cli/model/parameters.h"
 #include "cli/text/output.h"
 #include "cli/text/text.h"
 
-#include <algorithm>
+#include <array>
 #include <cmath>
-#include <cstddef>
 #include <cstdio>
-#include <filesystem>
-#include <limits>
-#include <span>
+#include <new>
 #include <stdexcept>
 
 namespace ZrProj::Command {
+namespace {
 
-void complete(MapInfo& info, MapInfo&& later) {
-    if (info.projectionFile.empty()) {
-        info.projection = later.projection;
-        info.projectionFile = later.projectionFile;
-    }
-    if (info.datumFile.empty()) {
-        info.datum = later.datum;
-        info.datumParameters = later.datumParameters;
-        info.datumFile = later.datumFile;
-    }
-    if (info.georefFile.empty()) {
-        info.georef = std::move(later.georef);
-        info.georefFile = later.georefFile;
-    }
-    info.notes.insert(info.notes.end(), later.notes.begin(), later.notes.end());
+/// A structure that the library fills, once its part is known to be told.
+template <class Structure>
+Structure filled(zrproj_status (*fill)(zrproj_description const*, Structure*), MapInfo const& info) {
+    Structure structure{};
+    structure.size = sizeof structure;
+    MapInfo::check(fill(info.handle(), &structure));
+    return structure;
+}
+
+} // namespace
+
+MapInfo::MapInfo(zrproj_parameters const* parameters, zrproj_georeference const* georeference)
+    : MapInfo(
+          of([&](zrproj_description** made) { return zrproj_description_create(parameters, georeference, made); })) {}
+
+std::optional<std::string> MapInfo::fileOf(zrproj_part part) const {
+    char const* file = nullptr;
+    if (zrproj_description_source(handle(), part, &file) != ZRPROJ_OK)
+        return std::nullopt;
+    return file;
+}
+
+std::vector<std::string> MapInfo::notes() const {
+    std::vector<std::string> notes;
+    char const* note = nullptr;
+    while (zrproj_description_note(handle(), notes.size(), &note) == ZRPROJ_OK)
+        notes.emplace_back(note);
+    return notes;
+}
+
+PROJDATA MapInfo::projection() const {
+    return recordOf(filled(zrproj_description_parameters, *this));
+}
+
+zrproj_parameters MapInfo::datum() const {
+    return filled(zrproj_description_datum, *this);
+}
+
+zrproj_georeference MapInfo::georeference() const {
+    return filled(zrproj_description_georeference, *this);
+}
+
+MapInfo MapInfo::with(MapInfo const& later) const {
+    return of([&](zrproj_description** made) { return zrproj_description_combine(handle(), later.handle(), made); });
+}
+
+void MapInfo::check(zrproj_status status) {
+    if (status == ZRPROJ_NO_MEMORY)
+        throw std::bad_alloc();
+    if (status != ZRPROJ_OK)
+        throw std::runtime_error(zrproj_message());
+}
+
+char const* MapFile::title() const {
+    constexpr std::array titles{"reference file", "RSF file", "world file", "GeoTIFF tags"}; // by FileKind
+    return titles.at(static_cast<std::size_t>(kind));
+}
+
+MapInfo MapFile::read() const {
+    return kind == FileKind::GeoTiff ? readTags(name) : readSideFile(*this);
+}
+
+std::vector<std::string> MapFile::write(MapInfo const& info, Misfit misfit) const {
+    return kind == FileKind::GeoTiff ? writeTags(name, info) : writeSideFile(*this, info, misfit);
+}
+
+std::optional<MapFile> sideFile(std::string const& name) {
+    zrproj_side_file kind{};
+    if (isTiffFile(name) || zrproj_side_file_kind(name.c_str(), &kind) != ZRPROJ_OK)
+        return std::nullopt;
+    return MapFile{static_cast<FileKind>(kind), name};
 }
 
 namespace {
 
-/// Whether a reference file's georeference is the one number that the format keeps of six coefficients.
-bool isOneNumber(MapSource const& source, MapInfo const& info) {
-    return source.format == &sideFormats().front() && !info.georefFile.empty() &&
-           info.georef->Method == TransformMethodPrecalculatedAffineCoefficients;
-}
-
-/// One that cannot be read may; reading it tells why not.
-bool mayHaveTags(std::string const& image) {
+MapInfo readIfGood(MapFile const& file) {
     try {
-        return readTiff(image).tags.Size() > 0;
-    } catch (std::runtime_error const&) {
-        return true;
-    }
-}
-
-MapInfo readIfGood(MapSource const& source) {
-    try {
-        return source.format->read(source.name);
+        return file.read();
     } catch (std::runtime_error const& error) {
         std::fprintf(stderr, "zrproj: %s; passed over\n", error.what());
         return {};
@@ -61,70 +101,35 @@ MapInfo readIfGood(MapSource const& source) {
 
 } // namespace
 
-std::vector<MapSource> sourcesOf(std::string const& image) {
-    std::vector<MapSource> result = sideFilesOf(image);
+std::vector<MapFile> filesOf(std::string const& image) {
+    std::vector<MapFile> result = sideFilesOf(image);
     if (isTiffFile(image) && mayHaveTags(image))
-        result.push_back({&tiffFormat(), image});
+        result.push_back({FileKind::GeoTiff, image});
     return result;
 }
 
-FileFormat const* formatOf(std::string const& file) {
-    if (isTiffFile(file))
-        return nullptr;
-    auto const formats = sideFormats();
-    auto const found = std::ranges::find_if(formats, [&](FileFormat const& format) { return format.isNamed(file); });
-    return found == formats.end() ? nullptr : &*found;
-}
-
 MapInfo readImage(std::string const& image) {
-    MapInfo info, oneNumber;
-    for (MapSource const& source : sourcesOf(image)) {
-        MapInfo told = readIfGood(source);
-        if (isOneNumber(source, told)) {
-            std::swap(oneNumber.georef, told.georef);
-            std::swap(oneNumber.georefFile, told.georefFile);
-        }
-        complete(info, std::move(told));
-    }
-    complete(info, std::move(oneNumber));
+    MapInfo info;
+    for (MapFile const& file : filesOf(image))
+        info = info.with(readIfGood(file));
     return info;
 }
 
 MapInfo readMap(std::string const& file) {
-    if (FileFormat const* const format = formatOf(file))
-        return format->read(file);
+    if (auto const side = sideFile(file))
+        return side->read();
     MapInfo info = readImage(file);
-    if (info.isEmpty() && info.notes.empty())
+    bool const isKnown = info.tells(ZRPROJ_PROJECTION) || info.tells(ZRPROJ_DATUM) || info.tells(ZRPROJ_GEOREFERENCE);
+    if (!isKnown && info.notes().empty())
         throw std::runtime_error("nothing is known of " + inQuotes(file) + ": no side file or tag says where it lies");
     return info;
 }
 
-namespace {
-
-/// The root of the sum of the squared distances from their middle.
-double spread(std::span<GEOREFPOINT const> points) {
-    auto const count = static_cast<double>(points.size());
-    double x = 0, y = 0, sum = 0;
-    for (GEOREFPOINT const& point : points) {
-        x += point.x / count;
-        y += point.y / count;
-    }
-    for (GEOREFPOINT const& point : points)
-        sum += (point.x - x) * (point.x - x) + (point.y - y) * (point.y - y);
-    return std::sqrt(sum);
-}
-
-} // namespace
-
-std::optional<ControlMiss> controlMiss(GEOREF const& georef, TransformMethod method) {
-    GEOREF record = georef;
-    record.Method = method;
-    double onMap = std::numeric_limits<double>::max();
-    if (!CGeorefTransform(&record).ComputeError(&onMap, nullptr) || !(onMap < std::numeric_limits<double>::max()))
+std::optional<ControlMiss> controlMiss(MapInfo const& info, int method) {
+    ControlMiss miss;
+    if (zrproj_description_miss(info.handle(), method, &miss.onMap, &miss.pixels) != ZRPROJ_OK)
         return std::nullopt;
-    auto const count = static_cast<std::size_t>(georef.nControls);
-    double const pixel = spread({georef.pTarget, count}) / spread({georef.pSource, count});
-    return ControlMiss{onMap, onMap == 0 ? 0 : onMap / pixel};
+    return miss;
 }
 
 std::string missText(ControlMiss const& miss) {

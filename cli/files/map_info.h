@@ -1,97 +1,105 @@
 // What files say of a map: its projection, datum and georeference, and which file said so.
 #pragma once
 
-#include <zrproj/georef.h>
+#include <zrproj/c.h>
 #include <zrproj/zrproj.h>
 
-#include <cstdint>
+#include <memory>
 #include <optional>
 #include <string>
-#include <utility>
 #include <vector>
 
 namespace ZrProj::Command {
 
-/// A georeference and its controls.
-class Georeference {
+/// What files say of a map. Image coordinates count from the upper left corner of the image.
+class MapInfo {
 public:
-    Georeference() : m_record() { m_record.Method = TransformMethodNone; }
-    ~Georeference() { RefFreeControls(&m_record); }
-    Georeference(Georeference&& other) noexcept : Georeference() { std::swap(m_record, other.m_record); }
-    Georeference& operator=(Georeference&& other) noexcept {
-        std::swap(m_record, other.m_record);
-        return *this;
+    /// Of nothing.
+    MapInfo() : MapInfo(nullptr, nullptr) {}
+    /// Of a system's parameters (of type 999: a datum alone) and a georeference, either of which may be null. Throws
+    /// std::runtime_error for such as make none.
+    MapInfo(zrproj_parameters const* parameters, zrproj_georeference const* georeference);
+    /// Of what `read(zrproj_description**)` reads. Throws std::runtime_error with its message.
+    template <class Read> static MapInfo of(Read const& read) {
+        zrproj_description* description = nullptr;
+        check(read(&description));
+        return MapInfo(description);
     }
 
-    GEOREF& operator*() { return m_record; }
-    GEOREF const& operator*() const { return m_record; }
-    GEOREF* operator->() { return &m_record; }
-    GEOREF const* operator->() const { return &m_record; }
+    bool tells(zrproj_part part) const { return fileOf(part).has_value(); }
+    /// The file that tells a part, "" for what no file tells; nothing where the part is not told.
+    std::optional<std::string> fileOf(zrproj_part part) const;
+    /// What files say that no record can hold.
+    std::vector<std::string> notes() const;
+
+    /// Of parts that are told.
+    PROJDATA projection() const;
+    zrproj_parameters datum() const;
+    zrproj_georeference georeference() const; // its points live as long as this
+
+    /// With what another tells that this one does not.
+    MapInfo with(MapInfo const& later) const;
+
+    zrproj_description const* handle() const { return m_description.get(); }
+
+    /// Throws std::bad_alloc or, with the message, std::runtime_error where the library fails.
+    static void check(zrproj_status status);
 
 private:
-    GEOREF m_record;
-};
+    struct Destroyer {
+        void operator()(zrproj_description* description) const { zrproj_description_destroy(description); }
+    };
 
-/// Image coordinates count from the upper left corner of the image. A part that no file told has an empty file name,
-/// the type 999, the datum 237 or the method 12.
-struct MapInfo {
-    MapInfo() : projection(), datumParameters() { projection.Type = ProjTypeUndefined; }
+    explicit MapInfo(zrproj_description* description) : m_description(description) {}
 
-    bool isEmpty() const { return projectionFile.empty() && datumFile.empty() && georefFile.empty(); }
-
-    PROJDATA projection;
-    DatumType datum = DatumTypeNone;
-    DATUM2WGS84 datumParameters;
-    Georeference georef;
-    std::string projectionFile, datumFile, georefFile;
-    std::vector<std::string> notes; // what files say that no record can hold
+    std::unique_ptr<zrproj_description, Destroyer> m_description;
 };
 
 /// What to do where a file says of control points that they are fitted in a way that misses them widely.
 enum class Misfit { Refused, Accepted };
 
 /// A kind of file that can tell of a map.
-struct FileFormat {
-    char const* title;
-    /// Whether a file of that name is of this kind.
-    bool (*isNamed)(std::string const& file);
+enum class FileKind {
+    Reference = ZRPROJ_REFERENCE_FILE,
+    Rsf = ZRPROJ_RSF_FILE,
+    World = ZRPROJ_WORLD_FILE,
+    GeoTiff // the tags of a TIFF file
+};
+
+struct MapFile {
+    FileKind kind;
+    std::string name;
+
+    char const* title() const;
     /// What it says. Throws std::runtime_error for a file that cannot be read.
-    MapInfo (*read)(std::string const& file);
+    MapInfo read() const;
     /// Writes, in place of what is there, what it can carry; what it cannot is told in words. Throws std::runtime_error
     /// when nothing was written.
-    std::vector<std::string> (*write)(std::string const& file, MapInfo const& info, Misfit misfit);
+    std::vector<std::string> write(MapInfo const& info, Misfit misfit) const;
 };
 
-/// The format of a file by its name; null where it is none of ours, as for an image, and for any TIFF file.
-FileFormat const* formatOf(std::string const& file);
-
-struct MapSource {
-    FileFormat const* format;
-    std::string name;
-};
+/// A side file by its name; nothing where the name is none, as an image's, and for any TIFF file.
+std::optional<MapFile> sideFile(std::string const& name);
 
 /// What tells of an image: its side files that are there and, for a TIFF file, its tags, in the order in which they
 /// count.
-std::vector<MapSource> sourcesOf(std::string const& image);
+std::vector<MapFile> filesOf(std::string const& image);
 
-/// What an image's side files and tags say, if anything: each part from the first that has it, the coefficients of a
-/// reference file, which are but one number, after all others. A source that cannot be read is passed over, which is
-/// told on standard error.
+/// What an image's side files and tags say, if anything: each part from the first that has it. A file that cannot be
+/// read is passed over, which is told on standard error.
 MapInfo readImage(std::string const& image);
 
 /// What a file says, or readImage. Throws std::runtime_error, also when nothing is known.
 MapInfo readMap(std::string const& file);
-
-/// Takes from a later file what the earlier ones did not tell.
-void complete(MapInfo& info, MapInfo&& later);
 
 /// On the average, in the map's unit and in pixels.
 struct ControlMiss {
     double onMap = 0, pixels = 0;
 };
 
-/// That of a method's fit to the controls of a record; nothing where the fit cannot be made.
-std::optional<ControlMiss> controlMiss(GEOREF const& georef, TransformMethod method);
+/// That of a method's fit to the control points, or to those that stand for coefficients; nothing where the fit cannot
+/// be made.
+std::optional<ControlMiss> controlMiss(MapInfo const& info, int method);
 
 /// For people: "12.500 (2.50 pixels) on the average".
 std::string missText(ControlMiss const& miss);

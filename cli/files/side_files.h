@@ -3,15 +3,14 @@
 
 #include "cli/files/map_info.h"
 
-#include <span>
-
 namespace ZrProj::Command {
-
-/// In the order in which an image's files count.
-std::span<FileFormat const> sideFormats();
 
 /// The side files of an image that are there, in the order in which they count. Names that differ in the case of their
 /// extension come after the exact ones.
-std::vector<MapSource> sideFilesOf(std::string const& image);
+std::vector<MapFile> sideFilesOf(std::string const& image);
+
+/// MapFile's read and write, of a side file.
+MapInfo readSideFile(MapFile const& file);
+std::vector<std::string> writeSideFile(MapFile const& file, MapInfo const& info, Misfit misfit);
 
 } // namespace ZrProj::Command

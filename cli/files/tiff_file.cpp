@@ -5,7 +5,6 @@
 #include "cli/text/text.h"
 
 #include <tiffio.h>
-#include <zrproj/geotiff.h>
 
 #include <algorithm>
 #include <array>
@@ -14,7 +13,6 @@
 #include <filesystem>
 #include <fstream>
 #include <memory>
-#include <sstream>
 #include <stdexcept>
 
 namespace ZrProj::Command {
@@ -70,9 +68,20 @@ TiffHandle open(std::string const& name, char const* mode) {
     return file;
 }
 
-void setTag(TIFF& file, ZrBitmapTag const& tag) {
-    if (TIFFSetField(&file, tag.Id, tag.Count, tag.pData) != 1)
-        fail("cannot set tag " + std::to_string(tag.Id));
+void setTag(TIFF& file, zrproj_tag const& tag) {
+    if (TIFFSetField(&file, tag.id, tag.count, tag.data) != 1)
+        fail("cannot set tag " + std::to_string(tag.id));
+}
+
+/// The GeoTIFF tags of a file's first image; their data live as long as it is open.
+std::vector<zrproj_tag> tagsOf(TIFF& file) {
+    std::vector<zrproj_tag> tags;
+    for (TagRow const& row : geoTags) {
+        zrproj_tag tag{static_cast<std::uint16_t>(row.id), static_cast<std::uint16_t>(row.type), 0, nullptr};
+        if (TIFFGetField(&file, row.id, &tag.count, &tag.data) == 1)
+            tags.push_back(tag);
+    }
+    return tags;
 }
 
 } // namespace
@@ -88,37 +97,32 @@ bool isTiffFile(std::string const& name) {
     return bytes == "II*\0"sv || bytes == "MM\0*"sv || bytes == "II+\0"sv || bytes == "MM\0+"sv;
 }
 
-bool claimsLayout(std::string const& name) {
-    constexpr std::string_view claim = "GDAL_STRUCTURAL_METADATA_SIZE=";
-    std::array<char, 64> start = {};
-    std::ifstream(name, std::ios::binary).read(start.data(), start.size());
-    std::string_view const bytes(start.data(), start.size());
-    return bytes.substr(8).starts_with(claim) || bytes.substr(16).starts_with(claim); // behind the header
-}
-
-TiffImage readTiff(std::string const& name) {
-    TiffHandle const file = open(name, "r");
-    TiffImage image;
-    TIFFGetField(file.get(), TIFFTAG_IMAGEWIDTH, &image.width);
-    TIFFGetField(file.get(), TIFFTAG_IMAGELENGTH, &image.height);
-    for (TagRow const& tag : geoTags) {
-        std::uint32_t count = 0;
-        void const* data = nullptr;
-        bool const there = TIFFGetField(file.get(), tag.id, &count, &data) == 1;
-        if (there &&
-            !image.tags.Add({static_cast<std::uint16_t>(tag.id), static_cast<std::uint16_t>(tag.type), count, data}))
-            fail("cannot read tag " + std::to_string(tag.id) + " of " + inQuotes(name));
+bool mayHaveTags(std::string const& name) {
+    try {
+        return !tagsOf(*open(name, "r")).empty();
+    } catch (std::runtime_error const&) {
+        return true;
     }
-    return image;
 }
 
-void writeTiffTags(std::string const& name, std::span<ZrBitmapTag const> tags) {
+namespace {
+
+struct TagsDestroyer {
+    void operator()(zrproj_tags* tags) const { zrproj_tags_destroy(tags); }
+};
+
+/// Puts the tags that say what a map is in the place of those that the first image of a file has.
+void replaceTags(std::string const& name, MapInfo const& info) {
+    zrproj_tags* tags = nullptr;
+    MapInfo::check(zrproj_tags_create(info.handle(), &tags));
+    std::unique_ptr<zrproj_tags, TagsDestroyer> const owner(tags);
     ReplacementFile replacement(name);
     replacement.copyOriginal();
     TiffHandle file = open(replacement.name(), "r+");
     for (TagRow const& tag : geoTags)
         TIFFUnsetField(file.get(), tag.id);
-    for (ZrBitmapTag const& tag : tags)
+    zrproj_tag tag{};
+    for (std::size_t n = 0; zrproj_tags_entry(tags, n, &tag) == ZRPROJ_OK; ++n)
         setTag(*file, tag);
     if (TIFFRewriteDirectory(file.get()) != 1)
         fail("cannot write the tags of " + inQuotes(name));
@@ -129,87 +133,53 @@ void writeTiffTags(std::string const& name, std::span<ZrBitmapTag const> tags) {
     replacement.commit();
 }
 
-namespace {
-
-/// Tags that the library made.
-class MadeTags {
-public:
-    MadeTags(MapInfo const& system, GEOREF const& georef) {
-        if (!ZrProjBuildGeoTIFFTags(&system.projection, system.datum, &system.datumParameters, &georef, &m_tags,
-                                    &m_count))
-            throw std::runtime_error(whyNot(system, georef));
-    }
-    ~MadeTags() { ZrProjDiscardGeoTIFFTags(m_tags, m_count); }
-    MadeTags(MadeTags const&) = delete;
-    MadeTags& operator=(MadeTags const&) = delete;
-
-    std::span<ZrBitmapTag const> tags() const { return {m_tags, static_cast<std::size_t>(m_count)}; }
-
-private:
-    static std::string whyNot(MapInfo const& system, GEOREF const& georef) {
-        std::array<char, 512> text{};
-        ZrProjExplainGeoTIFFTags(&system.projection, system.datum, &system.datumParameters, &georef, text.data(),
-                                 static_cast<int>(text.size()));
-        return text[0] ? text.data() : "out of memory";
-    }
-
-    ZrBitmapTag* m_tags = nullptr;
-    int m_count = 0;
-};
-
-std::vector<std::string> explanations(ZrBitmapTagList const& tags) {
-    std::array<char, 2048> text{};
-    ZrProjExplainGeoTIFF(tags, text.data(), static_cast<int>(text.size()));
-    std::istringstream lines(text.data());
-    std::vector<std::string> result;
-    for (std::string line; std::getline(lines, line);)
-        result.push_back(line);
-    return result;
-}
-
-MapInfo read(std::string const& file) {
-    ZrBitmapTagList const tags = readTiff(file).tags;
-    MapInfo info;
-    std::uint32_t flags = 0;
-    if (!ZrProjGetGeoTIFF(tags, &info.projection, &info.datum, &info.datumParameters, &*info.georef, &flags))
-        throw std::runtime_error("the GeoTIFF tags of " + inQuotes(file) +
-                                 " are damaged: " + explanations(tags).front());
-    info.projectionFile = flags & RefFileFlagProjection ? file : "";
-    info.datumFile = flags & RefFileFlagDatum ? file : "";
-    info.georefFile = flags & (RefFileFlagCoefficients | RefFileFlagControls) ? file : "";
-    info.notes = explanations(tags);
-    return info;
+/// The georeference of a map, and nothing else.
+MapInfo placeOf(MapInfo const& info) {
+    if (!info.tells(ZRPROJ_GEOREFERENCE))
+        return {};
+    zrproj_georeference const georeference = info.georeference();
+    return {nullptr, &georeference};
 }
 
 /// A map for a file that has tags already: what they alone tell stays, a system's parts together.
-MapInfo onTopOf(MapInfo present, MapInfo const& info, std::string const& file) {
-    bool const keepsSystem = info.projectionFile.empty() && info.datumFile.empty();
-    if (keepsSystem && !present.notes.empty() && present.projectionFile.empty())
+MapInfo onTopOf(MapInfo const& present, MapInfo const& info, std::string const& file) {
+    bool const keepsSystem = !info.tells(ZRPROJ_PROJECTION) && !info.tells(ZRPROJ_DATUM);
+    auto const notes = present.notes();
+    if (keepsSystem && !notes.empty() && !present.tells(ZRPROJ_PROJECTION))
         throw std::runtime_error("the present tags of " + inQuotes(file) +
-                                 " would be lost, which cannot be read: " + present.notes.front());
-    if (!info.projectionFile.empty()) {
-        present.projection = info.projection;
-        present.datum = DatumTypeNone;
-    }
-    if (!info.datumFile.empty()) {
-        present.datum = info.datum;
-        present.datumParameters = info.datumParameters;
-    }
-    return present;
+                                 " would be lost, which cannot be read: " + notes.front());
+    MapInfo const told = placeOf(info).with(info); // one coefficient of a reference file does not yield here
+    return told.tells(ZRPROJ_PROJECTION) ? told.with(placeOf(present)) : told.with(present);
 }
 
-std::vector<std::string> notesOn(std::string const& file, MapInfo const& all, GEOREF const& georef) {
-    std::vector<std::string> notes;
-    bool const controls = georef.nControls > 0 && georef.Method != TransformMethodAffinePolynomial &&
-                          georef.Method != TransformMethodPrecalculatedAffineCoefficients;
-    auto const miss = controlMiss(georef, TransformMethodHelmert);
-    if (controls && georef.Method == TransformMethodHelmert)
+/// Whether a TIFF file says that its parts stand in an order for reading over a network (cloud-optimized GeoTIFF).
+bool claimsLayout(std::string const& name) {
+    constexpr std::string_view claim = "GDAL_STRUCTURAL_METADATA_SIZE=";
+    std::array<char, 64> start = {};
+    std::ifstream(name, std::ios::binary).read(start.data(), start.size());
+    std::string_view const bytes(start.data(), start.size());
+    return bytes.substr(8).starts_with(claim) || bytes.substr(16).starts_with(claim); // behind the header
+}
+
+/// What becomes of control points, which tags do not keep.
+void noteControls(std::vector<std::string>& notes, MapInfo const& info) {
+    auto const [size, method, count, source, target, coefficients] = info.georeference();
+    if (count == 0 || method == TransformMethodAffinePolynomial)
+        return;
+    auto const miss = controlMiss(info, TransformMethodHelmert);
+    if (method == TransformMethodHelmert)
         notes.push_back("the Helmert system is written as the matrix that it is, without its control points" +
                         (miss ? ", which it misses by " + missText(*miss) : ""));
-    else if (controls)
-        notes.push_back(std::string("the method is left out: ") + RefMethodName(georef.Method) +
+    else
+        notes.push_back(std::string("the method is left out: ") + RefMethodName(static_cast<TransformMethod>(method)) +
                         " is read back as Affine Polynomial");
-    if (all.projection.Type == ProjTypeUndefined)
+}
+
+std::vector<std::string> notesOn(std::string const& file, MapInfo const& info) {
+    std::vector<std::string> notes;
+    if (info.tells(ZRPROJ_GEOREFERENCE))
+        noteControls(notes, info);
+    if (!info.tells(ZRPROJ_PROJECTION))
         notes.emplace_back("nothing says in which projection it is; give --utm, --state-plane, --projection or --like");
     if (claimsLayout(file))
         notes.emplace_back("its layout is no longer the one that it claims (cloud-optimized): its directory has moved "
@@ -217,24 +187,28 @@ std::vector<std::string> notesOn(std::string const& file, MapInfo const& all, GE
     return notes;
 }
 
-std::vector<std::string> write(std::string const& file, MapInfo const& info, Misfit) {
-    MapInfo const all = onTopOf(read(file), info, file);
-    GEOREF const& georef = info.georefFile.empty() ? *all.georef : *info.georef;
-    std::vector<std::string> notes = notesOn(file, all, georef);
-    try {
-        MadeTags const made(all, georef);
-        writeTiffTags(file, made.tags());
-    } catch (std::runtime_error const& error) {
-        throw std::runtime_error("cannot write " + inQuotes(file) + ": " + error.what());
-    }
-    return notes;
-}
-
 } // namespace
 
-FileFormat const& tiffFormat() {
-    static constexpr FileFormat format{"GeoTIFF tags", isTiffFile, read, write};
-    return format;
+MapInfo readTags(std::string const& name) {
+    TiffHandle const file = open(name, "r");
+    std::vector<zrproj_tag> const tags = tagsOf(*file);
+    return MapInfo::of([&](zrproj_description** read) {
+        zrproj_status const status = zrproj_description_of_tags(tags.data(), tags.size(), read);
+        if (status == ZRPROJ_FILE)
+            throw std::runtime_error("the GeoTIFF tags of " + inQuotes(name) + " are damaged: " + zrproj_message());
+        return status;
+    });
+}
+
+std::vector<std::string> writeTags(std::string const& name, MapInfo const& info) {
+    MapInfo const all = onTopOf(readTags(name), info, name);
+    std::vector<std::string> notes = notesOn(name, all);
+    try {
+        replaceTags(name, all);
+    } catch (std::runtime_error const& error) {
+        throw std::runtime_error("cannot write " + inQuotes(name) + ": " + error.what());
+    }
+    return notes;
 }
 
 } // namespace ZrProj::Command

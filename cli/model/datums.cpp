@@ -170,6 +170,21 @@ bool isCatalogueName(std::string_view name) {
            std::any_of(shortNames.begin(), shortNames.end(), [&](auto& known) { return isCalled(name, known.name); });
 }
 
+zrproj_parameters parametersOf(Datum const& datum) {
+    DATUM2WGS84 const& r = datum.record;
+    zrproj_parameters parameters{};
+    parameters.size = sizeof parameters;
+    parameters.type = ProjTypeUndefined;
+    parameters.datum = datum.type;
+    if (!datum.isOwn())
+        return parameters;
+    parameters.ellipsoid = r.Ellipsoid;
+    parameters.radius = r.MajorRadius;
+    parameters.flattening = r.Flattening;
+    parameters.shift = {r.Method, r.dX, r.dY, r.dZ, r.rX, r.rY, r.rZ, r.Scale, r.PrimeMeridian};
+    return parameters;
+}
+
 std::optional<Figure> figureOf(Datum const& datum) {
     DATUM2WGS84 record = datum.record;
     if (!datum.isOwn() && !DatGetDatumParams(datum.type, &record)) {

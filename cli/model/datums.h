@@ -1,6 +1,7 @@
 // Datums: of the catalogue, the user's own, or those that a command line defines.
 #pragma once
 
+#include <zrproj/c.h>
 #include <zrproj/zrproj.h>
 
 #include <optional>
@@ -42,6 +43,9 @@ std::vector<std::string> userDatumNames();
 
 /// Whether a name means a datum of the catalogue.
 bool isCatalogueName(std::string_view name);
+
+/// A datum alone, as parameters say it.
+zrproj_parameters parametersOf(Datum const& datum);
 
 /// The figure of the earth that coordinates on a datum belong to.
 struct Figure {

@@ -152,17 +152,56 @@ void setParameter(PROJDATA& record, Parameter const& parameter, std::string_view
 
 void setNumber(PROJDATA& record, int id, double value) {
     bool const flag = value != 0;
-    auto const zone = static_cast<StateZoneType>(value);
+    auto const entry = static_cast<std::int32_t>(value);
     switch (parameter(id).kind) {
     case ZRPROJ_KIND_FLAG:
         ProjSetParam(&record, id, &flag);
         break;
+    case ZRPROJ_KIND_PROJECTION:
+    case ZRPROJ_KIND_ELLIPSOID:
     case ZRPROJ_KIND_ZONE:
-        ProjSetParam(&record, id, &zone);
+        ProjSetParam(&record, id, &entry);
         break;
     default:
         ProjSetParam(&record, id, &value);
     }
+}
+
+namespace {
+
+/// A parameter as a number, whatever it is.
+double numberOf(PROJDATA const& record, Parameter const& parameter) {
+    switch (parameter.kind) {
+    case ZRPROJ_KIND_FLAG:
+        return parameterValue<bool>(record, parameter.id) ? 1 : 0;
+    case ZRPROJ_KIND_PROJECTION:
+    case ZRPROJ_KIND_ELLIPSOID:
+    case ZRPROJ_KIND_ZONE:
+        return parameterValue<std::int32_t>(record, parameter.id);
+    default:
+        return parameterValue<double>(record, parameter.id);
+    }
+}
+
+} // namespace
+
+PROJDATA recordOf(zrproj_parameters const& given) {
+    PROJDATA record = {};
+    for (Parameter const& parameter : parameters()) {
+        double value = 0;
+        zrproj_parameters_get(&given, parameter.id, &value);
+        setNumber(record, parameter.id, value);
+    }
+    return record;
+}
+
+zrproj_parameters parametersOf(PROJDATA const& record) {
+    zrproj_parameters result{};
+    result.size = sizeof result;
+    result.datum = DatumTypeNone;
+    for (Parameter const& parameter : parameters())
+        zrproj_parameters_set(&result, parameter.id, numberOf(record, parameter));
+    return result;
 }
 
 std::string parameterText(PROJDATA const& record, Parameter const& parameter) {

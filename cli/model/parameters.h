@@ -32,8 +32,12 @@ std::vector<int> usedParameters(ProjType type);
 /// Throws UsageError, naming the option, when the text is no such value.
 void setParameter(PROJDATA& record, Parameter const& parameter, std::string_view text);
 
-/// Sets a parameter that is a number, a zone or a flag by its number.
+/// Sets a parameter by its number, whatever it is.
 void setNumber(PROJDATA& record, int id, double value);
+
+/// A record of a system's parameters, and back; the datum is not a record's.
+PROJDATA recordOf(zrproj_parameters const& parameters);
+zrproj_parameters parametersOf(PROJDATA const& record);
 
 /// A parameter's value as text, "" for a flag that is not set.
 std::string parameterText(PROJDATA const& record, Parameter const& parameter);

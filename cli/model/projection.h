@@ -3,6 +3,7 @@
 
 #include "cli/model/units.h"
 
+#include <zrproj/c.h>
 #include <zrproj/zrproj.h>
 
 #include <memory>
@@ -16,7 +17,7 @@ struct ProjectionChoice {
     PROJDATA record = {};
     bool zonePerPoint = false;               // --utm auto: UTM, the zone being each point's own
     LengthUnit const* unit = nullptr;        // of a file's coordinates; null for metres
-    std::shared_ptr<CGeorefTransform> image; // whose coordinates are given for projected ones; null for none
+    std::shared_ptr<zrproj_fit const> image; // whose coordinates are given for projected ones; null for none
 };
 
 /// Longitudes and latitudes, one after another.

@@ -4,6 +4,8 @@
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
 
+#include <zrproj/c.h>
+
 #include <algorithm>
 #include <array>
 #include <charconv>
@@ -13,15 +15,6 @@
 
 namespace ZrProj::Command {
 namespace {
-
-/// A zone's text down to what tells it: "Zone 17N (084W to 078W)" is "17n".
-std::string essence(std::string_view text) {
-    std::string result = squeezed(text.substr(0, text.find('(')));
-    for (std::string_view prefix : {"utm", "zone"})
-        if (result.starts_with(prefix))
-            result.erase(0, prefix.size());
-    return result;
-}
 
 std::array<std::string, utmZones> utmZoneNames() {
     std::array<std::string, utmZones> names;
@@ -37,18 +30,10 @@ std::array<std::string, utmZones> utmZoneNames() {
 } // namespace
 
 std::optional<UtmZone> readUtmZone(std::string_view text) {
-    if (text.find_first_of("+-.") < text.find('('))
+    int zone = 0, south = 0;
+    if (zrproj_utm_read(std::string(text).c_str(), &zone, &south) != ZRPROJ_OK)
         return std::nullopt;
-    std::string const zone = essence(text);
-    std::size_t const digits = std::min(zone.find_first_not_of("0123456789"), zone.size());
-    std::string_view const letter = std::string_view(zone).substr(digits);
-    if (digits < 1 || digits > 2 || !(letter.empty() || letter == "n" || letter == "s"))
-        return std::nullopt;
-    int number = std::stoi(zone);
-    bool south = false;
-    if (number < 1 || number > 60 || !ProjUTMZoneNameToNumber(zone.c_str(), &number, &south))
-        return std::nullopt;
-    return utmZone(number, south);
+    return utmZone(zone, south != 0);
 }
 
 UtmZone utmZoneOf(PROJPOINT point) {

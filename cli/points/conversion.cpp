@@ -47,16 +47,16 @@ bool Transform::isDirect() const {
 
 /// Image coordinates become projected ones.
 void Transform::fromImage(PointBlock& block) const {
-    std::vector<GEOREFPOINT> points(block.points.size());
-    std::transform(block.points.begin(), block.points.end(), points.begin(), [](PROJPOINT p) {
-        return GEOREFPOINT{p.x, p.y};
-    });
-    bool const good = m_choice.image->Forward(points.data(), static_cast<int>(points.size()));
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        block.points[i] = {points[i].x, points[i].y};
-        if (block.states[i] == PointState::Good && (!good || points[i].x == DBL_MAX))
-            block.states[i] = PointState::NoResult;
-    }
+    std::vector<PROJPOINT>& points = block.points;
+    if (points.empty())
+        return;
+    zrproj_fit_points(m_choice.image.get(), &points[0].x, &points[0].y, sizeof(PROJPOINT), points.size(), nullptr);
+    for (std::size_t i = 0; i < points.size(); ++i)
+        if (std::isnan(points[i].x)) {
+            points[i] = {DBL_MAX, DBL_MAX};
+            if (block.states[i] == PointState::Good)
+                block.states[i] = PointState::NoResult;
+        }
 }
 
 PointConverter& Transform::converter(UtmZone zone) {

@@ -163,7 +163,7 @@ typedef struct zrproj_parameters {
     double alpha;            ///< azimuth, degrees, within 360 either way
     double radius;           ///< semi-major axis, metres, above 0
     double flattening;       ///< at least 0, below 1; exactly 0 is a sphere
-    zrproj_shift shift;      ///< of datum 0
+    zrproj_shift shift;      ///< of datum 0; passed over with any other, of which a file may tell it
 } zrproj_parameters;
 
 /// The field of a parameter, by its number: flags and numbers of catalogues as doubles. ZRPROJ_UNKNOWN for a number
@@ -459,6 +459,9 @@ typedef struct zrproj_georeference {
 /// they are read and when they are written.
 typedef struct zrproj_description zrproj_description;
 
+/// What a description may tell.
+typedef enum zrproj_part { ZRPROJ_PROJECTION = 0, ZRPROJ_DATUM, ZRPROJ_GEOREFERENCE } zrproj_part;
+
 /// Reads one side file of whatever name. ZRPROJ_FILE, with the reason as message, where it cannot be read, is of
 /// another kind or damaged.
 ZRPROJ_API zrproj_status zrproj_description_read(char const* path, zrproj_side_file kind,
@@ -466,22 +469,27 @@ ZRPROJ_API zrproj_status zrproj_description_read(char const* path, zrproj_side_f
 
 /// All that is known of an image: from its reference file, its RSF file, its world file and its GeoTIFF tags (`count`
 /// of them, may be 0), in this order, each part from the first that has it. Coefficients of a reference file, which are
-/// but one number, yield to a later source. A source that is damaged is passed over, and the message tells of it.
+/// but one number, yield to a later source. A source that is damaged is passed over, and a note tells of it.
 ZRPROJ_API zrproj_status zrproj_description_of_image(char const* image, zrproj_tag const* tags, size_t count,
                                                      zrproj_description** description);
 
-/// What GeoTIFF tags say. What no record can say exactly is left out, and the message tells why. ZRPROJ_FILE for
-/// damaged tags.
+/// What GeoTIFF tags say. What no record can say exactly is left out, and a note tells why. ZRPROJ_FILE, with what is
+/// wrong with them as message, for damaged tags.
 ZRPROJ_API zrproj_status zrproj_description_of_tags(zrproj_tag const* tags, size_t count,
                                                     zrproj_description** description);
 
-/// Puts a description together of a system's parameters, where type 999 stands for a datum alone, and a georeference;
-/// either may be null. Nothing is fitted, and the pairs are copied. ZRPROJ_BAD_DEFINITION for parameters that make no
-/// system, ZRPROJ_UNKNOWN for a number that is no method, ZRPROJ_BAD_ARGUMENT for a coordinate or coefficient that is
-/// not finite.
+/// Puts a description together of a system's parameters, where type 999 stands for a datum alone (0 with method 0 is
+/// one without a way to WGS 84), and a georeference; either may be null. Nothing is fitted, and the pairs are copied.
+/// ZRPROJ_BAD_DEFINITION for parameters that make no system, ZRPROJ_UNKNOWN for a number that is no method,
+/// ZRPROJ_BAD_ARGUMENT for a coordinate or coefficient that is not finite.
 ZRPROJ_API zrproj_status zrproj_description_create(zrproj_parameters const* parameters,
                                                    zrproj_georeference const* georeference,
                                                    zrproj_description** description);
+
+/// Puts two descriptions together, which may be destroyed afterwards: each part from `first` where that tells it, else
+/// from `second`. Coefficients that a reference file keeps one number of yield to any other georeference.
+ZRPROJ_API zrproj_status zrproj_description_combine(zrproj_description const* first, zrproj_description const* second,
+                                                    zrproj_description** description);
 
 ZRPROJ_API void zrproj_description_destroy(zrproj_description* description);
 
@@ -490,17 +498,40 @@ ZRPROJ_API void zrproj_description_destroy(zrproj_description* description);
 ZRPROJ_API zrproj_status zrproj_description_parameters(zrproj_description const* description,
                                                        zrproj_parameters* parameters);
 
+/// The datum alone: `type` is 999, ellipsoid, radius and flattening are the datum's own, and `shift` is what a file
+/// says of the way to WGS 84, of a datum of the catalogue as well. ZRPROJ_UNKNOWN where no datum is told.
+/// `parameters->size` must be set.
+ZRPROJ_API zrproj_status zrproj_description_datum(zrproj_description const* description, zrproj_parameters* parameters);
+
 /// The georeference; its pairs live as long as the description. `georeference->size` must be set. ZRPROJ_UNKNOWN where
 /// there is none.
 ZRPROJ_API zrproj_status zrproj_description_georeference(zrproj_description const* description,
                                                          zrproj_georeference* georeference);
 
+/// The file that tells a part, "" for tags without an image and for what the caller told. `path` may be null, and lives
+/// as long as the description. ZRPROJ_UNKNOWN where the part is not told.
+ZRPROJ_API zrproj_status zrproj_description_source(zrproj_description const* description, zrproj_part part,
+                                                   char const** path);
+
+/// The n-th note of what was read: what a file says and no record can hold, or why it was passed over. The message of
+/// the call that read it has all of them, as far as there is room. `note` lives as long as the description.
+ZRPROJ_API zrproj_status zrproj_description_note(zrproj_description const* description, size_t n, char const** note);
+
+/// How far a fit of a method (zrproj_fit_method_entry) misses the control points on the average, in the map's unit and
+/// in pixels, whatever method the description names: what becomes of them in a file that keeps none. Coefficients are
+/// taken as four control points. Outputs may be null. ZRPROJ_UNKNOWN where there is no georeference and for a number
+/// that is no method of fitting, ZRPROJ_NOT_SOLVABLE where the points determine no such map.
+ZRPROJ_API zrproj_status zrproj_description_miss(zrproj_description const* description, int method, double* mean,
+                                                 double* pixels);
+
 /// The georeference as a map of points. ZRPROJ_UNKNOWN where there is none; otherwise fails as zrproj_fit_create does.
 ZRPROJ_API zrproj_status zrproj_description_fit(zrproj_description const* description, zrproj_fit** fit);
 
 /// Writes a side file of whatever name, in place of one that is there, which stays as it is until the new one is whole.
-/// The message tells what the format cannot carry. ZRPROJ_UNSUPPORTED where it can carry nothing of the description,
-/// and for a world file of control points that make no affine fit; ZRPROJ_FILE where writing fails.
+/// The message tells what the format cannot carry, "; " between two such notes; the last one tells how a georeference
+/// is read back that the format cannot keep (zrproj_description_miss tells how well): from a world file by its affine
+/// fit, from an RSF file by a similarity, which cannot mirror. ZRPROJ_UNSUPPORTED where it can carry nothing of the
+/// description, and for a world file of control points that make no affine fit; ZRPROJ_FILE where writing fails.
 ZRPROJ_API zrproj_status zrproj_description_write(zrproj_description const* description, char const* path,
                                                   zrproj_side_file kind);
 

@@ -7,6 +7,9 @@
 #include <zrproj/geotiff.h>
 #include <zrproj/reffile.h>
 
+#include <limits>
+#include <ranges>
+
 using namespace ZrProj;
 using namespace ZrProj::Door;
 
@@ -17,10 +20,14 @@ struct zrproj_description {
     int method = TransformMethodNone;
     std::vector<GEOREFPOINT> source, target;
     std::array<double, 6> coefficients{};
+    bool isOneNumber = false;           // the coefficients are all that a reference file keeps of them
+    std::array<std::string, 3> files{}; // by zrproj_part: which file told it
+    std::vector<std::string> notes;     // what was told and is not in here
 
     zrproj_description() { projection.Type = ProjTypeUndefined; }
 
     bool hasProjection() const { return projection.Type != ProjTypeUndefined; }
+    bool hasDatum() const { return datum != DatumTypeNone; }
     bool hasGeoreference() const { return method != TransformMethodNone; }
     bool isByCoefficients() const { return method == TransformMethodPrecalculatedAffineCoefficients; }
 };
@@ -52,11 +59,12 @@ void takeGeoreference(zrproj_description& description, GEOREF const& georef) {
     }
 }
 
-void take(zrproj_description& description, MapRecord const& record) {
+void take(zrproj_description& description, MapRecord const& record, std::string const& file) {
     description.projection = record.projection;
     description.datum = record.datum;
     description.shift = record.datumParameters;
     takeGeoreference(description, record.georef);
+    description.files.fill(file);
 }
 
 /// A record of what a description says; its control points stay the description's.
@@ -78,30 +86,44 @@ MapRecord mapRecordOf(zrproj_description const& description) {
 }
 
 /// Takes from a later source what the earlier ones did not tell.
-void addLater(zrproj_description& description, zrproj_description&& later) {
-    if (!description.hasProjection())
+void addLater(zrproj_description& description, zrproj_description const& later) {
+    if (!description.hasProjection()) {
         description.projection = later.projection;
-    if (description.datum == DatumTypeNone) {
+        description.files[ZRPROJ_PROJECTION] = later.files[ZRPROJ_PROJECTION];
+    }
+    if (!description.hasDatum()) {
         description.datum = later.datum;
         description.shift = later.shift;
+        description.files[ZRPROJ_DATUM] = later.files[ZRPROJ_DATUM];
     }
-    if (description.hasGeoreference())
-        return;
-    description.method = later.method;
-    description.source = std::move(later.source);
-    description.target = std::move(later.target);
-    description.coefficients = later.coefficients;
+    bool const yields = description.isOneNumber && later.hasGeoreference() && !later.isOneNumber;
+    if (!description.hasGeoreference() || yields) {
+        description.method = later.method;
+        description.source = later.source;
+        description.target = later.target;
+        description.coefficients = later.coefficients;
+        description.isOneNumber = later.isOneNumber;
+        description.files[ZRPROJ_GEOREFERENCE] = later.files[ZRPROJ_GEOREFERENCE];
+    }
+    description.notes.insert(description.notes.end(), later.notes.begin(), later.notes.end());
 }
 
-void addNote(std::string& notes, std::string const& note) {
-    if (!note.empty())
-        notes += (notes.empty() ? "" : "; ") + note;
+std::string joined(std::vector<std::string> const& notes) {
+    std::string text;
+    for (std::string const& note : notes)
+        text += (text.empty() ? "" : "; ") + note;
+    return text;
 }
 
-std::string explanation(ZrBitmapTagList const& tags) {
-    std::array<char, 1024> text{};
+/// What the tags say that no record can, or what is wrong with them, line by line.
+std::vector<std::string> explanations(ZrBitmapTagList const& tags) {
+    std::array<char, 2048> text{};
     ZrProjExplainGeoTIFF(tags, text.data(), static_cast<int>(text.size()));
-    return text.data();
+    std::vector<std::string> lines;
+    for (auto const line : std::views::split(std::string_view(text.data()), '\n'))
+        if (!line.empty())
+            lines.emplace_back(line.begin(), line.end());
+    return lines;
 }
 
 Answer listTags(zrproj_tag const* tags, std::size_t count, ZrBitmapTagList& list) {
@@ -113,66 +135,66 @@ Answer listTags(zrproj_tag const* tags, std::size_t count, ZrBitmapTagList& list
     return {};
 }
 
-Answer readTags(zrproj_tag const* tags, std::size_t count, zrproj_description& description) {
+Answer readTags(zrproj_tag const* tags, std::size_t count, std::string const& image, zrproj_description& description) {
     ZrBitmapTagList list;
     if (Answer listed = listTags(tags, count, list); !listed.isGood())
         return listed;
     OwnedMapRecord record;
+    std::vector<std::string> notes = explanations(list);
     if (!ZrProjGetGeoTIFF(list, &record.projection, &record.datum, &record.datumParameters, &record.georef, nullptr))
-        return fileFailure("the tags are damaged: " + explanation(list));
-    take(description, record);
-    return {ZRPROJ_OK, explanation(list)};
+        return fileFailure(notes.empty() ? "" : notes.front());
+    take(description, record, image);
+    description.notes = std::move(notes);
+    return {ZRPROJ_OK, joined(description.notes)};
 }
 
 FileOutcome readFile(SideFile const& file, zrproj_description& description) {
     OwnedMapRecord record;
     FileOutcome outcome = readSideFile(file.name, file.kind, record);
     if (outcome.failure.empty())
-        take(description, record);
+        take(description, record, file.name);
+    description.isOneNumber = file.kind == SideFileKind::reference && description.isByCoefficients();
+    description.notes = outcome.notes;
     return outcome;
 }
 
-/// Every side file of the image, each part from the first that has it.
-std::string readSideFiles(std::string const& image, zrproj_description& found, zrproj_description& oneNumber) {
-    std::string notes;
+/// Every side file of the image, then its tags, each part from the first that has it.
+Answer readImage(std::string const& image, zrproj_tag const* tags, std::size_t count, zrproj_description& found) {
     for (SideFile const& file : sideFilesOf(image)) {
         zrproj_description told;
         FileOutcome const outcome = readFile(file, told);
-        addNote(notes, outcome.failure.empty() ? "" : outcome.failure + "; passed over");
-        addNote(notes, outcome.notes);
-        if (file.kind == SideFileKind::reference && told.isByCoefficients()) {
-            oneNumber.coefficients = told.coefficients;
-            oneNumber.method = std::exchange(told.method, TransformMethodNone);
-        }
-        addLater(found, std::move(told));
+        if (!outcome.failure.empty())
+            told.notes = {outcome.failure + "; passed over"};
+        addLater(found, told);
     }
-    return notes;
-}
-
-Answer readImage(std::string const& image, zrproj_tag const* tags, std::size_t count, zrproj_description& found) {
-    zrproj_description oneNumber, tagged;
-    std::string notes = readSideFiles(image, found, oneNumber);
-    Answer const read = readTags(tags, count, tagged);
+    zrproj_description tagged;
+    Answer const read = readTags(tags, count, image, tagged);
     if (read.status == ZRPROJ_BAD_ARGUMENT)
         return read;
-    addNote(notes, read.isGood() ? read.message : read.message + "; passed over");
-    addLater(found, std::move(tagged));
-    addLater(found, std::move(oneNumber)); // coefficients of a reference file, after all others
-    return {ZRPROJ_OK, notes};
+    if (!read.isGood())
+        tagged.notes = {"the GeoTIFF tags of " + inQuotes(image) + " are damaged: " + read.message + "; passed over"};
+    addLater(found, tagged);
+    return {ZRPROJ_OK, joined(found.notes)};
 }
 
-/// The system of a caller's parameters, as it is told: only what makes it none is refused.
+/// Whether parameters are longitudes and latitudes, or a datum, that need no ellipsoid and have none.
+bool hasNoFigure(zrproj_parameters const& parameters) {
+    return parameters.type == ProjTypeUnprojectedLatLong && !hasDatum(parameters) &&
+           parameters.ellipsoid == EllipsoidTypeUserDefined && parameters.radius == 0;
+}
+
+/// The system of a caller's parameters, completed.
 Answer takeParameters(zrproj_description& description, zrproj_parameters const& given) {
     bool const isDatumAlone = given.type == ProjTypeUndefined;
     zrproj_parameters parameters = given;
     if (isDatumAlone)
         parameters.type = ProjTypeUnprojectedLatLong;
-    if (Answer completed = complete(parameters); !completed.isGood())
+    if (Answer completed = hasNoFigure(parameters) ? Answer{} : complete(parameters); !completed.isGood())
         return completed;
     description.projection = recordOf(parameters);
     if (isDatumAlone)
         description.projection.Type = ProjTypeUndefined;
-    if (hasDatum(parameters)) {
+    if (isDatumAlone ? parameters.datum != DatumTypeNone : hasDatum(parameters)) {
         description.datum = static_cast<DatumType>(parameters.datum);
         description.shift = shiftOf(parameters);
     }
@@ -216,6 +238,39 @@ Answer explainTags(MapRecord const& record) {
     if (reason[0] == '\0')
         throw std::bad_alloc();
     return unsupported(reason.data());
+}
+
+/// The root of the sum of the squared distances from their middle.
+double spread(std::span<GEOREFPOINT const> points) {
+    auto const count = static_cast<double>(points.size());
+    double x = 0, y = 0, sum = 0;
+    for (GEOREFPOINT const& point : points) {
+        x += point.x / count;
+        y += point.y / count;
+    }
+    for (GEOREFPOINT const& point : points)
+        sum += (point.x - x) * (point.x - x) + (point.y - y) * (point.y - y);
+    return std::sqrt(sum);
+}
+
+/// How far a method's fit misses control points, or those that stand for coefficients.
+Answer giveMiss(zrproj_description const& description, TransformMethod method, double* mean, double* pixels) {
+    GEOREF georef = mapRecordOf(description).georef;
+    OwnedMapRecord corners;
+    if (description.isByCoefficients()) {
+        corners.georef = georef;
+        if (!RefCoeffToControls(&corners.georef, 0, 0))
+            throw std::bad_alloc();
+        georef = corners.georef;
+    }
+    georef.Method = method;
+    double miss = std::numeric_limits<double>::max();
+    if (!CGeorefTransform(&georef).ComputeError(&miss, nullptr) || !(miss < std::numeric_limits<double>::max()))
+        return {ZRPROJ_NOT_SOLVABLE, "the control points determine no such map"};
+    auto const count = static_cast<std::size_t>(georef.nControls);
+    give(mean, miss);
+    give(pixels, miss == 0 ? 0 : miss / (spread({georef.pTarget, count}) / spread({georef.pSource, count})));
+    return {};
 }
 
 bool isKind(zrproj_side_file kind) {
@@ -281,7 +336,7 @@ zrproj_status zrproj_description_read(char const* path, zrproj_side_file kind, z
         if (isEmpty(path) || !isKind(kind))
             return badArgument("no name of a file, or no kind of file");
         FileOutcome const outcome = readFile({static_cast<SideFileKind>(kind), path}, made);
-        return outcome.failure.empty() ? Answer{ZRPROJ_OK, outcome.notes} : fileFailure(outcome.failure);
+        return outcome.failure.empty() ? Answer{ZRPROJ_OK, joined(outcome.notes)} : fileFailure(outcome.failure);
     });
 }
 
@@ -293,7 +348,7 @@ zrproj_status zrproj_description_of_image(char const* image, zrproj_tag const* t
 }
 
 zrproj_status zrproj_description_of_tags(zrproj_tag const* tags, size_t count, zrproj_description** description) {
-    return answerWith(description, [&](zrproj_description& made) { return readTags(tags, count, made); });
+    return answerWith(description, [&](zrproj_description& made) { return readTags(tags, count, "", made); });
 }
 
 zrproj_status zrproj_description_create(zrproj_parameters const* parameters, zrproj_georeference const* georeference,
@@ -306,6 +361,17 @@ zrproj_status zrproj_description_create(zrproj_parameters const* parameters, zrp
     });
 }
 
+zrproj_status zrproj_description_combine(zrproj_description const* first, zrproj_description const* second,
+                                         zrproj_description** description) {
+    return answerWith(description, [&](zrproj_description& made) -> Answer {
+        if (!first || !second)
+            return badArgument("null pointer to a description");
+        made = *first;
+        addLater(made, *second);
+        return {};
+    });
+}
+
 void zrproj_description_destroy(zrproj_description* description) {
     std::unique_ptr<zrproj_description>{description}.reset();
 }
@@ -314,9 +380,20 @@ zrproj_status zrproj_description_parameters(zrproj_description const* descriptio
     return answer([&]() -> Answer {
         if (!description || !hasKnownSize(parameters))
             return badArgument("no description, or no parameters of a known size");
-        if (!description->hasProjection() && description->datum == DatumTypeNone)
+        if (!description->hasProjection() && !description->hasDatum())
             return unknown("nothing is told of a coordinate system");
         *parameters = parametersOf(description->projection, description->datum, description->shift);
+        return {};
+    });
+}
+
+zrproj_status zrproj_description_datum(zrproj_description const* description, zrproj_parameters* parameters) {
+    return answer([&]() -> Answer {
+        if (!description || !hasKnownSize(parameters))
+            return badArgument("no description, or no parameters of a known size");
+        if (!description->hasDatum())
+            return unknown("nothing is told of a datum");
+        *parameters = parametersOf(emptyMapRecord().projection, description->datum, description->shift);
         return {};
     });
 }
@@ -330,6 +407,44 @@ zrproj_status zrproj_description_georeference(zrproj_description const* descript
             return unknown("there is no georeference");
         *georeference = georeferenceOf(*description);
         return {};
+    });
+}
+
+zrproj_status zrproj_description_source(zrproj_description const* description, zrproj_part part, char const** path) {
+    return answer([&]() -> Answer {
+        if (!description || !(static_cast<std::size_t>(part) < description->files.size()))
+            return badArgument("no description, or no part of one");
+        bool const isTold = part == ZRPROJ_PROJECTION ? description->hasProjection()
+                            : part == ZRPROJ_DATUM    ? description->hasDatum()
+                                                      : description->hasGeoreference();
+        if (!isTold)
+            return unknown("nothing is told of that part");
+        give(path, description->files[static_cast<std::size_t>(part)].c_str());
+        return {};
+    });
+}
+
+zrproj_status zrproj_description_note(zrproj_description const* description, size_t n, char const** note) {
+    return answer([&]() -> Answer {
+        if (!description || !note)
+            return badArgument("null pointer");
+        if (!(n < description->notes.size()))
+            return pastTheLast(n, description->notes.size());
+        *note = description->notes[n].c_str();
+        return {};
+    });
+}
+
+zrproj_status zrproj_description_miss(zrproj_description const* description, int method, double* mean, double* pixels) {
+    return answer([&] {
+        auto const asked = static_cast<TransformMethod>(method);
+        if (!description)
+            return badArgument("null pointer to a description");
+        if (!description->hasGeoreference())
+            return unknown("there is no georeference");
+        if (!isGeorefMethod(asked) || asked == TransformMethodPrecalculatedAffineCoefficients)
+            return unknown("there is no method " + std::to_string(method) + " of fitting");
+        return giveMiss(*description, asked, mean, pixels);
     });
 }
 
@@ -351,7 +466,7 @@ zrproj_status zrproj_description_write(zrproj_description const* description, ch
             return badArgument("no description, no name of a file, or no kind of file");
         FileOutcome const outcome = writeSideFile(path, static_cast<SideFileKind>(kind), mapRecordOf(*description));
         if (outcome.failure.empty())
-            return {ZRPROJ_OK, outcome.notes};
+            return {ZRPROJ_OK, joined(outcome.notes)};
         return outcome.isFit ? fileFailure(outcome.failure) : unsupported(outcome.failure);
     });
 }

@@ -51,10 +51,8 @@ Answer completeFigure(zrproj_parameters& parameters, PROJDATA const& definition)
     if (parameters.ellipsoid < EllipsoidTypeUserDefined || parameters.ellipsoid >= EllipsoidTypeNone)
         return badDefinition("ellipsoid " + std::to_string(parameters.ellipsoid) + " is none of the catalogue's");
     bool const isTold = parameters.ellipsoid != EllipsoidTypeUserDefined || parameters.radius != 0;
-    if (!isTold && isCatalogueDatum(parameters.datum)) {
-        EllipsoidType const own = datumRow(static_cast<DatumType>(parameters.datum)).ellipsoid;
-        parameters.ellipsoid = own == EllipsoidTypeNone ? EllipsoidTypeUserDefined : own;
-    }
+    if (!isTold && isCatalogueDatum(parameters.datum))
+        parameters.ellipsoid = datumRow(static_cast<DatumType>(parameters.datum)).figure;
     if (parameters.ellipsoid != EllipsoidTypeUserDefined)
         setFigure(parameters, static_cast<EllipsoidType>(parameters.ellipsoid));
     if (!(parameters.radius > 0))
@@ -108,7 +106,7 @@ zrproj_parameters parametersOf(PROJDATA const& record, DatumType datum, DATUM2WG
         parameters.radius = shift.MajorRadius;
         parameters.flattening = shift.Flattening;
     }
-    if (datum == DatumTypeUserDefined)
+    if (datum != DatumTypeNone)
         parameters.shift = {shift.Method, shift.dX, shift.dY,    shift.dZ,           shift.rX,
                             shift.rY,     shift.rZ, shift.Scale, shift.PrimeMeridian};
     return parameters;

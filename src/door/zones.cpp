@@ -19,7 +19,7 @@ constexpr int firstZone = 1, lastZone = 60;
 std::string essence(std::string_view text) {
     std::string result;
     for (char const c : text.substr(0, text.find('(')))
-        if (c != ' ' && c != '\t')
+        if (std::string_view(" \t_/").find(c) == std::string_view::npos)
             result += asciiLower(c);
     for (std::string_view const prefix : {"utm", "zone"})
         if (result.starts_with(prefix))

@@ -67,10 +67,6 @@ std::string inQuotes(std::string const& name) {
     return '"' + name + '"';
 }
 
-void addNote(std::string& notes, std::string const& note) {
-    notes += (notes.empty() ? "" : "; ") + note;
-}
-
 /// World files say where the centre of the first pixel lies, everything else where its corner does.
 void moveToCorner(GEOREF& coefficients) {
     coefficients.C -= (coefficients.A + coefficients.B) / 2;
@@ -87,7 +83,7 @@ bool hasCoefficients(GEOREF const& georef) {
 }
 
 /// A reader's failure in words, "" where it is good.
-std::string readReference(std::FILE& file, OwnedMapRecord& record, FileOutcome& outcome) {
+std::string readReference(std::FILE& file, std::string const& name, OwnedMapRecord& record, FileOutcome& outcome) {
     bool accepted = false;
     if (!readReferenceFile(file, {true, true, true}, record, accepted))
         return "it is no reference file, or damaged";
@@ -99,12 +95,12 @@ std::string readReference(std::FILE& file, OwnedMapRecord& record, FileOutcome& 
     } else if (!georef.pSource) {
         georef.Method = TransformMethodNone;
         georef.nControls = 0;
-        addNote(outcome.notes, "the control points that it announces are not there");
+        outcome.notes.push_back("the control points that " + inQuotes(name) + " announces are not there");
     }
     return "";
 }
 
-std::string readRsf(std::FILE& file, OwnedMapRecord& record, FileOutcome&) {
+std::string readRsf(std::FILE& file, std::string const&, OwnedMapRecord& record, FileOutcome&) {
     GEOREF found = {};
     bool const good = readRsfFile(file, found) && found.nControls > 0;
     if (good)
@@ -114,7 +110,7 @@ std::string readRsf(std::FILE& file, OwnedMapRecord& record, FileOutcome&) {
     return good ? "" : "it does not hold the control points that it announces, or none";
 }
 
-std::string readWorld(std::FILE& file, OwnedMapRecord& record, FileOutcome&) {
+std::string readWorld(std::FILE& file, std::string const&, OwnedMapRecord& record, FileOutcome&) {
     GEOREF const found = readWorldFile(file);
     if (!hasCoefficients(found))
         return "it has fewer than six lines, each ended by a line feed";
@@ -148,8 +144,9 @@ bool writeReference(std::string const& name, MapRecord const& record, FileOutcom
     Written written(record.georef);
     if (hasCoefficients(record.georef)) {
         written.becomeCorners();
-        addNote(outcome.notes, "the six coefficients are written as four control points of an affine fit, since the "
-                               "format keeps only one coefficient");
+        outcome.notes.emplace_back(
+            "the six coefficients are written as four control points of an affine fit, since the "
+            "format keeps only one coefficient");
     }
     MapRecord copy = record;
     copy.georef = written.georef;
@@ -159,9 +156,9 @@ bool writeReference(std::string const& name, MapRecord const& record, FileOutcom
 /// What a file of nothing but a georeference leaves out.
 void noteLostSystem(MapRecord const& record, FileOutcome& outcome) {
     if (record.projection.Type != ProjTypeUndefined)
-        addNote(outcome.notes, "the projection is left out: the format has none");
+        outcome.notes.emplace_back("the projection is left out: the format has none");
     if (record.datum != DatumTypeNone)
-        addNote(outcome.notes, "the datum is left out: the format has none");
+        outcome.notes.emplace_back("the datum is left out: the format has none");
 }
 
 bool writeRsf(std::string const& name, MapRecord const& record, FileOutcome& outcome) {
@@ -169,10 +166,10 @@ bool writeRsf(std::string const& name, MapRecord const& record, FileOutcome& out
     noteLostSystem(record, outcome);
     if (hasCoefficients(record.georef)) {
         written.becomeCorners();
-        addNote(outcome.notes,
-                "the six coefficients are written as four control points, read back as a similarity (Helmert)");
+        outcome.notes.emplace_back(
+            "the six coefficients are written as four control points, read back as a similarity (Helmert)");
     } else {
-        addNote(outcome.notes, std::string("the method is left out: the control points of ") +
+        outcome.notes.emplace_back(std::string("the method is left out: the control points of ") +
                                    RefMethodName(record.georef.Method) + " are read back as a similarity (Helmert)");
     }
     return writeRsfFile(name, written.georef);
@@ -192,29 +189,29 @@ bool writeWorld(std::string const& name, MapRecord const& record, FileOutcome& o
     if (!hasCoefficients(centred)) {
         RefControlsToCoeff(&centred);
         dropRemains(centred);
-        addNote(outcome.notes, "the control points are fitted by an affine map");
+        outcome.notes.emplace_back("the control points are fitted by an affine map");
     }
     moveToCentre(centred);
     return writeWorldFile(name, centred);
 }
 
-/// Why a format can carry nothing of a record, "" where it can.
-std::string misfit(SideFileKind kind, MapRecord const& record) {
+/// What a file of that kind lacks of a record to be written, "" where nothing.
+std::string lack(SideFileKind kind, MapRecord const& record) {
     GEOREF affine = record.georef;
     bool const hasNone = affine.Method == TransformMethodNone;
     if (kind == SideFileKind::reference)
         return hasNone && record.projection.Type == ProjTypeUndefined && record.datum == DatumTypeNone
-                   ? "there is nothing to write"
+                   ? "there is nothing"
                    : "";
     if (hasNone)
-        return "there is no georeference to write";
+        return "there is no georeference";
     bool const makesNone = kind == SideFileKind::world && !hasCoefficients(affine) && !RefControlsToCoeff(&affine);
     return makesNone ? "the control points make no affine fit" : "";
 }
 
 // In the order of SideFileKind.
 struct Format {
-    std::string (*read)(std::FILE& file, OwnedMapRecord& record, FileOutcome& outcome);
+    std::string (*read)(std::FILE& file, std::string const& name, OwnedMapRecord& record, FileOutcome& outcome);
     bool (*write)(std::string const& name, MapRecord const& record, FileOutcome& outcome);
 };
 constexpr std::array formats{Format{readReference, writeReference}, Format{readRsf, writeRsf},
@@ -263,16 +260,16 @@ FileOutcome readSideFile(std::string const& name, SideFileKind kind, OwnedMapRec
     errno = 0;
     Stream const file = openPlainFile(name);
     std::string const reason =
-        !file ? (errno ? systemMessage() : "it is no plain file") : formatOf(kind).read(*file, record, outcome);
+        !file ? (errno ? systemMessage() : "it is no plain file") : formatOf(kind).read(*file, name, record, outcome);
     if (!reason.empty())
         outcome.failure = "cannot read " + inQuotes(name) + ": " + reason;
     return outcome;
 }
 
 FileOutcome writeSideFile(std::string const& name, SideFileKind kind, MapRecord const& record) {
-    std::string const beginning = "cannot write " + inQuotes(name) + ": ", reason = misfit(kind, record);
-    if (!reason.empty())
-        return {beginning + reason, "", false};
+    if (std::string const lacking = lack(kind, record); !lacking.empty())
+        return {lacking + " to write to " + inQuotes(name), {}, false};
+    std::string const beginning = "cannot write " + inQuotes(name) + ": ";
     ReplacementFile file(name);
     if (file.name().empty())
         return {beginning + file.reason()};

@@ -39,16 +39,17 @@ struct OwnedMapRecord : MapRecord {
 
 /// What became of reading or writing a file.
 struct FileOutcome {
-    std::string failure{}; // why it failed, "" where it did not
-    std::string notes{};   // what was left out or could not be told
-    bool isFit = true;     // false: the failure lies with what was to be written
+    std::string failure{};            // why it failed, "" where it did not
+    std::vector<std::string> notes{}; // what was left out or could not be told
+    bool isFit = true;                // false: the failure lies with what was to be written
 };
 
 /// Reads a file into an empty record. Image coordinates count from the upper left corner of the first pixel: those of a
 /// world file, which count from its centre, are shifted.
 FileOutcome readSideFile(std::string const& name, SideFileKind kind, OwnedMapRecord& record);
 
-/// Writes what the format can carry, in place of a file that is there, which stays until the new one is whole.
+/// Writes what the format can carry, in place of a file that is there, which stays until the new one is whole. The last
+/// note of a file that keeps no method tells what becomes of the georeference.
 FileOutcome writeSideFile(std::string const& name, SideFileKind kind, MapRecord const& record);
 
 // The formats themselves, of coordinates as they are in the file.

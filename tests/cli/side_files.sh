@@ -64,7 +64,6 @@ check 'a pipe stays' 1 '' '*cannot write "pipe.zrr": it is no plain file' conver
 rm pipe.*
 check 'no world file' 1 '' 'zrproj: nothing is known of "odd.raw"*' info odd.raw < <(cp both.tfw odd.raw)
 rm odd.raw
-TMPDIR=$work/none check 'no temporary files' 1 '' '*no directory for temporary files; set TMPDIR*' info both.tfw
 check 'directory' 1 '' '*no side file or tag says*' info .
 cp map.rsf damaged.zrr
 check 'damaged' 1 '' '*cannot read "damaged.zrr": it is no reference file, or damaged' convert damaged.zrr out.wld

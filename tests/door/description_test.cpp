@@ -268,6 +268,67 @@ TEST(DoorDescription, PutsAnImageTogether) {
     EXPECT_EQ(listed, expected);
 }
 
+TEST(DoorDescription, CombinesParts) {
+    TemporaryDirectory const directory;
+    auto const world = directory.file("map.wld"), number = directory.file("map.zrr");
+    writeFile(world, worldText);
+    writeFile(number, "Zorvane Cartographic Reference Information : Version 1.10\nDatum Name : Tokyo\n"
+                      "Georef Method : Known Coefficients\nGeoref Coefficient A : 3\n");
+    auto parameters = utm17();
+    parameters.datum = DatumTypeNone;
+    auto const system =
+        made<Description>([&](zrproj_description** d) { return zrproj_description_create(&parameters, nullptr, d); });
+    auto const combined = [](Description const& first, Description const& second) {
+        return made<Description>(
+            [&](zrproj_description** d) { return zrproj_description_combine(first.get(), second.get(), d); });
+    };
+    Description const all =
+        combined(combined(system, read(number, ZRPROJ_REFERENCE_FILE)), read(world, ZRPROJ_WORLD_FILE));
+    auto const sourceOf = [](Description const& description, zrproj_part part) {
+        char const* path = nullptr;
+        return std::string(zrproj_description_source(description.get(), part, &path) == ZRPROJ_OK ? path : "none");
+    };
+    EXPECT_EQ(sourceOf(all, ZRPROJ_PROJECTION), "");
+    EXPECT_EQ(sourceOf(all, ZRPROJ_DATUM), number);
+    EXPECT_EQ(sourceOf(all, ZRPROJ_GEOREFERENCE), world); // one number yields to six
+    EXPECT_EQ(sourceOf(system, ZRPROJ_DATUM), "none");
+    EXPECT_EQ(systemOf(all).type, ProjTypeUniversalTransverseMercator);
+    zrproj_parameters datum{};
+    datum.size = sizeof datum;
+    ASSERT_EQ(zrproj_description_datum(all.get(), &datum), ZRPROJ_OK);
+    EXPECT_EQ(datum.type, ProjTypeUndefined);
+    EXPECT_EQ(datum.datum, DatumTypeTokyo);
+    EXPECT_EQ(datum.shift.method, 0); // as the file has it
+    EXPECT_EQ(zrproj_description_datum(system.get(), &datum), ZRPROJ_UNKNOWN);
+    Description const own = combined(read(world, ZRPROJ_WORLD_FILE), read(number, ZRPROJ_REFERENCE_FILE));
+    EXPECT_EQ(georeferenceOf(own).coefficients[2], 500000);
+    zrproj_description* none = nullptr;
+    EXPECT_EQ(zrproj_description_combine(own.get(), nullptr, &none), ZRPROJ_BAD_ARGUMENT);
+}
+
+TEST(DoorDescription, TellsWhatIsMissedAndWhatIsLeftOut) {
+    TemporaryDirectory const directory;
+    auto const name = directory.file("map.zrr");
+    double mean = -1, pixels = -1;
+    Description const given = scan();
+    EXPECT_EQ(zrproj_description_miss(given.get(), TransformMethodAffinePolynomial, &mean, &pixels), ZRPROJ_OK);
+    EXPECT_NEAR(mean, 0, 1e-6);
+    EXPECT_EQ(zrproj_description_miss(given.get(), TransformMethodHelmert, &mean, &pixels), ZRPROJ_OK);
+    EXPECT_NEAR(mean, 100 * std::sqrt(2.0), 1e-6); // a square of 200 metres mirrored: all corners fall on its middle
+    EXPECT_NEAR(pixels, 50 * std::sqrt(2.0), 1e-6);
+    EXPECT_EQ(zrproj_description_miss(given.get(), TransformMethodPrecalculatedAffineCoefficients, &mean, &pixels),
+              ZRPROJ_UNKNOWN);
+
+    writeFile(name, "Zorvane Cartographic Reference Information : Version 1.10\nGeoref Method : Helmert\n"
+                    "Georef Control Point Count : 4\n");
+    Description const announced = read(name, ZRPROJ_REFERENCE_FILE);
+    char const* note = nullptr;
+    ASSERT_EQ(zrproj_description_note(announced.get(), 0, &note), ZRPROJ_OK);
+    EXPECT_EQ(note, "the control points that \"" + name + "\" announces are not there");
+    EXPECT_EQ(zrproj_description_note(announced.get(), 1, &note), ZRPROJ_UNKNOWN);
+    EXPECT_EQ(zrproj_description_miss(announced.get(), TransformMethodHelmert, &mean, &pixels), ZRPROJ_UNKNOWN);
+}
+
 TEST(DoorDescription, KnowsFilesByTheirNames) {
     zrproj_side_file kind{};
     auto const kindOf = [&](char const* name) { return zrproj_side_file_kind(name, &kind) == ZRPROJ_OK ? kind : -1; };

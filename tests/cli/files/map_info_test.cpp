@@ -16,15 +16,15 @@ void write(std::string const& name, std::string const& text) {
 /// The names, without their directory, of what tells of an image.
 std::vector<std::string> sourceNames(std::string const& image) {
     std::vector<std::string> names;
-    for (MapSource const& source : sourcesOf(image))
-        names.push_back(std::filesystem::path(source.name).filename().string());
+    for (MapFile const& file : filesOf(image))
+        names.push_back(std::filesystem::path(file.name).filename().string());
     return names;
 }
 
 TEST(MapInfo, TheFormatIsKnownByTheName) {
     auto const title = [](char const* name) {
-        FileFormat const* const format = formatOf(name);
-        return std::string(format ? format->title : "none");
+        auto const file = sideFile(name);
+        return std::string(file ? file->title() : "none");
     };
     for (char const* name : {"a.tif.zrr", "A.ZRR"})
         EXPECT_EQ(title(name), "reference file") << name;
@@ -50,26 +50,25 @@ TEST(MapInfo, WorldFilesSayWhereTheCentreOfTheFirstPixelLies) {
     TemporaryDirectory const directory;
     write(directory.file("any name.wld"), world);
     MapInfo const info = readMap(directory.file("any name.wld"));
-    EXPECT_EQ(info.georefFile, directory.file("any name.wld"));
-    EXPECT_TRUE(info.projectionFile.empty() && info.datumFile.empty());
-    EXPECT_EQ(static_cast<double>(info.georef->C), 1000);
-    EXPECT_EQ(static_cast<double>(info.georef->F), 3000);
-    FileFormat const& format = *formatOf("b.tfw");
-    EXPECT_TRUE(format.write(directory.file("b.tfw"), info, Misfit::Refused).empty());
+    EXPECT_EQ(info.fileOf(ZRPROJ_GEOREFERENCE), directory.file("any name.wld"));
+    EXPECT_FALSE(info.tells(ZRPROJ_PROJECTION) || info.tells(ZRPROJ_DATUM));
+    EXPECT_EQ(info.georeference().coefficients[2], 1000);
+    EXPECT_EQ(info.georeference().coefficients[5], 3000);
+    EXPECT_TRUE(sideFile(directory.file("b.tfw"))->write(info, Misfit::Refused).empty());
     MapInfo const back = readMap(directory.file("b.tfw"));
-    EXPECT_EQ(static_cast<double>(back.georef->C), 1000);
-    EXPECT_EQ(static_cast<double>(back.georef->E), -2);
+    EXPECT_EQ(back.georeference().coefficients[2], 1000);
+    EXPECT_EQ(back.georeference().coefficients[4], -2);
 }
 
 TEST(MapInfo, WhatAFormatCannotCarryIsTold) {
     TemporaryDirectory const directory;
     write(directory.file("a.wld"), world);
     MapInfo info = readMap(directory.file("a.wld"));
-    auto const notes = formatOf("a.zrr")->write(directory.file("a.zrr"), info, Misfit::Refused);
+    auto const notes = sideFile(directory.file("a.zrr"))->write(info, Misfit::Refused);
     ASSERT_EQ(notes.size(), 1U);
     EXPECT_TRUE(notes[0].starts_with("the six coefficients are written as four control points"));
-    EXPECT_EQ(static_cast<int>(readMap(directory.file("a.zrr")).georef->nControls), 4);
-    EXPECT_THROW(formatOf("a.wld")->write(directory.file("b.wld"), MapInfo(), Misfit::Refused), std::runtime_error);
+    EXPECT_EQ(readMap(directory.file("a.zrr")).georeference().count, 4U);
+    EXPECT_THROW(sideFile(directory.file("b.wld"))->write(MapInfo(), Misfit::Refused), std::runtime_error);
     EXPECT_FALSE(std::filesystem::exists(directory.file("b.wld")));
 }
 
