@@ -39,7 +39,7 @@ struct Krovak {
         R const cosT = sqrt(at.east * at.east + at.north * at.north);
         auto const polar = cosT <= edge;
         R const psi = isometric(SinCos<R>{at.up, select(polar, R(edge), cosT)});
-        auto const theta = sinCos(n * atan2(-at.east, -at.north));
+        auto const theta = sinCos(n * atan2(0.0 - at.east, -at.north)); // the cut itself is on one side at any level
         R const r = r0 * exp(n * (psiP - psi));
         return {select(on.covered | (polar & (at.up < 0.0)), R(unplottable), -r * theta.sin), -r * theta.cos};
     }
