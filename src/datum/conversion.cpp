@@ -91,7 +91,7 @@ bool convertByGrid(Conversion const& c, std::span<DATUMPOINT> points, bool& mark
     std::ranges::transform(points, turns, points.begin(), [](DATUMPOINT p, signed char turn) {
         return DATUMPOINT{p.x + 360.0 * turn, p.y};
     });
-    marked |= run(methods, {{methods.restore, nullptr}}, points);
+    marked |= run(methods, {{methods.normalise, nullptr}}, points);
     return true;
 }
 

@@ -28,6 +28,8 @@ struct MethodSet {
     levels::StageCode cut;
     /// Adds it again and brings the coordinates into range.
     levels::StageCode restore;
+    /// Only brings them into range.
+    levels::StageCode normalise;
 
     /// What the record says, in the direction that it says, by each row of datumMethodTable; null where points are not
     /// shifted by a formula. The record's figures are those of its ellipsoid; equations are those of the datum.

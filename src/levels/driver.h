@@ -47,6 +47,7 @@ template <class R> auto isGood(Pair<R> p) {
 struct Pairs {
     double* numbers;
 
+    static Pairs of(Points const& points) { return {reinterpret_cast<double*>(points.x)}; }
     static int laneOf(int point) { return 2 * point < lanes ? 2 * point : 2 * point - lanes + 1; }
     Pairs from(std::size_t first) const { return {numbers + 2 * first}; }
     Pair<double> get(int i) const { return {numbers[2 * i], numbers[2 * i + 1]}; }
@@ -70,6 +71,7 @@ struct Strided {
     std::byte *x, *y;
     std::ptrdiff_t stride;
 
+    static Strided of(Points const& points) { return {points.x, points.y, points.stride}; }
     static int laneOf(int point) { return point; }
     Strided from(std::size_t first) const {
         auto const offset = stride * static_cast<std::ptrdiff_t>(first);
@@ -215,7 +217,6 @@ private:
             p = {select(good, p.x, Register(notANumber)), select(good, p.y, Register(notANumber))};
         store(block_.x + i, p.x);
         store(block_.y + i, p.y);
-        store(block_.kept + i, Register(0.0));
     }
 
     Stage const* stages_;
@@ -282,14 +283,14 @@ template <class Work>
     return {marking.marker, marking.marker};
 }
 
-/// Gives back the points of a register one by one.
+/// Gives back the points of a register one by one; `fates` are the block's, or null.
 template <class Work, class View>
 [[gnu::noinline]] void settle(Work const& work, View const& view, int i, int count, Marking const& marking,
-                              Outcome& outcome) {
+                              unsigned char* fates, Outcome& outcome) {
     auto const numbers = work.numbers(view, i, count);
     for (int k = 0; k < count; ++k) {
         Pair<double> const out{numbers.x[View::laneOf(k)], numbers.y[View::laneOf(k)]};
-        auto* const fate = marking.fates ? marking.fates + i + k : nullptr;
+        auto* const fate = fates ? fates + i + k : nullptr;
         view.put(i + k, isFinite(out) ? out : convertAlone(work, view.get(i + k), marking, fate, outcome));
     }
 }
@@ -307,30 +308,32 @@ template <class Results, class View> int storeGood(Results const& results, View 
 }
 
 template <class Work, class View>
-void convertBlock(Work& work, View view, int count, Marking const& marking, Outcome& outcome) {
+void convertBlock(Work& work, View const& view, int count, Marking const& marking, unsigned char* fates,
+                  Outcome& outcome) {
     work.compute(view, count);
     int i = 0;
     while (i + lanes <= count) {
         i = storeGood(work.results(view), view, i, count);
         if (i + lanes > count)
             break;
-        settle(work, view, i, lanes, marking, outcome);
+        settle(work, view, i, lanes, marking, fates, outcome);
         i += lanes;
     }
     if (i < count)
-        settle(work, view, i, count - i, marking, outcome);
+        settle(work, view, i, count - i, marking, fates, outcome);
 }
 
+/// What was just written in pieces is read in pieces here, or a single point would wait for it: no copies of `points`
+/// or `marking`.
 template <class Work, class View, class... Parts>
-[[gnu::noinline]] Outcome convertView(View const& view, std::size_t count, Marking marking, Parts const&... parts) {
+[[gnu::noinline]] Outcome convertView(Points const& points, Marking const& marking, Parts const&... parts) {
     Work work{parts...};
+    auto const view = View::of(points);
     Outcome outcome;
-    for (std::size_t first = 0; first < count; first += blockPoints) {
-        auto const rest = count - first;
+    for (std::size_t first = 0; first < points.count; first += blockPoints) {
+        auto const rest = points.count - first;
         convertBlock(work, view.from(first), rest < blockPoints ? static_cast<int>(rest) : blockPoints, marking,
-                     outcome);
-        if (marking.fates)
-            marking.fates += blockPoints;
+                     marking.fates ? marking.fates + first : nullptr, outcome);
     }
     return outcome;
 }
@@ -338,9 +341,9 @@ template <class Work, class View, class... Parts>
 /// Runs work, made of `parts`, over a caller's points.
 template <class Work, class... Parts>
 Outcome convertPoints(Points const& points, Marking const& marking, Parts const&... parts) {
-    if (points.stride == 2 * sizeof(double) && points.y == points.x + sizeof(double))
-        return convertView<Work>(Pairs{reinterpret_cast<double*>(points.x)}, points.count, marking, parts...);
-    return convertView<Work>(Strided{points.x, points.y, points.stride}, points.count, marking, parts...);
+    bool const arePairs = points.stride == 2 * sizeof(double) && points.y == points.x + sizeof(double);
+    return arePairs ? convertView<Work, Pairs>(points, marking, parts...)
+                    : convertView<Work, Strided>(points, marking, parts...);
 }
 
 /// Runs stages.

@@ -26,8 +26,10 @@ inline constexpr int blockPoints = 256;
 /// Up to blockPoints points in the first-level cache, in an order of their own. What cannot be computed is NaN.
 struct Block {
     alignas(64) double x[blockPoints], y[blockPoints];
-    double kept[blockPoints]; // 0 at first; what a stage leaves for a later one
     int count;
+    // What a stage leaves for a later one. Not a multiple of 4096 bytes from x, where the processor would take a number
+    // that is written for one that is read.
+    alignas(64) double kept[blockPoints];
 };
 
 /// A point that did not come out of a block, on its way alone, in `double` with the arithmetic flags watched: a

@@ -9,33 +9,43 @@ namespace ZrProj {
 namespace datum::ZRPROJ_LEVEL {
 namespace {
 
-template <class R> Pair<R> cut(Pair<R> degrees, R& turn) {
-    auto const p = normalised(degrees);
-    turn = select(p.x < -180.0, R(-360.0), select(p.x > 180.0, R(360.0), R(0.0)));
-    return {p.x - turn, p.y};
-}
+struct Cut {
+    template <class R> static Pair<R> apply(Pair<R> degrees, R& turn) {
+        auto const p = normalised(degrees);
+        turn = select(p.x < -180.0, R(-360.0), select(p.x > 180.0, R(360.0), R(0.0)));
+        return {p.x - turn, p.y};
+    }
+};
+struct Restore {
+    template <class R> static Pair<R> apply(Pair<R> degrees, R const& turn) {
+        return normalised(Pair<R>{degrees.x + turn, degrees.y});
+    }
+};
+struct Normalise {
+    template <class R> static Pair<R> apply(Pair<R> degrees, R const&) { return normalised(degrees); }
+};
 
-template <class R> Pair<R> restore(Pair<R> degrees, R& turn) {
-    return normalised(Pair<R>{degrees.x + turn, degrees.y});
-}
-
-template <Pair<Register> (*end)(Pair<Register>, Register&)>
-void runEnd(void const*, levels::Block& __restrict block) noexcept {
+template <class End> void runEnd(void const*, levels::Block& __restrict block) noexcept {
     int const count = block.count;
     for (int i = 0; i < count; i += lanes) {
-        Register turn = load(block.kept + i);
-        auto const out = end({load(block.x + i), load(block.y + i)}, turn);
+        Register turn = 0.0;
+        if constexpr (std::is_same_v<End, Restore>)
+            turn = load(block.kept + i);
+        auto const out = End::apply(Pair<Register>{load(block.x + i), load(block.y + i)}, turn);
         store(block.x + i, out.x);
         store(block.y + i, out.y);
-        store(block.kept + i, turn);
+        if constexpr (std::is_same_v<End, Cut>)
+            store(block.kept + i, turn);
     }
 }
 
-template <Pair<double> (*end)(Pair<double>, double&)> void runEndAlone(void const*, levels::LonePoint& point) noexcept {
-    auto const out = end({point.x, point.y}, point.kept);
+template <class End> void runEndAlone(void const*, levels::LonePoint& point) noexcept {
+    auto const out = End::apply(Pair<double>{point.x, point.y}, point.kept);
     point.x = out.x;
     point.y = out.y;
 }
+
+template <class End> constexpr levels::StageCode codeOfEnd{runEnd<End>, runEndAlone<End>};
 
 template <std::size_t row> constexpr MethodSet::MakeStep stepOfRow() {
     if constexpr (datumMethodTable[row].isComputed())
@@ -45,10 +55,8 @@ template <std::size_t row> constexpr MethodSet::MakeStep stepOfRow() {
 }
 
 template <std::size_t... row> constexpr MethodSet setOf(std::index_sequence<row...>) {
-    return {levels::ZRPROJ_LEVEL::convert,
-            {runEnd<cut<Register>>, runEndAlone<cut<double>>},
-            {runEnd<restore<Register>>, runEndAlone<restore<double>>},
-            {stepOfRow<row>()...}};
+    return {
+        levels::ZRPROJ_LEVEL::convert, codeOfEnd<Cut>, codeOfEnd<Restore>, codeOfEnd<Normalise>, {stepOfRow<row>()...}};
 }
 
 } // namespace
