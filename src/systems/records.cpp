@@ -151,10 +151,8 @@ constexpr Row rows[] = {
 // clang-format on
 
 Unit unitOfScale(double scale) {
-    for (Code const code : {9001, 9002, 9003})
-        if (auto const unit = unitOf(code); std::fabs(unit->factor * scale - 1) < 1e-12)
-            return *unit;
-    return {"unknown", 1 / scale, 0};
+    auto const unit = unitOf(lengthUnitOf(1 / scale));
+    return unit ? *unit : Unit{"unknown", 1 / scale, 0};
 }
 
 Ellipsoid ellipsoidOf(PROJDATA const& record) {

@@ -153,6 +153,32 @@ std::optional<Unit> unitOf(Code code) {
     return unitOfRow(*row);
 }
 
+std::optional<Definition> systemOfConversion(Code conversion) {
+    auto const has = [conversion](SystemRow const& row) {
+        return !row.deprecated && row.conversion != geographic && conversions[row.conversion].code == conversion;
+    };
+    auto const* const row = std::ranges::find_if(systems, has);
+    if (row == std::end(systems))
+        return {};
+    return definitionOfRow(*row);
+}
+
+Code lengthUnitOf(double metres) {
+    auto const is = [metres](UnitRow const& row) { return !row.ofAngle && std::fabs(row.factor / metres - 1) < 1e-13; };
+    auto const* const row = std::ranges::find_if(rows::units, is);
+    return row == std::end(rows::units) ? 0 : row->code;
+}
+
+Code ellipsoidWith(Ellipsoid const& figure) {
+    auto const flattening = [](double inverse) { return inverse == 0 ? 0 : 1 / inverse; };
+    auto const is = [&](EllipsoidRow const& row) {
+        double const apart = flattening(row.inverseFlattening) - flattening(figure.inverseFlattening);
+        return std::fabs(row.semiMajor - figure.semiMajor) < 1e-3 && std::fabs(apart) * row.semiMajor < 1e-5;
+    };
+    auto const* const row = std::ranges::find_if(ellipsoids, is);
+    return row == std::end(ellipsoids) ? 0 : row->code;
+}
+
 bool Area::contains(double longitude, double latitude) const {
     double const width = west <= east ? east - west : east - west + 360;
     double const fromWest = std::fmod(std::remainder(longitude, 360) - west + 720, 360);

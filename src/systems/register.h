@@ -37,6 +37,16 @@ Entry entry(std::size_t n); // n < entryCount()
 /// The ensemble that a datum is a realization of, 0 for none.
 Code ensembleOf(Code datum);
 
+/// The first system in force that has a conversion of the register, nothing where none has.
+std::optional<Definition> systemOfConversion(Code conversion);
+
+// By what they are: the first of the register, 0 where there is none.
+
+/// The unit of length that is so many metres, up to rounding.
+Code lengthUnitOf(double metres);
+/// The ellipsoid with these axes, to a millimetre at the equator and a hundredth of that at the poles.
+Code ellipsoidWith(Ellipsoid const& figure);
+
 /// The codes of the systems that stand on a datum.
 std::vector<Code> systemsOn(Code datum);
 
