@@ -31,7 +31,13 @@ namespace ZrProj {
 /// - Projected coordinates are those of the file: with a unit of length other than the metre, Scale is how many of that
 ///   unit make a metre, and the false origin is in metres. A scale factor that a type has no K0 for goes into Scale,
 ///   too, and the false origin is divided by it.
-/// - `*datum` is found by its POSC code, or by its very name in the citation; the parameters of a transformation to
+/// - Numbers are those of the register of coordinate systems, and names in citations ("ESRI PE String = ...", "PCS Name
+/// =
+///   ...") are its, too. Where the file's own axes contradict a number by a millimetre or more, the axes are taken, and
+///   ZrProjExplainGeoTIFF tells.
+/// - UTM and State Plane systems become zones. The Mercator of web maps is type 1 with radius 6378137 and flattening 0,
+///   on the datum WGS 84, whether a number or but a citation says so.
+/// - `*datum` is found by its POSC code, or by its name in the citation; the parameters of a transformation to
 ///   WGS 84 give a user-defined datum (0). `*params` then holds the datum's parameters where it has any.
 /// - The georeference maps pixels to projected coordinates (or degrees), a pixel's coordinates being those of its upper
 ///   left corner, whichever way the file counts. Three or more tie points without a pixel scale are control points,
@@ -42,7 +48,7 @@ namespace ZrProj {
 ZRPROJ_API bool ZrProjGetGeoTIFF(ZrBitmapTagList const& tags, PROJDATA* data, DatumType* datum, DATUM2WGS84* params,
                                  GEOREF* georef, std::uint32_t* flags);
 
-/// Explains why ZrProjGetGeoTIFF leaves parts of the tags unread or refuses them.
+/// Explains why ZrProjGetGeoTIFF leaves parts of the tags unread or refuses them, and what in them is contradictory.
 ///
 /// Writes a sentence a line to `message`, "" when there is nothing to say, and no more than `size` bytes, the closing
 /// null among them: a longer text is cut. Returns false, with nothing written, for a null buffer or a size below 1, and
@@ -54,9 +60,10 @@ ZRPROJ_API bool ZrProjExplainGeoTIFF(ZrBitmapTagList const& tags, char* message,
 /// A null `data` or type 999, a datum of 237, and a null `georef` or method 12 are left out. `params` is needed for a
 /// user-defined datum (0) only. The records are not changed.
 ///
-/// The tags say pixel-is-area. A georeference that pixel scale and tie point cannot say is written as a matrix, a
-/// Helmert system as the matrix that it is. Control points of an affine fit that meets them but for rounding to 15
-/// digits become a matrix, too; other control points become tie points, and their method is not told.
+/// A system is said by its number in the register where that reads back as the very same record, and else by its
+/// parameters. The tags say pixel-is-area. A georeference that pixel scale and tie point cannot say is written as a
+/// matrix, a Helmert system as the matrix that it is. Control points of an affine fit that meets them but for rounding
+/// to 15 digits become a matrix, too; other control points become tie points, and their method is not told.
 ///
 /// On success `*tags` is an array of `*count` tags, to be freed with ZrProjDiscardGeoTIFFTags; null and 0 when there
 /// was nothing to write. Returns false, with null and 0, for null `tags` or `count`, when the records cannot be said in

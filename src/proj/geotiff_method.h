@@ -8,11 +8,13 @@
 
 namespace ZrProj::GeoTIFF {
 
-/// Coordinate transformations: how the parameters of a projection are to be read. The last is no part of the standard,
-/// but what common writers use.
+/// Coordinate transformations: how the parameters of a projection are to be read. The last two are no part of the
+/// standard, but what common writers use.
 enum Transformation : std::uint16_t {
     transverseMercator = 1,
     obliqueMercator = 3,
+    obliqueMercatorLaborde = 4,
+    obliqueMercatorRosenmund = 5,
     mercator = 7,
     lambertConformal2 = 8,
     lambertConformal1 = 9,
@@ -32,6 +34,9 @@ enum Transformation : std::uint16_t {
     robinson = 23,
     sinusoidal = 24,
     vanDerGrinten = 25,
+    newZealandMapGrid = 26,
+    transverseMercatorSouth = 27,
+    cylindricalEqualArea = 28,
     obliqueMercatorFromCentre = 9815,
 };
 

@@ -198,6 +198,10 @@ TEST(GeoTIFF, PixelsCountFromTheCorner) {
     expectCoefficients(Read(placed(1, 34264, matrix, tie)).georef, {2, 1, 100, 3, -4, 200});
     expectCoefficients(Read(placed(2, 34264, matrix, tie)).georef, {2, 1, 98.5, 3, -4, 200.5});
 
+    ZrBitmapTagList const mirrored = placed(1, 33550, {2, -4, 0}, tie); // rows run north
+    expectCoefficients(Read(mirrored).georef, {2, 0, 980, 0, 4, 1920});
+    EXPECT_NE(explained(mirrored).find("mirrored"), std::string::npos);
+
     ZrBitmapTagList points;
     addShorts(points, 34735, {1, 1, 0, 1, 1025, 0, 1, 2});
     addDoubles(points, 33922, {0, 0, 0, 10, 20, 0, 9, 0, 0, 100, 20, 0, 0, 9, 0, 10, -70, 0});
@@ -212,7 +216,7 @@ TEST(GeoTIFF, PixelsCountFromTheCorner) {
 TEST(GeoTIFF, PlacementsThatPlaceNothingAreNotRead) {
     std::vector<double> const tie{0, 0, 0, 1, 2, 0};
     for (std::vector<double> const& scale : std::vector<std::vector<double>>{
-             {nan, 1, 0}, {1, inf, 0}, {0, 1, 0}, {1, -1, 0}, {1}, {1e308, 1e308, 0}, {1e-308, 1e-308, 0}}) {
+             {nan, 1, 0}, {1, inf, 0}, {0, 1, 0}, {1, 0, 0}, {1}, {1e308, 1e308, 0}, {1e-308, 1e-308, 0}}) {
         ZrBitmapTagList tags;
         addDoubles(tags, 33550, scale);
         addDoubles(tags, 33922, tie);
@@ -256,6 +260,90 @@ TEST(GeoTIFF, DamagedDirectoriesAreRefusedWhole) {
     ZrBitmapTagList wrongType;
     addDoubles(wrongType, 34735, {1, 1, 0, 0});
     EXPECT_FALSE(Read(wrongType).good);
+}
+
+/// Tags of keys with their values, of doubles at the given places of {...numbers} and of one text.
+ZrBitmapTagList keyed(std::vector<std::uint16_t> const& keys, std::vector<double> const& numbers = {},
+                      std::string const& text = {}) {
+    std::vector<std::uint16_t> directory{1, 1, 0, static_cast<std::uint16_t>(keys.size() / 4)};
+    directory.insert(directory.end(), keys.begin(), keys.end());
+    ZrBitmapTagList tags;
+    addShorts(tags, 34735, directory);
+    if (!numbers.empty())
+        addDoubles(tags, 34736, numbers);
+    if (!text.empty())
+        addText(tags, 34737, text + '|');
+    return tags;
+}
+
+TEST(GeoTIFF, AKeyMayBeRepeatedWithItsValue) {
+    Read const read(keyed({1024, 0, 1, 1, 3072, 0, 1, 32617, 3072, 0, 1, 32617}));
+    EXPECT_EQ(read.flags, 19u);
+}
+
+TEST(GeoTIFF, TheMapOfTheWebMayBeSaidByACitationAlone) {
+    for (std::string const name : {"Google Maps Global Mercator", "WGS 84 / Pseudo-Mercator",
+                                   "PCS Name = WGS_1984_Web_Mercator_Auxiliary_Sphere"}) {
+        auto const size = static_cast<std::uint16_t>(name.size() + 1);
+        Read const described(keyed({1024, 0, 1,    1, 2048, 0,     1,    4326, 3072, 0, 1,    32767, 3073, 34737,
+                                    size, 0, 3074, 0, 1,    32767, 3075, 0,    1,    7, 3076, 0,     1,    9001},
+                                   {}, name));
+        Read const named(keyed({1024, 0, 1, 1, 3072, 0, 1, 32767, 3073, 34737, size, 0}, {}, name));
+        for (Read const* read : {&described, &named}) {
+            EXPECT_EQ(read->flags, 19u) << name;
+            EXPECT_EQ(value(read->projection.Type), ProjTypeMercator);
+            EXPECT_EQ(value(read->projection.MajorRadius), 6378137);
+            EXPECT_EQ(value(read->projection.Flattening), 0);
+            EXPECT_EQ(read->datum, DatumTypeWorldGeodeticSystem1984);
+        }
+        Made const made(described.projection, described.datum);
+        EXPECT_EQ(Read(made.tags).flags, 19u) << made.refusal;
+        EXPECT_EQ(value(Read(made.tags).projection.Flattening), 0);
+    }
+}
+
+TEST(GeoTIFF, AxesBesideANumberAreTheRegistersToAMillimetreAndElseTheFiles) {
+    auto const withAxes = [](double radius, double inverse) {
+        return keyed({1024, 0, 1, 1, 2057, 34736, 1, 0, 2059, 34736, 1, 1, 3072, 0, 1, 32617}, {radius, inverse});
+    };
+    Read const near(withAxes(6378137.0004, 298.257222));
+    EXPECT_EQ(near.flags, 19u);
+    EXPECT_EQ(value(near.projection.Ellipsoid), EllipsoidTypeWgs84);
+    EXPECT_EQ(explained(withAxes(6378137.0004, 298.257222)), "");
+    Read const far(withAxes(6378140, 298.257));
+    EXPECT_EQ(far.flags, 17u); // and on no datum
+    EXPECT_EQ(value(far.projection.MajorRadius), 6378140);
+    EXPECT_NE(explained(withAxes(6378140, 298.257)).find("the semi-major axis 6378140 m instead of 6378137 m"),
+              std::string::npos);
+}
+
+TEST(GeoTIFF, AProjectedSystemMayStandBesideAnotherGeographicOneOfItsFigure) {
+    auto const beside = [](std::uint16_t geographic) {
+        return keyed({1024, 0, 1, 1, 2048, 0, 1, geographic, 3072, 0, 1, 26917});
+    };
+    EXPECT_EQ(Read(beside(4152)).datum, DatumTypeNorthAmericanDatum1983);
+    EXPECT_NE(explained(beside(4152)).find("the projected system's is taken"), std::string::npos);
+    EXPECT_EQ(Read(beside(4267)).flags, 16u);
+}
+
+TEST(GeoTIFF, ASystemOfThreeDimensionsIsReadByItsHorizontalPart) {
+    EXPECT_EQ(Read(keyed({1024, 0, 1, 2, 2048, 0, 1, 4979})).datum, DatumTypeWorldGeodeticSystem1984);
+    EXPECT_EQ(Read(keyed({1024, 0, 1, 1, 3072, 0, 1, 5498})).flags, 16u); // geographic, with heights
+}
+
+TEST(GeoTIFF, WritesTheRegistersNumberWhereItReadsBackAsTheSameRecord) {
+    auto const numberOf = [](std::uint16_t system) {
+        Read const read(keyed({1024, 0, 1, 1, 3072, 0, 1, system}));
+        Made const made(read.projection, read.datum, &read.params);
+        auto const* const tag = made.tags.Find(34735);
+        auto const* const keys = static_cast<std::uint16_t const*>(tag->pData);
+        for (std::uint32_t i = 4; i + 3 < tag->Count; i += 4)
+            if (keys[i] == 3072)
+                return keys[i + 3];
+        return std::uint16_t{0};
+    };
+    for (int const system : {3857, 3395, 32617, 23031, 26729, 2226, 32188, 3413, 26910})
+        EXPECT_EQ(numberOf(static_cast<std::uint16_t>(system)), system);
 }
 
 TEST(GeoTIFF, DatumsComeByNumberByNameAndByShifts) {

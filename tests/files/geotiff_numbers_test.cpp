@@ -21,7 +21,7 @@ TEST(GeoTIFFNumbers, MeanWhatTheRegistryDefines) {
     std::ifstream file(ZRPROJ_TEST_DATA "/geotiff/numbered.txt");
     std::string text;
     std::getline(file, text);
-    int count = 0;
+    int count = 0, unsaid = 0; // by any record
     for (; std::getline(file, text); ++count) {
         std::istringstream line(text);
         std::uint16_t code = 0;
@@ -31,6 +31,10 @@ TEST(GeoTIFFNumbers, MeanWhatTheRegistryDefines) {
         PROJDATA record = {};
         std::uint32_t flags = 0;
         EXPECT_TRUE(ZrProjGetGeoTIFF(tagsOf(code), &record, nullptr, nullptr, nullptr, &flags));
+        if (flags == 16) {
+            ++unsaid;
+            continue;
+        }
         EXPECT_EQ(flags, 17u);
         // In the registry, zones of 1927 have rounded parameters: 1.02 mm for Alaska 1, 2.8 mm for Rhode Island.
         double const metres = record.Type == ProjTypeStatePlane1927 ? 3e-3 : 1e-3;
@@ -40,7 +44,8 @@ TEST(GeoTIFFNumbers, MeanWhatTheRegistryDefines) {
         EXPECT_NEAR(p.x, expected.x, tolerance);
         EXPECT_NEAR(p.y, expected.y, tolerance);
     }
-    EXPECT_GT(count, 1000);
+    EXPECT_GT(count, 1800);
+    EXPECT_LT(unsaid, count / 20);
 }
 
 } // namespace

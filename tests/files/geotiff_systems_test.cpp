@@ -83,6 +83,10 @@ TEST(GeoTIFFSystems, SurviveBeingWrittenAndReadAgain) {
         int count = 0;
         std::array<char, 512> reason = {};
         ZrProjExplainGeoTIFFTags(&first.projection, first.datum, &first.params, &first.georef, reason.data(), 512);
+        if (first.projection.Type == ProjTypeMollweide) {
+            EXPECT_STREQ(reason.data(), "GeoTIFF has no name for the projection Mollweide");
+            continue;
+        }
         EXPECT_STREQ(reason.data(), "");
         ASSERT_TRUE(
             ZrProjBuildGeoTIFFTags(&first.projection, first.datum, &first.params, &first.georef, &tags, &count));

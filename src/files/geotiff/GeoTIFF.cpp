@@ -4,6 +4,7 @@
 #include "files/guarded.h"
 #include "files/map_record.h"
 #include "host/fpenv.h"
+#include "systems/to_record.h"
 
 #include <zrproj/geotiff.h>
 #include <zrproj/reffile.h>
@@ -26,16 +27,26 @@ constexpr char sourceFile[] = ".\\GeoTIFF.cpp";
 struct Contents {
     bool hasKeys = false;
     Expected<System> system;
+    Expected<systems::SystemRecord> record; // of the system
     Expected<Placement> placement;
 };
+
+Expected<systems::SystemRecord> recordOf(Expected<System> const& system) {
+    if (!system)
+        return system.refusal();
+    auto record = systems::recordOf(system->definition);
+    if (auto const* unsupported = std::get_if<systems::Unsupported>(&record))
+        return Refusal{unsupported->reason};
+    return std::get<systems::SystemRecord>(std::move(record));
+}
 
 Expected<Contents> contentsOf(ZrBitmapTagList const& tags) {
     auto const keys = KeyDirectory::read(tags);
     if (!keys)
         return keys.refusal();
     bool const pixelIsPoint = keys->code(keyRasterType) == rasterIsPoint;
-    return Contents{!keys->empty(), keys->empty() ? Expected<System>(Refusal{}) : readSystem(*keys),
-                    readPlacement(tags, pixelIsPoint)};
+    auto const system = keys->empty() ? Expected<System>(Refusal{}) : readSystem(*keys);
+    return Contents{!keys->empty(), system, recordOf(system), readPlacement(tags, pixelIsPoint)};
 }
 
 void reset(PROJDATA* data, DatumType* datum, DATUM2WGS84* params, GEOREF* georef, std::uint32_t* flags) {
@@ -52,20 +63,20 @@ void reset(PROJDATA* data, DatumType* datum, DATUM2WGS84* params, GEOREF* georef
         *flags = 0;
 }
 
-std::uint32_t store(System const& system, PROJDATA* data, DatumType* datum, DATUM2WGS84* params) {
+std::uint32_t store(systems::SystemRecord const& record, PROJDATA* data, DatumType* datum, DATUM2WGS84* params) {
     std::uint32_t flags = 0;
     if (data) {
-        *data = system.projection;
+        *data = record.projection;
         flags |= RefFileFlagProjection;
     }
-    if (system.geographic.datum == DatumTypeNone)
+    if (record.datum == DatumTypeNone)
         return flags;
     if (datum) {
-        *datum = system.geographic.datum;
+        *datum = record.datum;
         flags |= RefFileFlagDatum;
     }
     if (params)
-        *params = system.geographic.params;
+        *params = record.parameters;
     return flags;
 }
 
@@ -96,8 +107,8 @@ bool readTags(ZrBitmapTagList const& tags, PROJDATA* data, DatumType* datum, DAT
     if (!placed)
         return false;
     std::uint32_t found = *placed;
-    if (contents->system)
-        found |= store(*contents->system, data, datum, params);
+    if (contents->record)
+        found |= store(*contents->record, data, datum, params);
     bool const hasPlacement = tags.Find(tagPixelScale) || tags.Find(tagTiePoints) || tags.Find(tagTransformation);
     if (flags)
         *flags = contents->hasKeys || hasPlacement ? found | RefFileFlagRead : 0;
@@ -114,10 +125,12 @@ std::string explanationOf(ZrBitmapTagList const& tags) {
         if (!reason.empty())
             result += (result.empty() ? "" : "\n") + reason;
     };
-    add(contents->system.reason());
     if (contents->system)
-        add(contents->system->geographic.noDatum);
-    add(contents->placement.reason());
+        add(contents->system->noticed);
+    add(contents->record.reason());
+    if (contents->record)
+        add(contents->record->noDatum);
+    add(contents->placement ? contents->placement->noticed : contents->placement.reason());
     return result;
 }
 

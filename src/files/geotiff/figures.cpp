@@ -1,87 +1,99 @@
 #include "files/geotiff/figures.h"
 
-#include "files/geotiff/ellipsoid_table.h"
-#include "files/geotiff/unit_table.h"
+#include "systems/register.h"
 
 #include <algorithm>
+#include <array>
 #include <cmath>
 #include <numbers>
-#include <span>
 
 namespace ZrProj::GeoTIFF {
 namespace {
 
-Expected<Unit> unitOfCode(std::span<UnitRow const> table, std::uint16_t code) {
-    auto const row = std::ranges::find(table, code, &UnitRow::code);
-    if (row == table.end())
-        return Refusal{"unit " + std::to_string(code) + " is not one of those known by number"};
-    return Unit{row->numerator, row->denominator};
+/// The units of angle that are multiples of one another; the others are ways of writing degrees.
+constexpr std::array<std::uint16_t, 7> angleUnits{9101, 9102, 9103, 9104, 9105, 9106, 9122};
+constexpr std::uint16_t firstOfAngle = 9101, lastOfAngle = 9199;
+
+bool isUnit(std::uint16_t code, bool ofAngle) {
+    bool const isOfAngle = firstOfAngle <= code && code <= lastOfAngle;
+    return ofAngle ? std::ranges::find(angleUnits, code) != angleUnits.end() : !isOfAngle;
 }
 
-/// `unitsOfSize` is what the size is counted in.
-Expected<Unit> unitOf(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise,
-                      std::span<UnitRow const> table, Unit unitsOfSize) {
-    if (keys.has(unitKey) && !keys.code(unitKey))
+/// `base` is what the size of a unit of the file's own is counted in, in metres or degrees.
+Expected<std::optional<systems::Unit>> unitOf(KeyDirectory const& keys, Key unitKey, Key sizeKey, double base,
+                                              bool ofAngle) {
+    using Result = std::optional<systems::Unit>;
+    if (!keys.has(unitKey))
+        return Result();
+    auto const code = keys.code(unitKey);
+    if (!code)
         return Refusal{"a unit is undefined"};
-    std::uint16_t const code = keys.code(unitKey).value_or(otherwise);
-    if (code != userDefined)
-        return unitOfCode(table, code);
+    if (*code != userDefined) {
+        auto unit = systems::unitOf(*code);
+        if (!unit || !isUnit(*code, ofAngle))
+            return Refusal{"unit " + std::to_string(*code) + " is not one of those known by number"};
+        return Result(std::move(unit));
+    }
     std::optional<double> const size = keys.number(sizeKey);
     if (!size || !(*size > 1e-12 && *size < 1e12))
         return Refusal{"a unit of the file's own has no usable size"};
-    return Unit{*size * unitsOfSize.numerator, unitsOfSize.denominator};
+    return Result(systems::Unit{"unknown", *size * base, 0});
 }
 
-constexpr double figureOf(double inverse) {
-    return inverse == 0 ? 0 : 1 / inverse;
+double flatteningOf(systems::Ellipsoid const& ellipsoid) {
+    return ellipsoid.inverseFlattening == 0 ? 0 : 1 / ellipsoid.inverseFlattening;
 }
 
-/// The catalogue's ellipsoid of these figures, the one with that code rather than another; otherwise a user's own.
-Ellipsoid named(double radius, double flattening, int code) {
-    Ellipsoid const own{EllipsoidTypeUserDefined, radius, flattening};
-    EllipsoidType best = EllipsoidTypeUserDefined;
-    for (std::int32_t i = EllipsoidTypeNone - 1; i > EllipsoidTypeUserDefined; --i) {
-        auto const type = static_cast<EllipsoidType>(i);
-        int posc = 0;
-        bool const hasCode = code != 0 && EllipsoidToPOSCNumber(best, &posc) && posc == code;
-        if (!hasCode && sameFigures(own, ellipsoidOf(type, 0, 0)))
-            best = type;
-    }
-    return best == EllipsoidTypeUserDefined ? own : ellipsoidOf(best, 0, 0);
-}
-
-/// The axes as the keys have them; type 50 where they do not.
-Expected<Ellipsoid> readAxes(KeyDirectory const& keys) {
+/// The axes as the keys have them; nothing where they do not.
+Expected<std::optional<systems::Ellipsoid>> readAxes(KeyDirectory const& keys, systems::Ellipsoid const* numbered) {
+    using Result = std::optional<systems::Ellipsoid>;
     if (!keys.has(keySemiMajorAxis))
-        return Ellipsoid{};
-    auto const unit = lengthUnit(keys, keyGeographicLengthUnit, keyGeographicLengthUnitSize, unitMetre);
+        return Result();
+    auto const unit = lengthUnit(keys, keyGeographicLengthUnit, keyGeographicLengthUnitSize);
     if (!unit)
         return unit.refusal();
-    double const major = keys.number(keySemiMajorAxis).value_or(0);
-    double const minor = keys.number(keySemiMinorAxis).value_or(0),
-                 inverse = keys.number(keyInverseFlattening).value_or(0);
-    bool const known = keys.has(keyInverseFlattening) || keys.has(keySemiMinorAxis);
-    double const flattening = keys.has(keyInverseFlattening) ? figureOf(inverse) : 1 - minor / major;
-    if (!known || !(major > 0) || !(flattening >= 0 && flattening < 1))
+    double const major = keys.number(keySemiMajorAxis).value_or(0), minor = keys.number(keySemiMinorAxis).value_or(0);
+    bool const byInverse = keys.has(keyInverseFlattening), byMinor = keys.has(keySemiMinorAxis);
+    double const ofAxes = minor == major ? 0 : major / (major - minor);
+    double const inverse = byInverse  ? keys.number(keyInverseFlattening).value_or(-1)
+                           : byMinor  ? ofAxes
+                           : numbered ? numbered->inverseFlattening
+                                      : -1;
+    if (!(major > 0) || !(inverse == 0 || inverse > 1) || !std::isfinite(inverse))
         return Refusal{"the ellipsoid's axes make no ellipsoid"};
-    return named(unit->toBase(major), flattening, 0);
+    return Result(systems::Ellipsoid{"unknown", *unit ? major * (*unit)->factor : major, inverse, 0});
 }
 
 } // namespace
 
-Expected<Unit> lengthUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise) {
-    return unitOf(keys, unitKey, sizeKey, otherwise, lengthUnitTable, {});
+Expected<std::optional<systems::Unit>> lengthUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey) {
+    return unitOf(keys, unitKey, sizeKey, 1, false);
 }
 
-Expected<Unit> angleUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey) {
-    return unitOf(keys, unitKey, sizeKey, unitDegree, angleUnitTable, {180, std::numbers::pi});
+Expected<std::optional<systems::Unit>> angleUnit(KeyDirectory const& keys) {
+    return unitOf(keys, keyAngleUnit, keyAngleUnitSize, 180 / std::numbers::pi, true);
+}
+
+Expected<std::optional<systems::Ellipsoid>> readEllipsoid(KeyDirectory const& keys,
+                                                          systems::Ellipsoid const* numbered) {
+    std::uint16_t const code = keys.code(keyEllipsoid).value_or(userDefined);
+    auto const known = systems::ellipsoidOf(code);
+    auto axes = readAxes(keys, known ? &*known : numbered);
+    if (!axes || code == userDefined)
+        return axes;
+    if (!known && !*axes)
+        return Refusal{"ellipsoid " + std::to_string(code) + " is not one of those known by number"};
+    return known && (!*axes || sameFigures(**axes, *known)) ? known : *axes;
+}
+
+bool sameFigures(systems::Ellipsoid const& a, systems::Ellipsoid const& b) {
+    double const pole = a.semiMajor * (1 - flatteningOf(a)) - b.semiMajor * (1 - flatteningOf(b));
+    return std::fabs(a.semiMajor - b.semiMajor) < 1e-3 && std::fabs(pole) < 1e-3;
 }
 
 std::uint16_t codeOfLengthUnit(double perMetre) {
-    auto const row = std::ranges::find_if(lengthUnitTable, [perMetre](UnitRow const& unit) {
-        return std::fabs(perMetre * unit.numerator / unit.denominator - 1) < 1e-13;
-    });
-    return row == lengthUnitTable.end() ? std::uint16_t{userDefined} : row->code;
+    systems::Code const code = systems::lengthUnitOf(1 / perMetre);
+    return code == 0 ? std::uint16_t{userDefined} : static_cast<std::uint16_t>(code);
 }
 
 Ellipsoid ellipsoidOf(EllipsoidType type, double radius, double flattening) {
@@ -92,48 +104,16 @@ Ellipsoid ellipsoidOf(EllipsoidType type, double radius, double flattening) {
     return {type, EllipsoidRadius(type), EllipsoidFlattening(type)};
 }
 
-bool sameFigures(Ellipsoid const& a, Ellipsoid const& b) {
-    return a.type != EllipsoidTypeNone && b.type != EllipsoidTypeNone && std::fabs(a.radius - b.radius) < 1e-3 &&
-           std::fabs(a.flattening - b.flattening) * a.radius < 1e-5;
-}
-
-Ellipsoid ellipsoidOfCode(std::uint16_t code) {
-    auto const row = std::ranges::find(ellipsoidCodeTable, code, &EllipsoidCodeRow::code);
-    return row == ellipsoidCodeTable.end() ? Ellipsoid{} : named(row->radius, figureOf(row->inverse), code);
-}
-
-std::uint16_t codeOfEllipsoid(Ellipsoid const& ellipsoid) {
-    int posc = 0;
-    bool const hasCode = EllipsoidToPOSCNumber(ellipsoid.type, &posc);
-    if (hasCode && sameFigures(ellipsoid, ellipsoidOfCode(static_cast<std::uint16_t>(posc))))
-        return static_cast<std::uint16_t>(posc);
-    auto const row = std::ranges::find_if(ellipsoidCodeTable, [&](EllipsoidCodeRow const& candidate) {
-        return sameFigures(ellipsoid, {EllipsoidTypeUserDefined, candidate.radius, figureOf(candidate.inverse)});
-    });
-    return row == ellipsoidCodeTable.end() ? std::uint16_t{userDefined} : row->code;
-}
-
-Expected<Ellipsoid> readEllipsoid(KeyDirectory const& keys) {
-    std::uint16_t const code = keys.code(keyEllipsoid).value_or(userDefined);
-    if (code == userDefined)
-        return readAxes(keys);
-    Ellipsoid const known = ellipsoidOfCode(code);
-    if (known.type == EllipsoidTypeNone)
-        return Refusal{"ellipsoid " + std::to_string(code) + " is not one of those known by number"};
-    return agreedEllipsoid(keys, known);
-}
-
-Expected<Ellipsoid> agreedEllipsoid(KeyDirectory const& keys, Ellipsoid const& known) {
-    auto const axes = readAxes(keys);
-    if (!axes)
-        return axes.refusal();
-    if (axes->type != EllipsoidTypeNone && !sameFigures(*axes, known))
-        return Refusal{"the ellipsoid's axes contradict its number"};
-    return known;
+systems::Ellipsoid definitionOf(Ellipsoid const& ellipsoid) {
+    return {"unknown", ellipsoid.radius, ellipsoid.flattening == 0 ? 0 : 1 / ellipsoid.flattening, 0};
 }
 
 void writeEllipsoid(KeyDirectory& keys, Ellipsoid const& ellipsoid) {
-    keys.setCode(keyEllipsoid, codeOfEllipsoid(ellipsoid));
+    int posc = 0;
+    auto const figure = definitionOf(ellipsoid);
+    auto const own = EllipsoidToPOSCNumber(ellipsoid.type, &posc) ? systems::ellipsoidOf(posc) : std::nullopt;
+    systems::Code const code = own && sameFigures(*own, figure) ? posc : systems::ellipsoidWith(figure);
+    keys.setCode(keyEllipsoid, code == 0 ? std::uint16_t{userDefined} : static_cast<std::uint16_t>(code));
     keys.setNumber(keySemiMajorAxis, ellipsoid.radius);
     if (ellipsoid.flattening == 0)
         keys.setNumber(keySemiMinorAxis, ellipsoid.radius);

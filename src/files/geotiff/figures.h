@@ -1,30 +1,31 @@
-// Units of length and angle, and ellipsoids, by their codes in the keys and by their figures.
+// Units and ellipsoids by their codes in the keys and by their figures.
 #pragma once
 
 #include "files/geotiff/keys.h"
+#include "systems/definition.h"
 
 #include <zrproj/ellipsoid.h>
 
 namespace ZrProj::GeoTIFF {
 
-/// A unit is numerator / denominator metres, or degrees; a factor and a divisor, so that 1200/3937 stays exact.
-struct Unit {
-    double numerator = 1, denominator = 1;
+/// The unit that a key names; nothing where the key is missing. A unit of the user's own has its size, in metres or
+/// radians, in another key.
+Expected<std::optional<systems::Unit>> lengthUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey);
+Expected<std::optional<systems::Unit>> angleUnit(KeyDirectory const& keys);
 
-    double toBase(double value) const { return value * numerator / denominator; }
-    double perBase() const { return denominator / numerator; }
-};
+/// The ellipsoid that the keys describe, by axes rather than by code; nothing where they tell none. A semi-major axis
+/// alone has the flattening of the ellipsoid of the code, or else of `numbered`, which may be null.
+Expected<std::optional<systems::Ellipsoid>> readEllipsoid(KeyDirectory const& keys, systems::Ellipsoid const* numbered);
 
-/// The unit that a key names, the one of `otherwise` where the key is missing. A unit of the user's own has its size,
-/// in metres or radians, in another key.
-Expected<Unit> lengthUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey, std::uint16_t otherwise);
-Expected<Unit> angleUnit(KeyDirectory const& keys, Key unitKey, Key sizeKey);
+/// Whether two ellipsoids give the same coordinates to a millimetre.
+bool sameFigures(systems::Ellipsoid const& a, systems::Ellipsoid const& b);
 
 /// The code of the unit that as many of make a metre, 32767 where no unit is of that size.
 std::uint16_t codeOfLengthUnit(double perMetre);
 
+/// An ellipsoid as records have it.
 struct Ellipsoid {
-    EllipsoidType type = EllipsoidTypeNone; // 0 where the catalogue does not have the figures
+    EllipsoidType type = EllipsoidTypeNone; // none where the records tell no ellipsoid
     double radius = 0;
     double flattening = 0;
 };
@@ -32,19 +33,9 @@ struct Ellipsoid {
 /// The catalogue's ellipsoid, or the user's own figures; none (type 50) where there are none.
 Ellipsoid ellipsoidOf(EllipsoidType type, double radius, double flattening);
 
-/// Whether two ellipsoids give the same coordinates, to a millimetre and better.
-bool sameFigures(Ellipsoid const& a, Ellipsoid const& b);
+/// An ellipsoid of records as definitions have it, without name and code.
+systems::Ellipsoid definitionOf(Ellipsoid const& ellipsoid);
 
-/// The ellipsoid of a code; type 50 where the code is unknown.
-Ellipsoid ellipsoidOfCode(std::uint16_t code);
-
-/// The code of an ellipsoid with these figures, 32767 where none has them.
-std::uint16_t codeOfEllipsoid(Ellipsoid const& ellipsoid);
-
-/// The ellipsoid that the keys describe, by code or by axes.
-Expected<Ellipsoid> readEllipsoid(KeyDirectory const& keys);
-/// Refused where the keys contradict an ellipsoid that is known already.
-Expected<Ellipsoid> agreedEllipsoid(KeyDirectory const& keys, Ellipsoid const& known);
 void writeEllipsoid(KeyDirectory& keys, Ellipsoid const& ellipsoid);
 
 } // namespace ZrProj::GeoTIFF

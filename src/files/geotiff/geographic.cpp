@@ -1,7 +1,9 @@
 #include "files/geotiff/geographic.h"
 
 #include "datum/method_table.h"
-#include "files/geotiff/geographic_table.h"
+#include "files/geotiff/citations.h"
+#include "systems/names.h"
+#include "systems/recognition.h"
 
 #include <algorithm>
 #include <array>
@@ -10,6 +12,9 @@
 
 namespace ZrProj::GeoTIFF {
 namespace {
+
+using systems::Definition;
+using systems::Thing;
 
 constexpr std::string_view datumLabel = "Datum = ";
 
@@ -41,95 +46,127 @@ bool standsOn(DATUM2WGS84 const& params, Ellipsoid const& ellipsoid) {
             std::fabs(own.flattening - ellipsoid.flattening) * own.radius < 1);
 }
 
-/// The catalogue's datum of that number or, without one, of the very name that the citation has.
-DatumType findDatum(KeyDirectory const& keys, std::uint16_t code) {
-    DatumType datum = DatumTypeNone;
-    if (DatGetDatumFromPOSCNumber(&datum, code) || code != userDefined)
-        return datum;
-    std::string_view citation = keys.text(keyGeographicCitation);
-    std::size_t const start = citation.find(datumLabel);
-    if (start == std::string_view::npos)
-        return DatumTypeNone;
-    citation.remove_prefix(start + datumLabel.size());
-    std::string const name(citation.substr(0, citation.find('|')));
-    bool const found = DatGetDatumFromName(&datum, name.c_str());
-    return found && datum != DatumTypeUserDefined ? datum : DatumTypeNone;
+/// The register's geographic system of a code.
+std::optional<Definition> systemOf(systems::Code code) {
+    auto system = systems::definitionOf(code);
+    return system && !system->isProjected() ? system : std::nullopt;
 }
 
-/// A transformation to WGS 84 by 3 shifts, or by 3 shifts, 3 rotations and a scale, as a datum of the user's own.
-void readToWgs84(KeyDirectory const& keys, Geographic& result) {
+Refusal unknownSystem(std::uint16_t code) {
+    return {"geographic system " + std::to_string(code) + " is not one of those known by number"};
+}
+
+/// The longitude of the prime meridian that the keys tell, in degrees; nothing where they tell none.
+Expected<std::optional<systems::PrimeMeridian>> readMeridian(KeyDirectory const& keys, double degrees) {
+    using Result = std::optional<systems::PrimeMeridian>;
+    std::uint16_t const code = keys.code(keyPrimeMeridian).value_or(userDefined);
+    if (code != userDefined) {
+        auto known = systems::meridianOf(code);
+        if (!known)
+            return Refusal{"prime meridian " + std::to_string(code) + " is not one of those known by number"};
+        return Result(std::move(known));
+    }
+    if (!keys.has(keyPrimeMeridianLongitude))
+        return Result();
+    auto const longitude = keys.number(keyPrimeMeridianLongitude);
+    if (!longitude || !(std::fabs(*longitude * degrees) <= 180))
+        return Refusal{"the prime meridian is no longitude"};
+    if (*longitude == 0)
+        return Result(systems::PrimeMeridian{});
+    auto name = labelled(keys.text(keyGeographicCitation), "Primem = ");
+    return Result(systems::PrimeMeridian{name.empty() ? "unknown" : name, *longitude * degrees, 0});
+}
+
+void readToWgs84(KeyDirectory const& keys, systems::Datum& datum) {
     std::vector<double> const values = keys.numbers(keyToWgs84);
     if (values.size() != 3 && values.size() != 7)
         return;
-    DATUM2WGS84 params = {};
-    params.Ellipsoid = result.ellipsoid.type;
-    params.MajorRadius = result.ellipsoid.radius;
-    params.Flattening = result.ellipsoid.flattening;
-    params.dX = values[0], params.dY = values[1], params.dZ = values[2];
-    params.Method = DatumMethodMolodensky;
-    if (std::any_of(values.begin() + 3, values.end(), [](double value) { return value != 0; })) {
-        params.Method = DatumMethodBursaWolf;
-        params.rX = values[3], params.rY = values[4], params.rZ = values[5], params.Scale = values[6];
-    }
-    result.datum = DatumTypeUserDefined;
-    result.params = params;
+    datum.toWgs84 = systems::ToWgs84{};
+    std::ranges::copy(values, datum.toWgs84->begin());
 }
 
-void readDatum(KeyDirectory const& keys, std::uint16_t code, Geographic& result) {
-    DatumType const datum = findDatum(keys, code);
-    DATUM2WGS84 const params = parametersOf(datum, nullptr);
-    if (datum != DatumTypeNone && standsOn(params, result.ellipsoid)) {
-        result.datum = datum;
-        if (params.Ellipsoid != EllipsoidTypeNone)
-            result.params = params;
-        return;
-    }
-    readToWgs84(keys, result);
-    if (result.datum == DatumTypeNone)
-        result.noDatum = code == userDefined ? "the datum is not known by a number"
-                                             : "datum " + std::to_string(code) + " is not one of the catalogue's";
+/// What the citation calls the datum, or else the system that stands on it.
+void readDatumName(KeyDirectory const& keys, Definition& system) {
+    auto const citation = keys.text(keyGeographicCitation);
+    auto const label = labelled(citation, "GCS Name = ");
+    system.name = label.empty() ? std::string(citation.substr(0, citation.find('|'))) : label;
+    system.datum.name = labelled(citation, datumLabel);
+    auto const cited = systemOf(systems::codeNamed(Thing::system, system.name));
+    if (system.datum.name.empty())
+        system.datum.name = cited ? cited->datum.name : "unknown";
+    if (system.name.empty())
+        system.name = "unknown";
 }
 
-bool isGreenwich(KeyDirectory const& keys) {
-    std::uint16_t const code = keys.code(keyPrimeMeridian).value_or(meridianGreenwich);
-    bool const zero = keys.number(keyPrimeMeridianLongitude) == 0.0;
-    return zero ? code == meridianGreenwich || code == userDefined
-                : code == meridianGreenwich && !keys.has(keyPrimeMeridianLongitude);
-}
-
-GeographicRow const* rowOf(std::uint16_t code) {
-    auto const row = std::ranges::find(geographicTable, code, &GeographicRow::code);
-    return row == geographicTable.end() ? nullptr : &*row;
-}
-
-/// A system without a number: a datum with a number, an ellipsoid, or both.
-Expected<Geographic> readOwn(KeyDirectory const& keys) {
-    std::uint16_t const datum = keys.code(keyDatum).value_or(userDefined);
-    auto ellipsoid = readEllipsoid(keys);
+/// A system without a number: a datum with a number or a name, an ellipsoid, or both.
+Expected<Definition> readOwn(KeyDirectory const& keys) {
+    std::uint16_t const code = keys.code(keyDatum).value_or(userDefined);
+    auto const ellipsoid = readEllipsoid(keys, nullptr);
     if (!ellipsoid)
         return ellipsoid.refusal();
-    Geographic result;
-    result.ellipsoid = *ellipsoid;
-    auto const row = std::ranges::find(geographicTable, datum, &GeographicRow::datum);
-    if (result.ellipsoid.type == EllipsoidTypeNone && row != geographicTable.end())
-        result.ellipsoid = ellipsoidOfCode(row->ellipsoid);
-    if (result.ellipsoid.type == EllipsoidTypeNone)
+    Definition system;
+    readDatumName(keys, system);
+    auto const known =
+        systems::datumOf(code == userDefined ? systems::codeNamed(Thing::datum, system.datum.name) : code);
+    if (known)
+        system.datum.ellipsoid = known->ellipsoid;
+    if (known && code != userDefined)
+        system.datum = *known;
+    else if (code != userDefined)
+        system.datum.code = code;
+    if (*ellipsoid && (!known || !sameFigures(**ellipsoid, known->ellipsoid)))
+        system.datum.ellipsoid = **ellipsoid;
+    if (system.datum.ellipsoid.semiMajor == 0)
         return Refusal{"the keys tell no ellipsoid"};
-    readDatum(keys, datum, result);
+    return system;
+}
+
+std::string told(Definition const& named, std::string const& difference) {
+    return named.name + " (EPSG:" + std::to_string(named.code) + ") is named, but the keys have " + difference;
+}
+
+/// The register's system of a code, with the figures that the keys repeat where those are others.
+Expected<Geographic> withKeys(KeyDirectory const& keys, Definition const& registered) {
+    auto const ellipsoid = readEllipsoid(keys, &registered.datum.ellipsoid);
+    if (!ellipsoid)
+        return ellipsoid.refusal();
+    Geographic result{registered, 1, {}};
+    if (!*ellipsoid || sameFigures(**ellipsoid, registered.datum.ellipsoid))
+        return result;
+    result.system.code = 0;
+    result.system.datum.code = 0;
+    result.system.datum.ellipsoid = **ellipsoid;
+    result.noticed = told(registered, systems::difference(result.system, registered)) + "; its numbers are taken";
     return result;
 }
 
-Expected<Geographic> readNumbered(KeyDirectory const& keys, std::uint16_t code) {
-    GeographicRow const* const row = rowOf(code);
-    if (!row)
-        return Refusal{"geographic system " + std::to_string(code) + " is not one of those known by number"};
-    auto const ellipsoid = agreedEllipsoid(keys, ellipsoidOfCode(row->ellipsoid));
-    if (!ellipsoid)
-        return ellipsoid.refusal();
-    Geographic result;
-    result.ellipsoid = *ellipsoid;
-    readDatum(keys, row->datum, result);
-    return result;
+/// The system that the keys name beside the projected system's own.
+Expected<Geographic> agreed(KeyDirectory const& keys, Definition const& implied) {
+    std::uint16_t const code = keys.code(keyGeographicType).value_or(userDefined);
+    auto result = withKeys(keys, implied);
+    if (!result || code == userDefined || code == implied.code)
+        return result;
+    auto const given = systemOf(code);
+    if (!given)
+        return unknownSystem(code);
+    if (!sameFigure(given->datum, implied.datum))
+        return Refusal{"the projected system and the geographic system contradict each other"};
+    Geographic geographic = *result;
+    if (given->datum.code != implied.datum.code && geographic.noticed.empty())
+        geographic.noticed = told(implied, "the datum " + given->datum.name) + "; the projected system's is taken";
+    return geographic;
+}
+
+Expected<Geographic> readSystem(KeyDirectory const& keys, Definition const* implied) {
+    if (implied)
+        return agreed(keys, *implied);
+    std::uint16_t const code = keys.code(keyGeographicType).value_or(userDefined);
+    if (code == userDefined) {
+        auto own = readOwn(keys);
+        return own ? Expected(Geographic{*own, 1, {}}) : own.refusal();
+    }
+    auto const registered = systemOf(code);
+    return registered ? withKeys(keys, *registered) : unknownSystem(code);
 }
 
 /// The code of the system of a datum on an ellipsoid; 32767 where there is none.
@@ -137,10 +174,14 @@ std::uint16_t codeOf(DatumType datum, Ellipsoid const& ellipsoid) {
     int posc = 0;
     if (!DatGetDatumPOSCNumber(datum, &posc))
         return userDefined;
-    auto const row = std::ranges::find_if(geographicTable, [&](GeographicRow const& candidate) {
-        return candidate.datum == posc && sameFigures(ellipsoidOfCode(candidate.ellipsoid), ellipsoid);
-    });
-    return row == geographicTable.end() ? std::uint16_t{userDefined} : row->code;
+    auto const figure = definitionOf(ellipsoid);
+    for (systems::Code const code : systems::systemsOn(posc)) {
+        auto const system = systemOf(code);
+        if (system && system->angularUnit.factor == 1 && system->datum.meridian.longitude == 0 &&
+            sameFigures(system->datum.ellipsoid, figure))
+            return static_cast<std::uint16_t>(code);
+    }
+    return userDefined;
 }
 
 void writeToWgs84(KeyDirectory& keys, DATUM2WGS84 const& params) {
@@ -166,21 +207,43 @@ void writeOwn(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum, D
 
 } // namespace
 
-Expected<Geographic> readGeographic(KeyDirectory const& keys, std::uint16_t implied) {
-    if (!isGreenwich(keys))
-        return Refusal{"longitudes are not counted from Greenwich"};
-    auto const unit = angleUnit(keys, keyAngleUnit, keyAngleUnitSize);
-    if (!unit)
-        return unit.refusal();
-    std::uint16_t const given = keys.code(keyGeographicType).value_or(implied);
-    if (implied != 0 && given != implied && given != userDefined)
-        return Refusal{"the projected system and the geographic system contradict each other"};
-    std::uint16_t const code = implied != 0 ? implied : given;
-    auto result = code == 0 || code == userDefined ? readOwn(keys) : readNumbered(keys, code);
-    if (!result)
-        return result;
+bool sameFigure(systems::Datum const& a, systems::Datum const& b) {
+    return sameFigures(a.ellipsoid, b.ellipsoid) && std::fabs(a.meridian.longitude - b.meridian.longitude) < 1e-8;
+}
+
+void settleDatum(systems::Datum& datum) {
+    DatumType ofCatalogue = DatumTypeNone;
+    if (datum.code != 0 || DatGetDatumFromName(&ofCatalogue, datum.name.c_str()))
+        return;
+    auto known = systems::datumOf(systems::codeNamed(Thing::datum, datum.name));
+    if (!known || !sameFigure(*known, datum))
+        return;
+    known->toWgs84 = datum.toWgs84;
+    known->grids = datum.grids;
+    datum = std::move(*known);
+}
+
+Expected<Geographic> readGeographic(KeyDirectory const& keys, systems::Definition const* implied) {
+    auto const unit = angleUnit(keys);
+    auto const result = readSystem(keys, implied);
+    if (!unit || !result)
+        return Refusal{unit ? result.reason() : unit.reason()};
     Geographic geographic = *result;
-    geographic.degrees = unit->toBase(1);
+    if (*unit)
+        geographic.degrees = (*unit)->factor;
+    else if (geographic.system.code != 0)
+        geographic.degrees = geographic.system.angularUnit.factor;
+    auto const meridian = readMeridian(keys, geographic.degrees);
+    if (!meridian)
+        return meridian.refusal();
+    systems::Datum& datum = geographic.system.datum;
+    if (*meridian && std::fabs((*meridian)->longitude - datum.meridian.longitude) > 1e-6) {
+        if (datum.code != 0)
+            return Refusal{"the prime meridian contradicts the datum"};
+        datum.meridian = **meridian;
+    }
+    settleDatum(datum);
+    readToWgs84(keys, datum);
     return geographic;
 }
 

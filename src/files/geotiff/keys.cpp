@@ -89,8 +89,10 @@ Expected<KeyDirectory> KeyDirectory::read(ZrBitmapTagList const& tags) {
     for (std::size_t i = 4; i < 4 + 4 * std::size_t{(*directory)[3]}; i += 4) {
         auto const at = directory->subspan(i, 4);
         auto value = sources.valueOf({at[0], at[1], at[2], at[3]});
-        if (!value || !result.m_keys.try_emplace(at[0], *std::move(value)).second)
+        if (!value)
             return Refusal{"key " + std::to_string(at[0]) + " is damaged"};
+        if (auto const [entry, isNew] = result.m_keys.try_emplace(at[0], *value); !isNew && entry->second != *value)
+            return Refusal{"key " + std::to_string(at[0]) + " contradicts itself"};
     }
     return result;
 }

@@ -1,215 +1,175 @@
-// Source    Snyder (1987), Map Projections: A Working Manual, pp. 44, 107 and 161, for equivalents; equation numbers are
-//           his.
-// Accuracy  1e-14 in the scale factors, 1e-12 degrees in the parallels.
 #include "files/geotiff/methods.h"
 
-#include "proj/projection_table.h"
+#include "formulas/parameters.h"
+#include "systems/method_table.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
-#include <numbers>
+#include <utility>
 
 namespace ZrProj::GeoTIFF {
 namespace {
 
-constexpr double degree = std::numbers::pi / 180;
+using systems::Definition;
+using systems::Method;
+using systems::Parameter;
 
-/// The radius of a parallel over that of the equator's circle, (14-15), and the logarithm of t of (15-9).
-struct Meridian {
-    double e;
-
-    explicit Meridian(double flattening) : e(std::sqrt(flattening * (2 - flattening))) {}
-
-    double m(double phi) const {
-        double const s = e * std::sin(phi);
-        return std::cos(phi) / std::sqrt((1 - s) * (1 + s));
-    }
-    double logT(double phi) const { return -std::asinh(std::tan(phi)) + e * std::atanh(e * std::sin(phi)); }
+struct TransformationRow {
+    Transformation transformation;
+    Method method; // where its parameters do not make it another one
 };
 
-/// The logarithm of how much larger the scale is than along the touching parallel.
-struct Cone {
-    Meridian meridian;
-    double phi0;
-
-    double excess(double phi) const {
-        double const n = std::sin(phi0);
-        return std::log(meridian.m(phi0) / meridian.m(phi)) + n * (meridian.logT(phi) - meridian.logT(phi0));
-    }
-
-    /// Where the excess is as wanted, between the touching parallel and a pole: it grows all the way.
-    double parallelOf(double wanted, double pole) const {
-        double near = phi0, far = pole;
-        for (int i = 0; i < 80; ++i) {
-            double const middle = near + (far - near) / 2;
-            (excess(middle) < wanted ? near : far) = middle;
-        }
-        return near;
-    }
+// clang-format off
+constexpr std::array transformationTable{
+    TransformationRow{transverseMercator,        Method::transverseMercator},
+    TransformationRow{obliqueMercator,           Method::hotineA},
+    TransformationRow{obliqueMercatorLaborde,    Method::laborde},
+    TransformationRow{obliqueMercatorRosenmund,  Method::hotineB},
+    TransformationRow{mercator,                  Method::mercatorA},
+    TransformationRow{lambertConformal2,         Method::lambertConic2},
+    TransformationRow{lambertConformal1,         Method::lambertConic1},
+    TransformationRow{lambertAzimuthal,          Method::lambertAzimuthal},
+    TransformationRow{albers,                    Method::albers},
+    TransformationRow{azimuthalEquidistant,      Method::azimuthalEquidistant},
+    TransformationRow{equidistantConic,          Method::equidistantConic},
+    TransformationRow{stereographic,             Method::stereographic},
+    TransformationRow{polarStereographic,        Method::polarStereographicA},
+    TransformationRow{obliqueStereographic,      Method::obliqueStereographic},
+    TransformationRow{equirectangular,           Method::equidistantCylindrical},
+    TransformationRow{cassini,                   Method::cassini},
+    TransformationRow{gnomonic,                  Method::gnomonic},
+    TransformationRow{miller,                    Method::miller},
+    TransformationRow{orthographic,              Method::orthographic},
+    TransformationRow{polyconic,                 Method::polyconic},
+    TransformationRow{robinson,                  Method::robinson},
+    TransformationRow{sinusoidal,                Method::sinusoidal},
+    TransformationRow{vanDerGrinten,             Method::vanDerGrinten},
+    TransformationRow{newZealandMapGrid,         Method::newZealandMapGrid},
+    TransformationRow{transverseMercatorSouth,   Method::transverseMercatorSouth},
+    TransformationRow{cylindricalEqualArea,      Method::cylindricalEqualArea},
+    TransformationRow{obliqueMercatorFromCentre, Method::hotineB},
 };
-
-/// The projection that a transformation is; null where there is none.
-ProjectionRow const* rowOf(Transformation transformation) {
-    auto const row = std::ranges::find_if(projectionTable, [transformation](ProjectionRow const& each) {
-        return transformation != Transformation{} &&
-               std::ranges::find(each.geotiff, transformation, &Method::transformation) != each.geotiff.end();
-    });
-    return row == projectionTable.end() ? nullptr : &*row;
-}
+// clang-format on
 
 constexpr double poleLatitude = 90;
 
-/// Puts equivalents in the place of parameters that no record has; `method` is how the result is to be taken.
-struct Normal {
-    Method method;
-    Parameters parameters;
-};
-
-Expected<Normal> lambert(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
-    bool const touches = method.transformation == lambertConformal1;
-    double const parallel = touches ? p.latitude : p.parallel1;
-    if (!touches && p.parallel1 != p.parallel2)
-        return Normal{method, p};
-    if (!(std::fabs(parallel) > 0.01 && std::fabs(parallel) < 89.9) || !(p.scale > 0.01 && p.scale < 100))
-        return Refusal{"a cone that touches the equator or a pole is no cone"};
-    ConeParallels const cone = coneParallels(parallel, p.scale, ellipsoid.flattening);
-    p.parallel1 = cone.south, p.parallel2 = cone.north, p.scale = cone.scale;
-    Normal result{method, p};
-    result.method.scale = ScaleFactor::Folded;
-    return result;
+Refusal contradictory() {
+    return {"a parallel of true scale and a scale factor contradict each other"};
 }
 
-Expected<Normal> trueMercator(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
-    if (p.parallel1 != 0 && p.scale != 1)
-        return Refusal{"a parallel of true scale and a scale factor contradict each other"};
-    if (p.parallel1 != 0)
-        p.scale = mercatorScale(p.parallel1, ellipsoid.flattening);
-    return Normal{method, p};
+/// A cone of two parallels with a scale along them is the one of an ellipsoid of that size.
+std::optional<Refusal> scaledCone(Definition& system, Parameters& p) {
+    if (p.scale == 1)
+        return {};
+    system.method = Method::lambertConicMichigan;
+    system.parameters[Parameter::ellipsoidScale] = std::exchange(p.scale, 1);
+    return {};
+}
+
+/// True along a parallel in place of a scale at the equator.
+std::optional<Refusal> trueMercator(Definition& system, Parameters& p) {
+    if (p.parallel1 == 0)
+        return {};
+    system.method = Method::mercatorB;
+    return p.scale == 1 ? std::nullopt : std::optional(contradictory());
 }
 
 /// The latitude is the pole, or the parallel of true scale of the pole's map.
-Expected<Normal> polar(Method const& method, Parameters p, Ellipsoid const& ellipsoid) {
-    if (std::fabs(p.latitude) == poleLatitude)
-        return Normal{method, p};
-    if (p.scale != 1 || !(std::fabs(p.latitude) > 0 && std::fabs(p.latitude) < poleLatitude))
-        return Refusal{"a parallel of true scale and a scale factor contradict each other"};
-    p.scale = polarScale(p.latitude, ellipsoid.flattening);
-    p.latitude = std::copysign(poleLatitude, p.latitude);
-    return Normal{method, p};
+std::optional<Refusal> polar(Definition& system, Parameters& p) {
+    bool const atPole = std::fabs(p.latitude) == poleLatitude;
+    if (atPole && p.parallel1 == 0)
+        return {};
+    double const parallel = atPole ? std::exchange(p.parallel1, 0) : p.latitude;
+    if (p.scale != 1 || !(std::fabs(parallel) > 0 && std::fabs(parallel) <= poleLatitude))
+        return contradictory();
+    system.method = Method::polarStereographicB;
+    p.parallel1 = parallel;
+    p.latitude = 0;
+    return {};
 }
 
-Expected<Normal> normal(Method const& method, Parameters const& p, Ellipsoid const& ellipsoid) {
-    if (char const* const doubt = doubtOnEllipsoid(method.transformation); doubt && ellipsoid.flattening != 0)
-        return Refusal{doubt};
-    switch (method.transformation) {
+/// What a transformation's parameters make of its method; they are then those of that method.
+std::optional<Refusal> adapt(Definition& system, Transformation transformation, Parameters& p) {
+    switch (transformation) {
     case lambertConformal1:
+        p.parallel1 = p.parallel1 == p.latitude ? 0 : p.parallel1;
+        return {};
     case lambertConformal2:
-        return lambert(method, p, ellipsoid);
+        return scaledCone(system, p);
     case mercator:
-        return trueMercator(method, p, ellipsoid);
+        return trueMercator(system, p);
     case polarStereographic:
-        return polar(method, p, ellipsoid);
-    case obliqueMercator:
-    case obliqueMercatorFromCentre:
-        if (p.azimuth != p.gridAngle)
-            return Refusal{"the records turn the grid of an oblique Mercator by its azimuth, not by another angle"};
-        return Normal{method, p};
+        return polar(system, p);
+    case transverseMercatorSouth:
+        system.x = system.y = systems::Sense::negative;
+        return {};
+    case obliqueMercatorRosenmund:
+        p.azimuth = p.gridAngle = 90;
+        return {};
     default:
-        return Normal{method, p};
+        return {};
     }
 }
 
-/// What a record of the method's type cannot hold of the parameters; "" when it can hold all.
-std::string faultOf(Method const& method, Parameters const& p) {
-    if (method.latitude == ProjParamNone && p.latitude != 0)
-        return "the projection has no latitude of origin other than 0 in the records";
-    if (method.longitude == ProjParamNone && p.longitude != 0)
-        return "the projection has no central meridian other than 0 in the records";
-    if (method.scale == ScaleFactor::MustBeOne && p.scale != 1)
-        return "the projection has no scale factor in the records";
-    return p.scale > 0 ? "" : "the scale factor is not above 0";
-}
-
-void setOblique(PROJDATA& record, Method const& method, Parameters const& p) {
-    record.bUseAlpha = true;
-    record.bRotate = true;
-    record.bUOffset = method.transformation == obliqueMercatorFromCentre;
-    record.Alpha = p.azimuth;
-}
-
-void setAngles(PROJDATA& record, Method const& method, Parameters const& p) {
-    if (method.latitude != ProjParamNone)
-        ProjSetParam(&record, method.latitude, &p.latitude);
-    if (method.longitude != ProjParamNone)
-        ProjSetParam(&record, method.longitude, &p.longitude);
-    if (method.parallels > 0)
-        record.Lat1 = p.parallel1;
-    if (method.parallels > 1)
-        record.Lat2 = p.parallel2;
-}
-
-Expected<PROJDATA> checked(PROJDATA const& record) {
-    std::array<char, 512> message = {};
-    if (ProjCheckParams(&record, message.data(), false) != 0)
-        return Refusal{message.data()};
-    return record;
+/// Sets what the method has; the first thing that it does not have and that says something is refused.
+std::optional<Refusal> setParameters(Definition& system, Parameters const& p) {
+    struct {
+        Parameter parameter;
+        double value, neutral;
+        char const* what;
+    } const numbers[] = {
+        {Parameter::latitudeOfOrigin, p.latitude, 0, "latitude of origin"},
+        {Parameter::longitudeOfOrigin, p.longitude, 0, "central meridian"},
+        {Parameter::standardParallel1, p.parallel1, 0, "standard parallel"},
+        {Parameter::standardParallel2, p.parallel2, 0, "second standard parallel"},
+        {Parameter::scaleFactor, p.scale, 1, "scale factor"},
+        {Parameter::falseEasting, p.east, 0, "false easting"},
+        {Parameter::falseNorthing, p.north, 0, "false northing"},
+        {Parameter::azimuth, p.azimuth, 0, "azimuth"},
+        {Parameter::rectifiedAngle, p.gridAngle, 0, "grid angle"},
+    };
+    auto const& row = systems::rowOf(system.method);
+    for (auto const& number : numbers) {
+        bool const taken = std::ranges::any_of(row.parameters, [&](int code) {
+            auto const* const each = systems::parameterByCode(code);
+            return each && each->parameter == number.parameter;
+        });
+        if (taken)
+            system.parameters[number.parameter] = number.value;
+        else if (number.value != number.neutral)
+            return Refusal{"the projection " + std::string(row.name) + " has no " + number.what};
+    }
+    return {};
 }
 
 } // namespace
 
-double mercatorScale(double parallel, double flattening) {
-    return Meridian(flattening).m(parallel * degree);
+bool isOblique(Transformation transformation) {
+    return transformation == obliqueMercator || transformation == obliqueMercatorFromCentre;
 }
 
-double polarScale(double parallel, double flattening) {
-    Meridian const meridian(flattening);
-    double const phi = std::fabs(parallel) * degree, e = meridian.e;
-    // m / t by (21-34) over 2 / sqrt((1 + e)^(1 + e) (1 - e)^(1 - e)) by (21-33)
-    double const pole = std::exp(((1 + e) * std::log1p(e) + (1 - e) * std::log1p(-e)) / 2);
-    return meridian.m(phi) / std::exp(meridian.logT(phi)) * pole / 2;
+bool hasParallels(Transformation transformation) {
+    return transformation == lambertConformal2 || transformation == albers || transformation == equidistantConic;
 }
 
-ConeParallels coneParallels(double parallel, double scale, double flattening) {
-    constexpr double apart = 2e-6; // of the scale, where two parallels are some 0.2 degrees apart
-    Cone const cone{Meridian(flattening), parallel * degree};
-    bool const cuts = -std::log(scale) > apart;
-    double const wanted = cuts ? -std::log(scale) : 1.5e-4;
-    double const quarter = std::numbers::pi / 2;
-    return {cone.parallelOf(wanted, -quarter) / degree, cone.parallelOf(wanted, quarter) / degree,
-            cuts ? 1 : scale * std::exp(wanted)};
+std::optional<Refusal> setConversion(Definition& system, Transformation transformation, Parameters const& given) {
+    auto const row = std::ranges::find(transformationTable, transformation, &TransformationRow::transformation);
+    if (row == transformationTable.end())
+        return Refusal{"coordinate transformation " + std::to_string(transformation) + " is not one of those known"};
+    bool const onSphere = system.datum.ellipsoid.inverseFlattening == 0;
+    if (char const* const doubt = doubtOnEllipsoid(transformation); doubt && !onSphere)
+        return Refusal{doubt};
+    Parameters p = given;
+    system.method = row->method;
+    if (auto refusal = adapt(system, transformation, p))
+        return refusal;
+    return setParameters(system, p);
 }
 
 double mercatorNorthing(double latitude, double radius, double flattening) {
-    return -radius * Meridian(flattening).logT(latitude * degree);
-}
-
-Expected<PROJDATA> recordOf(Transformation transformation, Parameters const& given, Ellipsoid const& ellipsoid) {
-    ProjectionRow const* const row = rowOf(transformation);
-    if (!row)
-        return Refusal{"coordinate transformation " + std::to_string(transformation) + " has no projection type"};
-    auto const normalised =
-        normal(*std::ranges::find(row->geotiff, transformation, &Method::transformation), given, ellipsoid);
-    if (!normalised)
-        return normalised.refusal();
-    auto const& [method, p] = *normalised;
-    std::string const fault = faultOf(method, p);
-    if (!fault.empty())
-        return Refusal{fault};
-    PROJDATA record = {};
-    record.Type = row->type;
-    setAngles(record, method, p);
-    bool const folded = method.scale == ScaleFactor::Folded;
-    record.Scale = folded ? p.scale : 1;
-    record.xOrg = p.east / record.Scale;
-    record.yOrg = p.north / record.Scale;
-    record.K0 = method.scale == ScaleFactor::K0 ? p.scale : 0;
-    if (record.Type == ProjTypeHotineObliqueMercator)
-        setOblique(record, method, p);
-    record.Ellipsoid = ellipsoid.type;
-    record.MajorRadius = ellipsoid.radius;
-    record.Flattening = ellipsoid.flattening;
-    return checked(record);
+    double const e = std::sqrt(flattening * (2 - flattening)), phi = latitude * formulas::degree;
+    return radius * (std::asinh(std::tan(phi)) - e * std::atanh(e * std::sin(phi)));
 }
 
 } // namespace ZrProj::GeoTIFF

@@ -1,11 +1,12 @@
-// Coordinate transformations as projections: parameters as the keys have them, those that say the same in another way,
-// and the record of both. Angles are degrees.
+// Coordinate transformations as methods of projected systems, with their parameters as the keys have them. Angles are
+// degrees.
 #pragma once
 
-#include "files/geotiff/figures.h"
+#include "files/geotiff/keys.h"
 #include "proj/geotiff_method.h"
+#include "systems/definition.h"
 
-#include <zrproj/projection.h>
+#include <optional>
 
 namespace ZrProj::GeoTIFF {
 
@@ -15,6 +16,8 @@ constexpr char const* doubtOnEllipsoid(Transformation transformation) {
     switch (transformation) {
     case equirectangular:
         return "an equirectangular map of an ellipsoid is a sphere's to some programs, and an ellipsoid's to others";
+    case gnomonic:
+        return "a gnomonic map of an ellipsoid is a sphere's to some programs, and an ellipsoid's to others";
     case miller:
     case vanDerGrinten:
         return "programs differ in the sphere that they take for an ellipsoid in this projection";
@@ -32,25 +35,15 @@ struct Parameters {
     double azimuth = 0, gridAngle = 0;
 };
 
-/// The scale factor at the equator of a Mercator map that is true along a parallel.
-double mercatorScale(double parallel, double flattening);
+/// Whether a transformation is one along a line with an azimuth; whether it has two parallels.
+bool isOblique(Transformation transformation);
+bool hasParallels(Transformation transformation);
 
-/// The scale factor at the pole of a polar stereographic map that is true along a parallel.
-double polarScale(double parallel, double flattening);
-
-/// Two parallels of a conformal cone, and the scale factor along both of them.
-struct ConeParallels {
-    double south, north, scale;
-};
-
-/// The cone that touches along one parallel (not the equator, nor a pole), with a scale factor there. The two parallels
-/// are of true scale where there are such, otherwise some degree away from the given one.
-ConeParallels coneParallels(double parallel, double scale, double flattening);
+/// Gives a system its conversion. Why not, where a transformation is unknown, or has no such parameters.
+std::optional<Refusal> setConversion(systems::Definition& system, Transformation transformation,
+                                     Parameters const& given);
 
 /// The northing of a latitude on the equator's Mercator map, in ellipsoid units.
 double mercatorNorthing(double latitude, double radius, double flattening);
-
-/// The record of a transformation with its parameters; the ellipsoid is set, the unit of length is the metre.
-Expected<PROJDATA> recordOf(Transformation transformation, Parameters const& given, Ellipsoid const& ellipsoid);
 
 } // namespace ZrProj::GeoTIFF

@@ -31,7 +31,7 @@ Expected<Placement> placementOf(Coefficients const& c, bool pixelIsPoint) {
     Coefficients const fromCorner = pixelIsPoint ? fromCentres(c) : c;
     if (!isUsable(fromCorner))
         return Refusal{"the pixels' placement is not usable"};
-    return Placement{fromCorner, {}};
+    return Placement{fromCorner, {}, {}};
 }
 
 /// Rows of four: x, y, z and 1 to X, Y, Z and 1.
@@ -44,10 +44,16 @@ Expected<Placement> readMatrix(std::vector<double> const& m, bool pixelIsPoint) 
 Expected<Placement> readScale(std::vector<double> const& scale, std::vector<double> const& tie, bool pixelIsPoint) {
     if (scale.size() < 2 || tie.size() < tiePointSize)
         return Refusal{"the pixel scale has no tie point"};
-    if (!(scale[0] > 0 && scale[1] > 0))
-        return Refusal{"the pixel scale is not above 0"};
-    return placementOf({scale[0], 0, tie[3] - tie[0] * scale[0], 0, -scale[1], tie[4] + tie[1] * scale[1]},
-                       pixelIsPoint);
+    if (scale[0] == 0 || scale[1] == 0)
+        return Refusal{"the pixel scale is 0"};
+    auto placement =
+        placementOf({scale[0], 0, tie[3] - tie[0] * scale[0], 0, -scale[1], tie[4] + tie[1] * scale[1]}, pixelIsPoint);
+    if (!placement || (scale[0] > 0 && scale[1] > 0))
+        return placement;
+    Placement mirrored = *placement;
+    mirrored.noticed = "the pixel scale is negative: the image is mirrored, as the standard has it; some programs take "
+                       "the scale without its sign";
+    return mirrored;
 }
 
 Expected<Placement> readTiePoints(std::vector<double> const& tie, bool pixelIsPoint) {

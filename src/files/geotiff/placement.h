@@ -23,6 +23,7 @@ struct TiePoint {
 struct Placement {
     std::optional<Coefficients> coefficients;
     std::vector<TiePoint> points;
+    std::string noticed{}; // what there is to tell about it
 };
 
 /// Reads the three tags. `pixelIsPoint`: whether they place a pixel's centre.

@@ -1,19 +1,24 @@
 // The whole coordinate system: a projection with its datum.
 #pragma once
 
-#include "files/geotiff/geographic.h"
+#include "files/geotiff/keys.h"
+#include "systems/definition.h"
 
+#include <zrproj/datum.h>
 #include <zrproj/projection.h>
 
 namespace ZrProj::GeoTIFF {
 
+/// What the keys say: the register's system where they name it, else as they describe it.
 struct System {
-    PROJDATA projection = {};
-    Geographic geographic;
+    systems::Definition definition;
+    std::string noticed; // what there is to tell about it; "" for nothing
 };
 
-/// Reads the system that the keys describe.
 Expected<System> readSystem(KeyDirectory const& keys);
+
+/// The system that tags say; nothing where they are damaged or tell of none.
+std::optional<systems::Definition> systemOf(ZrBitmapTagList const& tags);
 
 /// Sets the keys of a system; nothing where there is no projection. `params` may be null but for a datum of the user's
 /// own.

@@ -1,13 +1,17 @@
 // The keys of a coordinate system, written.
+#include "files/geotiff/geographic.h"
 #include "files/geotiff/methods.h"
 #include "files/geotiff/system.h"
-#include "files/geotiff/zones.h"
+#include "proj/parameter_table.h"
 #include "proj/projection_table.h"
 #include "proj/record.h"
+#include "systems/register.h"
+#include "systems/to_record.h"
 
 #include <algorithm>
 #include <array>
 #include <cmath>
+#include <cstring>
 
 namespace ZrProj::GeoTIFF {
 namespace {
@@ -143,26 +147,109 @@ void writeDescribed(KeyDirectory& keys, PROJDATA const& record, Method const& me
         writeOblique(keys, record);
 }
 
-bool writeAsZone(KeyDirectory& keys, PROJDATA const& record, std::uint16_t geographic) {
-    ZoneCode const zone = codeOfZone(record, geographic);
-    if (zone.code == 0 || codeOfLengthUnit(record.Scale) != zone.unit)
+double numberOf(PROJDATA const& record, ParameterRow const& parameter) {
+    if (parameter.type == ProjDataTypeDouble)
+        return angleAt(record, parameter.id);
+    std::int32_t whole = 0;
+    std::memcpy(&whole, reinterpret_cast<char const*>(&record) + parameter.offset,
+                static_cast<std::size_t>(parameter.size));
+    return whole;
+}
+
+/// How far two values of a parameter may be apart and mean the same map, to a tenth of a millimetre.
+double toleranceOf(ParameterRow const& parameter, double value) {
+    switch (parameter.quantity) {
+    case Quantity::Factor:
+        return 1e-10 * std::fabs(value);
+    case Quantity::Metres:
+        return 1e-4;
+    case Quantity::Longitude:
+    case Quantity::Latitude:
+    case Quantity::Azimuth:
+        return 1e-9;
+    default:
+        return 0;
+    }
+}
+
+bool hasSameFigure(PROJDATA const& a, PROJDATA const& b) {
+    Ellipsoid const one = ellipsoidOf(a.Ellipsoid, a.MajorRadius, a.Flattening),
+                    other = ellipsoidOf(b.Ellipsoid, b.MajorRadius, b.Flattening);
+    return !ProjUsesParam(a.Type, ProjParamEllipsoid) || sameFigures(definitionOf(one), definitionOf(other));
+}
+
+/// Whether two records are the same by all that their type uses.
+bool isSame(PROJDATA const& a, PROJDATA const& b) {
+    return a.Type == b.Type && hasSameFigure(a, b) &&
+           std::ranges::all_of(parameterTable, [&](ParameterRow const& parameter) {
+               double const one = numberOf(a, parameter), other = numberOf(b, parameter);
+               return parameter.id == ProjParamEllipsoid || !ProjUsesParam(a.Type, parameter.id) ||
+                      std::fabs(one - other) <= toleranceOf(parameter, other);
+           });
+}
+
+/// Whether a system of the register comes back as the very record.
+bool readsBackAs(systems::Definition const& system, PROJDATA const& record) {
+    auto const back = systems::recordOf(system);
+    auto const* const read = std::get_if<systems::SystemRecord>(&back);
+    return read && isSame(completed(read->projection), record);
+}
+
+/// Whether a system may be the projection by its unit and its central meridian, before it is looked at closely.
+bool mayBe(systems::Definition const& system, PROJDATA const& projection) {
+    constexpr double degrees = 0.1, relative = 0.01;
+    double const centre = projection.Lon0 != 0 ? projection.Lon0 : projection.Lon1;
+    double const longitude = system.parameters.valueOr(systems::Parameter::longitudeOfOrigin, centre);
+    return std::fabs(std::remainder(longitude + system.datum.meridian.longitude - centre, 360)) < degrees &&
+           std::fabs(system.unit.factor * projection.Scale - 1) < relative;
+}
+
+/// The register's projected system on a geographic one that is the record; one in force rather than a deprecated one.
+std::optional<systems::Definition> registered(PROJDATA const& record, PROJDATA const& described,
+                                              std::uint16_t geographic) {
+    auto const base = systems::definitionOf(geographic);
+    std::optional<systems::Definition> found;
+    if (!base || geographic == userDefined)
+        return found;
+    for (systems::Code const code : systems::systemsOn(base->datum.code)) {
+        auto system = systems::definitionOf(code);
+        bool const isCandidate = system->baseCode == base->code && code < userDefined && (!found || found->deprecated);
+        if (isCandidate && !(found && system->deprecated) && mayBe(*system, described) && readsBackAs(*system, record))
+            found = std::move(system);
+    }
+    return found;
+}
+
+bool writeAsNumber(KeyDirectory& keys, PROJDATA const& record, PROJDATA const& described, std::uint16_t geographic) {
+    auto const system = registered(record, described, geographic);
+    if (!system)
         return false;
-    keys.setCode(keyProjectedType, zone.code);
-    keys.setCode(keyLengthUnit, zone.unit);
+    keys.setCode(keyProjectedType, static_cast<std::uint16_t>(system->code));
+    keys.setCode(keyLengthUnit, static_cast<std::uint16_t>(system->unit.code));
     return true;
+}
+
+/// The map of the web: a sphere's, of the latitudes of WGS 84's ellipsoid.
+bool isOfWeb(PROJDATA const& record, DatumType datum) {
+    return record.Type == ProjTypeMercator && datum == DatumTypeWorldGeodeticSystem1984 && record.Flattening == 0 &&
+           record.MajorRadius == EllipsoidRadius(EllipsoidTypeWgs84) && record.Ellipsoid == EllipsoidTypeUserDefined;
 }
 
 Expected<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DATUM2WGS84 const* params) {
     PROJDATA const record = completed(given), described = definition(record);
-    Ellipsoid const ellipsoid = ellipsoidOf(described.Ellipsoid, described.MajorRadius, described.Flattening);
+    bool const ofWeb = isOfWeb(described, datum);
+    Ellipsoid const ellipsoid = ofWeb ? ellipsoidOf(EllipsoidTypeWgs84, 0, 0)
+                                      : ellipsoidOf(described.Ellipsoid, described.MajorRadius, described.Flattening);
     KeyDirectory keys;
     auto const geographic = writeGeographic(keys, ellipsoid, datum, params);
     if (!geographic)
         return geographic.refusal();
     keys.setCode(keyModelType, modelProjected);
     keys.setText(keyCitation, nameOf(given.Type));
-    if (writeAsZone(keys, record, *geographic))
+    if (writeAsNumber(keys, record, described, *geographic))
         return keys;
+    if (ofWeb)
+        return Refusal{"GeoTIFF has the sphere's Mercator on WGS 84 by its number alone"};
     PROJDATA withFigures = described;
     withFigures.MajorRadius = ellipsoid.radius;
     withFigures.Flattening = ellipsoid.flattening;

@@ -1,32 +1,19 @@
-// Projected systems that are zones: UTM and State Plane, by the numbers of the EPSG registry.
+// State Plane zones by the numbers that old files have and the register no longer has, or has for something else.
 #pragma once
 
-#include "files/geotiff/keys.h"
-
-#include <zrproj/projection.h>
+#include "systems/definition.h"
 
 #include <optional>
 
 namespace ZrProj::GeoTIFF {
 
-/// A projected system by its number: the projection in metres, the system of longitudes and latitudes that it stands on
-/// (0 where that is told elsewhere), and its unit of length.
-struct Zone {
-    PROJDATA record = {};
-    std::uint16_t geographic = 0;
-    std::uint16_t unit = unitMetre;
-};
+/// The zone whose projected system has that number.
+std::optional<systems::Definition> zoneOfSystem(systems::Code code);
 
-/// The zone of a projected system's number; of a projection's number, which leaves the ellipsoid open.
-std::optional<Zone> zoneOfSystem(std::uint16_t code);
-std::optional<Zone> zoneOfProjection(std::uint16_t code);
+/// The zone whose projection has that number: 10000 and the USGS code, 30 more for 1983.
+std::optional<systems::Definition> zoneOfProjection(systems::Code code);
 
-/// The number of the projected system that a UTM or State Plane record is on a geographic system, in its own unit; 0
-/// where there is none.
-struct ZoneCode {
-    std::uint16_t code = 0;
-    std::uint16_t unit = unitMetre;
-};
-ZoneCode codeOfZone(PROJDATA const& record, std::uint16_t geographic);
+/// The geographic system that a zone of such a number stands on; 0 for a number that is no zone's.
+systems::Code baseOfZone(systems::Code projection);
 
 } // namespace ZrProj::GeoTIFF

@@ -6,10 +6,11 @@
 A block a system:
     system DEFINITION
     tag NUMBER TYPE VALUES...      texts in quotes
-    point LONGITUDE LATITUDE X Y   on the system's own datum; X and Y in the file's unit
+    point LONGITUDE LATITUDE X Y   from Greenwich, on the system's own datum; X and Y in the file's unit
 or, instead of the points, the beginning of the reason why it cannot be read:
     refused REASON
 """
+import math
 import struct
 import tempfile
 
@@ -28,10 +29,11 @@ SYSTEMS = [
     ("EPSG:32054", -90, 43), ("EPSG:32134", -100, 44), ("EPSG:32161", -66, 18), ("EPSG:32145", -72.5, 44),
     ("EPSG:2226", -121, 39), ("EPSG:2222", -110, 33), ("EPSG:2285", -121, 48), ("EPSG:2762", -110.2, 32),
     ("EPSG:6446", -82, 28), ("EPSG:26931", -134, 57),
-    ("EPSG:4326", 10, 50), ("EPSG:4267", -90, 40), ("EPSG:4807", "geographic system 4807"),
+    ("EPSG:4326", 10, 50), ("EPSG:4267", -90, 40), ("EPSG:4807", "longitudes and latitudes are not in degrees"),
     ("EPSG:27700", -2, 52), ("EPSG:2154", 3, 46), ("EPSG:31370", 4.5, 50.5), ("EPSG:3395", 10, 50), ("EPSG:3413", -40, 75),
-    ("EPSG:26979", -84, 38), ("EPSG:2205", -84, 38), ("EPSG:26747", -118, 34), ("EPSG:2056", 8, 47), ("EPSG:3857", "projected system 3857"), ("EPSG:27572", "projected system 27572"),
-    ("EPSG:28992", "projected system 28992"),
+    ("EPSG:26979", -84, 38), ("EPSG:2205", -84, 38), ("EPSG:26747", -118, 34), ("EPSG:2056", 8, 47), ("EPSG:3857", 10, 50), ("EPSG:27572", 3, 46),
+    ("EPSG:28992", "no record says the projection Oblique Stereographic"), ("EPSG:4979", 10, 50), ("EPSG:3006", 16, 60), ("EPSG:2443", 130, 33),
+    ("EPSG:2046", "the records' coordinates grow"), ("EPSG:5514", "no record says the projection Krovak"),
     ("+proj=lcc +lat_1=44 +lat_2=49 +lat_0=46.5 +lon_0=3 +x_0=700000 +y_0=6600000 +ellps=GRS80", 3, 46),
     ("+proj=lcc +lat_1=46.8 +lat_0=46.8 +k_0=0.99987742 +lon_0=2.337229167 +x_0=600000 +y_0=2200000 +ellps=clrk80ign", 3, 46),
     ("+proj=lcc +lat_1=18 +lat_0=18 +k_0=1 +lon_0=-77 +x_0=250000 +y_0=150000 +ellps=clrk66", -77, 18),
@@ -45,7 +47,7 @@ SYSTEMS = [
     ("+proj=stere +lat_0=90 +lat_ts=70 +lon_0=-45 +a=6378273 +b=6356889.449", -40, 75),
     ("+proj=stere +lat_0=90 +k=0.994 +lon_0=0 +x_0=2000000 +y_0=2000000 +datum=WGS84", 60, 80),
     ("+proj=stere +lat_0=52 +lon_0=5 +k=0.9999 +x_0=155000 +y_0=463000 +ellps=bessel", 5, 52),
-    ("+proj=sterea +lat_0=52 +lon_0=5 +k=0.9999 +x_0=155000 +y_0=463000 +ellps=bessel", "coordinate transformation 16"),
+    ("+proj=sterea +lat_0=52 +lon_0=5 +k=0.9999 +x_0=155000 +y_0=463000 +ellps=bessel", "no record says the projection Oblique Stereographic"),
     ("+proj=omerc +lat_0=57 +lonc=-133.6666666666667 +alpha=323.1301023611111 +gamma=323.1301023611111 +k=0.9999 "
      "+x_0=818676.7344011233 +y_0=575097.6888751927 +ellps=GRS80", -134, 57),
     ("+proj=omerc +no_uoff +lat_0=45.30916666666666 +lonc=-86 +alpha=337.25556 +gamma=337.25556 +k=0.9996 +x_0=2546731.496 "
@@ -70,9 +72,9 @@ SYSTEMS = [
     ("+proj=tmerc +lat_0=49 +lon_0=-2 +k=0.9996012717 +x_0=400000 +y_0=-100000 +ellps=airy "
      "+towgs84=446.448,-125.157,542.06,0.1502,0.247,0.8421,-20.4894", -2, 52),
     ("+proj=tmerc +lat_0=0 +lon_0=173 +k=0.9996 +x_0=1600000 +y_0=10000000 +ellps=GRS80 +units=ft", 173, -41),
-    ("+proj=tmerc +axis=wsu +lat_0=0 +lon_0=29 +k=1 +datum=WGS84", "coordinate transformation 27"),
-    ("+proj=moll +datum=WGS84", "the file's model"), ("+proj=cea +lat_ts=30 +datum=WGS84", "coordinate transformation 28"),
-    ("+proj=nzmg +datum=WGS84", "coordinate transformation 26"),
+    ("+proj=tmerc +axis=wsu +lat_0=0 +lon_0=29 +k=1 +datum=WGS84", "the records' coordinates grow"),
+    ("+proj=moll +datum=WGS84", 10, 50), ("+proj=cea +lat_ts=30 +datum=WGS84", "no record says the projection Lambert Cylindrical"),
+    ("+proj=nzmg +datum=WGS84", "no record says the projection New Zealand"),
 ]
 OFFSETS = [(0, 0), (1.5, 1), (-1.5, 1), (1, -2), (-2, -1.5)]
 SIZES = {2: 1, 3: 2, 12: 8}
@@ -117,6 +119,7 @@ for definition, *place in SYSTEMS:
     for s in (system, own):
         s.SetAxisMappingStrategy(osr.OAMS_TRADITIONAL_GIS_ORDER)
     forward = osr.CoordinateTransformation(own, system)
+    unit, meridian = math.degrees(own.GetAngularUnits()), float(own.GetAttrValue("PRIMEM", 1))
     for dx, dy in OFFSETS:
-        x, y, _ = forward.TransformPoint(place[0] + dx, place[1] + dy)
+        x, y, _ = forward.TransformPoint((place[0] + dx - meridian) / unit, (place[1] + dy) / unit)
         print("point", place[0] + dx, place[1] + dy, repr(x), repr(y))
