@@ -220,7 +220,9 @@ ZRPROJ_API zrproj_status zrproj_system_area(zrproj_system const* system, double*
                                             double* north);
 
 /// The parameters that a system stands for, completed: radius, flattening and scale factors, the false origin of a UTM
-/// zone. `parameters->size` must be set. ZRPROJ_UNSUPPORTED for a system made of a definition.
+/// zone. Of a system made of a definition those of the record that says the same, if any (a Transverse Mercator's is
+/// computed by the series, near its meridian only); the message tells of a datum that the catalogue does not have.
+/// `parameters->size` must be set. ZRPROJ_UNSUPPORTED where no record says the system.
 ZRPROJ_API zrproj_status zrproj_system_parameters(zrproj_system const* system, zrproj_parameters* parameters);
 
 /// The system of longitudes and latitudes that a system is based on, of the same figure and datum, as a handle of its
@@ -473,8 +475,9 @@ ZRPROJ_API zrproj_status zrproj_description_read(char const* path, zrproj_side_f
 ZRPROJ_API zrproj_status zrproj_description_of_image(char const* image, zrproj_tag const* tags, size_t count,
                                                      zrproj_description** description);
 
-/// What GeoTIFF tags say. What no record can say exactly is left out, and a note tells why. ZRPROJ_FILE, with what is
-/// wrong with them as message, for damaged tags.
+/// What GeoTIFF tags say. Notes tell what is contradictory or cannot be read, and what parameters cannot say;
+/// zrproj_description_system has such a system all the same. ZRPROJ_FILE, with what is wrong with them as message, for
+/// damaged tags.
 ZRPROJ_API zrproj_status zrproj_description_of_tags(zrproj_tag const* tags, size_t count,
                                                     zrproj_description** description);
 
@@ -502,6 +505,11 @@ ZRPROJ_API zrproj_status zrproj_description_parameters(zrproj_description const*
 /// says of the way to WGS 84, of a datum of the catalogue as well. ZRPROJ_UNKNOWN where no datum is told.
 /// `parameters->size` must be set.
 ZRPROJ_API zrproj_status zrproj_description_datum(zrproj_description const* description, zrproj_parameters* parameters);
+
+/// The system, ready to convert; the register's where it is one, whether or not parameters can say it. The message
+/// tells of a code or name that its numbers contradict. ZRPROJ_UNKNOWN where no system, or a datum alone, is told;
+/// otherwise fails as zrproj_system_create and zrproj_system_create_from_parameters do.
+ZRPROJ_API zrproj_status zrproj_description_system(zrproj_description const* description, zrproj_system** system);
 
 /// The georeference; its pairs live as long as the description. `georeference->size` must be set. ZRPROJ_UNKNOWN where
 /// there is none.

@@ -1,6 +1,8 @@
 // What files say of a map: read and written one by one, and put together for an image.
 #include "door/fit.h"
 #include "door/parameters.h"
+#include "door/system.h"
+#include "files/geotiff/system.h"
 #include "files/side_file.h"
 #include "georef/method_table.h"
 
@@ -17,6 +19,7 @@ struct zrproj_description {
     PROJDATA projection{};
     DatumType datum = DatumTypeNone;
     DATUM2WGS84 shift{};
+    std::optional<systems::Definition> system; // as tags say it, whether a record can say it or not
     int method = TransformMethodNone;
     std::vector<GEOREFPOINT> source, target;
     std::array<double, 6> coefficients{};
@@ -28,6 +31,7 @@ struct zrproj_description {
 
     bool hasProjection() const { return projection.Type != ProjTypeUndefined; }
     bool hasDatum() const { return datum != DatumTypeNone; }
+    bool tellsOfSystem() const { return hasProjection() || hasDatum() || system; }
     bool hasGeoreference() const { return method != TransformMethodNone; }
     bool isByCoefficients() const { return method == TransformMethodPrecalculatedAffineCoefficients; }
 };
@@ -87,10 +91,13 @@ MapRecord mapRecordOf(zrproj_description const& description) {
 
 /// Takes from a later source what the earlier ones did not tell.
 void addLater(zrproj_description& description, zrproj_description const& later) {
-    if (!description.hasProjection()) {
+    bool const tellsOfSystem = description.tellsOfSystem();
+    if (!description.hasProjection() && !description.system) {
         description.projection = later.projection;
         description.files[ZRPROJ_PROJECTION] = later.files[ZRPROJ_PROJECTION];
     }
+    if (!tellsOfSystem)
+        description.system = later.system;
     if (!description.hasDatum()) {
         description.datum = later.datum;
         description.shift = later.shift;
@@ -144,6 +151,7 @@ Answer readTags(zrproj_tag const* tags, std::size_t count, std::string const& im
     if (!ZrProjGetGeoTIFF(list, &record.projection, &record.datum, &record.datumParameters, &record.georef, nullptr))
         return fileFailure(notes.empty() ? "" : notes.front());
     take(description, record, image);
+    description.system = GeoTIFF::systemOf(list);
     description.notes = std::move(notes);
     return {ZRPROJ_OK, joined(description.notes)};
 }
@@ -395,6 +403,18 @@ zrproj_status zrproj_description_datum(zrproj_description const* description, zr
             return unknown("nothing is told of a datum");
         *parameters = parametersOf(emptyMapRecord().projection, description->datum, description->shift);
         return {};
+    });
+}
+
+zrproj_status zrproj_description_system(zrproj_description const* description, zrproj_system** system) {
+    return answerWith(system, [&](zrproj_system& made) -> Answer {
+        if (!description)
+            return badArgument("null pointer to a description");
+        if (description->system)
+            return makeSystem(made, *description->system);
+        if (!description->hasProjection())
+            return unknown("no coordinate system is told");
+        return makeSystem(made, parametersOf(description->projection, description->datum, description->shift));
     });
 }
 

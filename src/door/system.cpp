@@ -9,6 +9,7 @@
 #include "systems/register.h"
 #include "systems/text/form.h"
 #include "systems/text/writers.h"
+#include "systems/to_record.h"
 
 using namespace ZrProj;
 using namespace ZrProj::Door;
@@ -137,8 +138,7 @@ Answer makeFromText(zrproj_system& system, std::string_view text) {
     auto read = systems::readDefinition(text);
     if (auto const* const problem = std::get_if<systems::Problem>(&read))
         return {statusOf(problem->fault), problem->message};
-    auto [definition, noticed] = systems::reconcile(std::move(std::get<Definition>(read)));
-    return makeFromDefinition(system, std::move(definition), std::move(noticed));
+    return makeSystem(system, std::move(std::get<Definition>(read)));
 }
 
 // What a system says.
@@ -179,6 +179,19 @@ Answer tellText(zrproj_system const& system, zrproj_format format, char* buffer,
     return giveText(std::get<std::string>(text), buffer, size, length);
 }
 
+/// Of a definition, where a record says it.
+Answer tellParameters(Definition const& definition, zrproj_parameters& parameters) {
+    auto const made = systems::recordOf(definition);
+    if (auto const* const why = std::get_if<Unsupported>(&made))
+        return unsupported(why->reason);
+    auto const& [projection, datum, shift, noDatum] = std::get<systems::SystemRecord>(made);
+    zrproj_parameters told = parametersOf(projection, datum, shift);
+    if (Answer completed = complete(told); !completed.isGood())
+        return completed;
+    parameters = told;
+    return {ZRPROJ_OK, noDatum};
+}
+
 // The geographic system.
 
 zrproj_parameters geographicParameters(zrproj_system const& system) {
@@ -208,6 +221,15 @@ Definition geographicDefinition(Definition const& system) {
 }
 
 } // namespace
+
+Answer Door::makeSystem(zrproj_system& system, Definition said) {
+    auto [definition, noticed] = systems::reconcile(std::move(said));
+    return makeFromDefinition(system, std::move(definition), std::move(noticed));
+}
+
+Answer Door::makeSystem(zrproj_system& system, zrproj_parameters const& given) {
+    return makeFromParameters(system, given);
+}
 
 std::string Door::calledBy(zrproj_system const& system) {
     if (system.parameters)
@@ -270,7 +292,7 @@ zrproj_status zrproj_system_parameters(zrproj_system const* system, zrproj_param
         if (!system || !hasKnownSize(parameters))
             return badArgument("no system, or no parameters of a known size");
         if (!system->parameters)
-            return unsupported("a system made from a definition has no parameters");
+            return tellParameters(system->definition, *parameters);
         *parameters = *system->parameters;
         return {};
     });

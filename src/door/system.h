@@ -18,6 +18,13 @@ struct zrproj_system {
 
 namespace ZrProj::Door {
 
+/// Makes a system of what a file says: the register's where it is the same, by its numbers where they contradict a
+/// name, which is told.
+Answer makeSystem(zrproj_system& system, systems::Definition said);
+
+/// Makes a system of a caller's parameters.
+Answer makeSystem(zrproj_system& system, zrproj_parameters const& given);
+
 /// What a message or a line calls the system, "" for one without a name of its own.
 std::string calledBy(zrproj_system const& system);
 

@@ -373,3 +373,32 @@ TEST(DoorDescription, GoesThroughTags) {
     EXPECT_EQ(zrproj_description_of_tags(short_, 1, &description), ZRPROJ_FILE);
     EXPECT_EQ(description, nullptr);
 }
+
+TEST(DoorDescription, HasASystemThatNoRecordSays) {
+    auto const describe = [](unsigned short code) {
+        unsigned short const keys[] = {1, 1, 0, 2, 1024, 0, 1, 1, 3072, 0, 1, code};
+        zrproj_tag const tag{34735, 3, 12, keys};
+        return made<Description>([&](zrproj_description** d) { return zrproj_description_of_tags(&tag, 1, d); });
+    };
+    auto const ofDescription = [](Description const& description) {
+        return made<System>([&](zrproj_system** s) { return zrproj_description_system(description.get(), s); });
+    };
+    auto const codeOf = [](System const& system) {
+        char text[32] = "";
+        EXPECT_EQ(zrproj_system_text(system.get(), ZRPROJ_CODE, text, sizeof text, nullptr), ZRPROJ_OK);
+        return std::string(text);
+    };
+    Description const amersfoort = describe(28992);
+    EXPECT_EQ(zrproj_message(), std::string("no record says the projection Oblique Stereographic"));
+    zrproj_parameters parameters{};
+    parameters.size = sizeof parameters;
+    EXPECT_EQ(zrproj_description_parameters(amersfoort.get(), &parameters), ZRPROJ_UNKNOWN);
+    EXPECT_EQ(codeOf(ofDescription(amersfoort)), "EPSG:28992");
+    EXPECT_EQ(codeOf(ofDescription(describe(32617))), "EPSG:32617");
+    EXPECT_EQ(codeOf(ofDescription(scan())), "EPSG:32617"); // of parameters
+
+    zrproj_system* system = nullptr;
+    EXPECT_EQ(zrproj_description_system(scan(false).get(), &system), ZRPROJ_UNKNOWN);
+    EXPECT_EQ(zrproj_description_system(nullptr, &system), ZRPROJ_BAD_ARGUMENT);
+    EXPECT_EQ(system, nullptr);
+}
