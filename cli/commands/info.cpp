@@ -26,13 +26,14 @@ std::string datumTitle(int datum) {
 void addDatum(Table& table, zrproj_parameters const& datum) {
     zrproj_shift const& p = datum.shift;
     table.rows.push_back({"Datum", datumTitle(datum.datum)});
-    table.rows.push_back({"To WGS 84 by", std::string(methodName(static_cast<DatumMethod>(p.method)))});
-    if (p.method != DatumMethodMolodensky && p.method != DatumMethodBursaWolf)
+    auto const method = static_cast<DatumMethod>(p.method);
+    table.rows.push_back({"To WGS 84 by", std::string(methodName(method))});
+    if (!hasShifts(method))
         return;
     table.rows.push_back({"Datum ellipsoid", ellipsoidName(static_cast<EllipsoidType>(datum.ellipsoid))});
     table.rows.push_back({"Prime meridian", numberText(p.prime_meridian) + " degrees"});
     table.rows.push_back({"Shifts", numberText(p.dx) + ", " + numberText(p.dy) + ", " + numberText(p.dz) + " metres"});
-    if (p.method != DatumMethodBursaWolf)
+    if (!hasRotations(method))
         return;
     table.rows.push_back(
         {"Rotations", numberText(p.rx) + ", " + numberText(p.ry) + ", " + numberText(p.rz) + " arcseconds"});

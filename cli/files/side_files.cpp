@@ -72,7 +72,7 @@ std::vector<std::string> writeSideFile(MapFile const& file, MapInfo const& info,
     }
     MapInfo::check(zrproj_description_write(info.handle(), file.name.c_str(), kindOf(file)));
     std::vector<std::string> notes = split(zrproj_message());
-    if (!words.empty())
+    if (!words.empty() && !notes.empty())
         notes.back() += ", " + words;
     return notes;
 }

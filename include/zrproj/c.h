@@ -14,8 +14,7 @@
 // What holds for all of it:
 //
 // - Angles are degrees, x comes before y, longitude before latitude. Structures are zeroed, and their `size` set,
-// before
-//   they are filled; they may grow at their end.
+//   before they are filled; they may grow at their end.
 // - A handle never changes after its creation, and any number of threads may use it at once. The destroy functions
 //   ignore null; nothing else may be using the handle by then.
 // - Functions that can fail return a status. Outputs are written on success only; those that receive a handle hold null
@@ -196,6 +195,7 @@ ZRPROJ_API zrproj_status zrproj_system_create(char const* definition, zrproj_sys
 ZRPROJ_API zrproj_status zrproj_system_create_from_parameters(zrproj_parameters const* parameters,
                                                               zrproj_system** system);
 
+/// Frees a system. Transforms that were made of it stay good.
 ZRPROJ_API void zrproj_system_destroy(zrproj_system* system);
 
 /// The form of a system's text.
@@ -241,8 +241,10 @@ ZRPROJ_API zrproj_status zrproj_register_entry(size_t n, int* code, char const**
 ZRPROJ_API zrproj_status zrproj_register_search(char const* text, double const* place, size_t* entries, size_t size,
                                                 size_t* count);
 
-/// The edition of the register and its terms of use, a sentence each.
+/// The edition of the register, by its publisher, version and date.
 ZRPROJ_API char const* zrproj_register_version(void);
+
+/// The terms of use of the register's data, a sentence.
 ZRPROJ_API char const* zrproj_register_terms(void);
 
 // ---- Transforms.
@@ -264,6 +266,7 @@ typedef struct zrproj_options {
 ZRPROJ_API zrproj_status zrproj_transform_create(zrproj_system const* from, zrproj_system const* to,
                                                  zrproj_options const* options, zrproj_transform** transform);
 
+/// Frees a transform.
 ZRPROJ_API void zrproj_transform_destroy(zrproj_transform* transform);
 
 /// What the transform does, one line a step, and the accuracy of the datum's step in metres: NaN where nobody states
@@ -322,6 +325,7 @@ ZRPROJ_API zrproj_status zrproj_fit_create(int method, double const* source, dou
 /// not finite.
 ZRPROJ_API zrproj_status zrproj_fit_create_affine(double const coefficients[6], zrproj_fit** fit);
 
+/// Frees a fit. Its analyses stay good.
 ZRPROJ_API void zrproj_fit_destroy(zrproj_fit* fit);
 
 /// Maps `count` points in place from source to target coordinates. Layout, NaN, reasons and failures as for
@@ -348,6 +352,7 @@ typedef struct zrproj_analysis zrproj_analysis;
 /// for the method to tell, but enough for an affine fit, that one judges.
 ZRPROJ_API zrproj_status zrproj_analysis_create(zrproj_fit const* fit, zrproj_analysis** analysis);
 
+/// Frees an analysis.
 ZRPROJ_API void zrproj_analysis_destroy(zrproj_analysis* analysis);
 
 /// The whole of an analysis. What cannot be told is NaN.
@@ -429,6 +434,7 @@ ZRPROJ_API zrproj_status zrproj_side_files_create(char const* image, zrproj_side
 ZRPROJ_API zrproj_status zrproj_side_files_entry(zrproj_side_files const* files, size_t n, zrproj_side_file* kind,
                                                  char const** path);
 
+/// Frees the list, its paths included.
 ZRPROJ_API void zrproj_side_files_destroy(zrproj_side_files* files);
 
 /// The kind of a file by its name: "zrr", "rsf", and "wld" or what becomes of an image's extension ("tfw", "tifw").
@@ -494,6 +500,7 @@ ZRPROJ_API zrproj_status zrproj_description_create(zrproj_parameters const* para
 ZRPROJ_API zrproj_status zrproj_description_combine(zrproj_description const* first, zrproj_description const* second,
                                                     zrproj_description** description);
 
+/// Frees a description, with the texts and pairs that it gave out.
 ZRPROJ_API void zrproj_description_destroy(zrproj_description* description);
 
 /// The system, as it is told: `type` 999 where only the datum is, `datum` 237 where it is not. ZRPROJ_UNKNOWN where
@@ -552,6 +559,7 @@ ZRPROJ_API zrproj_status zrproj_tags_create(zrproj_description const* descriptio
 /// The n-th tag, in ascending order; its data lives as long as `tags`.
 ZRPROJ_API zrproj_status zrproj_tags_entry(zrproj_tags const* tags, size_t n, zrproj_tag* tag);
 
+/// Frees the tags and their data.
 ZRPROJ_API void zrproj_tags_destroy(zrproj_tags* tags);
 
 // ---- Zones, angles, grids.

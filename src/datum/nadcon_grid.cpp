@@ -1,15 +1,16 @@
 #include "datum/nadcon_grid.h"
 
+#include "levels/stage.h"
+
 #include <algorithm>
 #include <array>
-#include <cfloat>
 #include <cmath>
 #include <cstring>
 
 namespace ZrProj {
 
 std::optional<NadconCell> NadconGrid::locate(DATUMPOINT const& point) const {
-    if (point.x == DBL_MAX || point.y == DBL_MAX)
+    if (levels::isMarked(point))
         return std::nullopt;
     double const x = (point.x - xmin) / dx + 1, y = (point.y - ymin) / dy + 1;
     if (!(x > -1 && x < columns && y >= 1 && y < rows))

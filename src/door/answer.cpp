@@ -2,6 +2,9 @@
 
 #include <algorithm>
 #include <array>
+#include <cstdio>
+#include <new>
+#include <stdexcept>
 
 namespace ZrProj::Door {
 namespace {
@@ -23,12 +26,39 @@ constexpr std::array statusNames{"ok", "bad argument", "bad definition", "unknow
 // clang-format on
 static_assert(statusNames.size() == ZRPROJ_NO_MEMORY + 1);
 
+zrproj_status noMemory() noexcept {
+    tell("out of memory");
+    return ZRPROJ_NO_MEMORY;
+}
+
+/// Of the library itself, for which there is no status of its own.
+zrproj_status fault(char const* what) noexcept {
+    std::array<char, 200> text{};
+    std::snprintf(text.data(), text.size(), "a fault of the library: %s", what);
+    tell(text.data());
+    return ZRPROJ_UNSUPPORTED;
+}
+
 } // namespace
 
 void tell(std::string_view message) noexcept {
     std::size_t const length = fitting(message, messageSize - 1);
     std::ranges::replace_copy(message.substr(0, length), lastMessage.begin(), '\n', ' ');
     lastMessage[length] = '\0';
+}
+
+zrproj_status answerOfException() noexcept {
+    try {
+        throw;
+    } catch (std::bad_alloc const&) {
+        return noMemory();
+    } catch (std::length_error const&) { // a vector or text so long that no memory could hold it
+        return noMemory();
+    } catch (std::exception const& exception) {
+        return fault(exception.what());
+    } catch (...) {
+        return fault("of no known type");
+    }
 }
 
 Answer giveText(std::string_view text, char* buffer, std::size_t size, std::size_t* length) {

@@ -7,7 +7,6 @@
 
 #include <cmath>
 #include <cstddef>
-#include <exception>
 #include <memory>
 #include <span>
 #include <string>
@@ -43,15 +42,18 @@ inline Answer fileFailure(std::string message) {
 /// Makes a text this thread's message: one line, cut where it is too long.
 void tell(std::string_view message) noexcept;
 
-/// Runs a function of the door, in the default floating-point environment. Only memory that runs out throws in here.
+/// What an exception comes to, as nothing may be thrown out of the door. None but those of memory that runs out is
+/// expected. Only while one is handled.
+zrproj_status answerOfException() noexcept;
+
+/// Runs a function of the door, in the default floating-point environment.
 template <class Work> zrproj_status answer(Work const& work) noexcept {
     try {
         Answer const result = withDefaultFloatingPoint(work);
         tell(result.message);
         return result.status;
-    } catch (std::exception const&) {
-        tell("out of memory");
-        return ZRPROJ_NO_MEMORY;
+    } catch (...) {
+        return answerOfException();
     }
 }
 

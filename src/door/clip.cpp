@@ -22,24 +22,25 @@ namespace {
 using Reader = std::vector<preclip::Path> (*)(std::span<PROJPOINT const> points);
 
 void shift(std::span<PROJPOINT> points, double degrees) {
-    if (degrees == 0)
-        return;
     for (PROJPOINT& point : points)
         point.x += degrees;
 }
 
 /// What the map shows of a line or a ring, whose longitudes count from `meridian` where the map's edges may count from
-/// another.
+/// another. What is not cut keeps the given points, since a shift back may differ from them in the last digit.
 std::vector<preclip::Path> clipped(systems::Conversion const& conversion, double meridian,
-                                   std::vector<PROJPOINT> points, Reader read) {
+                                   std::vector<PROJPOINT> const& points, Reader read) {
     double const offset = conversion.meridian - meridian;
     auto const edges = formulas::formulaOf(conversion.method)->edges(conversion.parameters);
-    shift(points, -offset);
-    auto paths = preclip::cutToEdges(edges, read(points));
+    auto paths = read(points);
+    for (auto& path : paths)
+        shift(path.points, -offset);
+    paths = preclip::cutToEdges(edges, std::move(paths));
     for (auto& path : paths) {
         if (path.isAsGiven)
             path.points = points;
-        shift(path.points, offset);
+        else
+            shift(path.points, offset);
     }
     return paths;
 }
@@ -65,8 +66,7 @@ zrproj_status clip(zrproj_system const* system, double const* points, size_t cou
         std::vector<PROJPOINT> given(count);
         for (size_t i = 0; i < count; ++i)
             given[i] = {points[2 * i], points[2 * i + 1]};
-        take(made, clipped(system->projection->conversion(), system->definition.datum.meridian.longitude,
-                           std::move(given), read));
+        take(made, clipped(system->projection->conversion(), system->definition.datum.meridian.longitude, given, read));
         return {};
     });
 }

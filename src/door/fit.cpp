@@ -72,7 +72,7 @@ bool isFitted(int method) {
 }
 
 void mapBlock(GeorefMap const& map, std::span<PROJPOINT> points, std::span<Reason> reasons) {
-    std::array<GEOREFPOINT, 512> mapped;
+    std::array<GEOREFPOINT, blockPoints> mapped;
     for (std::size_t i = 0; i < points.size(); ++i)
         mapped[i] = {points[i].x, points[i].y};
     map.map(std::span(mapped).first(points.size()));

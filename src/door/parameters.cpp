@@ -1,6 +1,7 @@
 #include "door/parameters.h"
 
 #include "datum/catalogue.h"
+#include "datum/method_table.h"
 #include "frame/errors.h"
 #include "proj/validation.h"
 
@@ -21,6 +22,15 @@ bool isCatalogueDatum(int datum) {
     return datum > DatumTypeUserDefined && datum < DatumTypeNone;
 }
 
+/// The methods that go by a caller's own shifts: "2 (Bursa-Wolf) or 3 (Molodensky)".
+std::string methodsWithShifts() {
+    std::string text;
+    for (DatumMethodRow const& row : datumMethodTable)
+        if (row.hasShifts())
+            text += (text.empty() ? "" : " or ") + std::to_string(row.method) + " (" + row.name + ')';
+    return text;
+}
+
 Answer checkDatum(zrproj_parameters const& parameters) {
     if (parameters.datum < DatumTypeUserDefined || parameters.datum > DatumTypeNone)
         return badDefinition("datum " + std::to_string(parameters.datum) + " is none of the catalogue's");
@@ -30,10 +40,8 @@ Answer checkDatum(zrproj_parameters const& parameters) {
     request.SourceParams = shiftOf(parameters);
     request.Destination = DatumTypeWorldGeodeticSystem1984;
     std::array<char, 260> reason{};
-    bool const canConvert =
-        parameters.shift.method == DatumMethodBursaWolf || parameters.shift.method == DatumMethodMolodensky;
-    if (!canConvert)
-        return badDefinition("a datum's own method is 2 (Bursa-Wolf) or 3 (Molodensky)");
+    if (!datumMethodIs(request.SourceParams.Method, &DatumMethodRow::hasShifts))
+        return badDefinition("a datum's own method is " + methodsWithShifts());
     return DatCheckParams(&request, reason.data(), false) == 0 ? Answer{} : badDefinition(reason.data());
 }
 

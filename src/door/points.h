@@ -49,12 +49,11 @@ inline Reason reasonOfInput(PROJPOINT const& point) {
 /// NaN, NaN.
 template <class Convert>
 void convertRange(PointArray const& points, std::size_t begin, std::size_t end, Convert const& convert) {
-    constexpr std::size_t most = 512;
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
-    std::array<PROJPOINT, most> block;
-    std::array<Reason, most> reasons;
-    for (; begin < end; begin += most) {
-        std::size_t const count = std::min(most, end - begin);
+    std::array<PROJPOINT, blockPoints> block;
+    std::array<Reason, blockPoints> reasons;
+    for (; begin < end; begin += blockPoints) {
+        std::size_t const count = std::min(blockPoints, end - begin);
         for (std::size_t i = 0; i < count; ++i) {
             block[i] = points.load(begin + i);
             reasons[i] = reasonOfInput(block[i]);

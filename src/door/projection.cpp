@@ -19,10 +19,6 @@ constexpr double poleTolerance = 1.6e-10, nearMiss = 5e-7, farMiss = 1 / 64.0;
 // radius times the scale there, asinh(tan(3900 km / 6378.137 km)).
 constexpr double kruegerReach = 0.6536;
 
-bool isMarked(PROJPOINT const& point) {
-    return point.x == DBL_MAX || point.y == DBL_MAX;
-}
-
 } // namespace
 
 std::variant<std::shared_ptr<Projection const>, systems::Unsupported>
@@ -96,7 +92,7 @@ void Projection::forward(std::span<PROJPOINT> points, std::span<Reason> reasons)
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (!hasResult(reasons[i]))
             continue;
-        if (isMarked(points[i]))
+        if (levels::isMarked(points[i]))
             reasons[i] = ZRPROJ_NOT_SHOWN;
         else if (m_kind == Kind::krueger)
             reasons[i] = std::max(reasons[i], rangeOnMap(points[i]));
@@ -127,16 +123,13 @@ Reason Projection::reasonOfSeries(PROJPOINT const& map, PROJPOINT const& place) 
 }
 
 Reason Projection::reasonOfPlace(PROJPOINT const& place) const noexcept {
-    if (isMarked(place))
+    if (levels::isMarked(place))
         return ZRPROJ_OFF_THE_MAP;
     return isGeographic() && std::fabs(place.y) > 90 ? ZRPROJ_BEYOND_POLE : ZRPROJ_CONVERTED;
 }
 
 void Projection::inverse(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept {
-    constexpr std::size_t most = 512;
-    std::array<PROJPOINT, most> map;
-    for (; points.size() > most; points = points.subspan(most), reasons = reasons.subspan(most))
-        inverse(points.first(most), reasons.first(most));
+    std::array<PROJPOINT, blockPoints> map;
     for (std::size_t i = 0; i < points.size(); ++i)
         if (!hasResult(reasons[i]))
             points[i] = mark;

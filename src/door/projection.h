@@ -24,6 +24,9 @@ inline double wrapped(double longitude) {
     return std::fabs(longitude) <= 180 ? longitude : std::remainder(longitude, 360);
 }
 
+/// How many points are converted at a time.
+inline constexpr std::size_t blockPoints = 512;
+
 class Projection {
 public:
     /// Nothing where the conversion defines no map.
@@ -31,7 +34,8 @@ public:
     make(systems::Conversion const& conversion);
 
     /// Converts places in degrees from Greenwich, finite and within the poles, to the system's coordinates, and those
-    /// on to degrees again. What has no result comes in and leaves with its reason, whatever its coordinates.
+    /// on to degrees again, up to blockPoints at a time. What has no result comes in and leaves with its reason,
+    /// whatever its coordinates.
     void forward(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept;
     void inverse(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept;
 

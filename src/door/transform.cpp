@@ -1,6 +1,7 @@
 #include "door/points.h"
 #include "door/system.h"
 #include "systems/datum_link.h"
+#include "systems/text/number.h"
 
 using namespace ZrProj;
 using namespace ZrProj::Door;
@@ -32,7 +33,7 @@ Answer make(zrproj_transform& transform, zrproj_system const& from, zrproj_syste
     if (!link)
         return {ZRPROJ_NO_PATH, separation(from.definition.datum, to.definition.datum)};
     if (options.refuse_rough && link->accuracy > 1)
-        return {ZRPROJ_NO_PATH, link->told + " to no more than " + std::to_string(link->accuracy) + " m"};
+        return {ZRPROJ_NO_PATH, link->told + " to no more than " + systems::numberText(link->accuracy) + " m"};
     transform.from = from;
     transform.to = to;
     transform.link = *std::move(link);

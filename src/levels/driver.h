@@ -269,7 +269,7 @@ private:
 template <class Work>
 [[gnu::noinline]] Pair<double> convertAlone(Work const& work, Pair<double> point, Marking const& marking,
                                             unsigned char* fate, Outcome& outcome) {
-    bool const marked = point.x == DBL_MAX || point.y == DBL_MAX, finite = isFinite(point);
+    bool const marked = isMarked(point), finite = isFinite(point);
     LonePoint alone{point.x, point.y};
     auto const became = finite && !marked ? work.convert(alone) : cameInLost;
     outcome.failed |= alone.raised;

@@ -57,7 +57,13 @@ struct Stage {
 /// n-th from 0 being lostInStage + n.
 inline constexpr unsigned char cameOut = 0, cameInLost = 1, lostInStage = 2;
 
-/// How a computation says what it could not compute. A point with a coordinate of DBL_MAX comes in marked.
+/// Whether a point is marked, of whatever type: its coordinates, or one of them, are DBL_MAX. Inlined at every level,
+/// for no other level may get a level's own.
+template <class Point> [[gnu::always_inline]] constexpr bool isMarked(Point const& point) {
+    return point.x == DBL_MAX || point.y == DBL_MAX;
+}
+
+/// How a computation says what it could not compute. A marked point may come in, too.
 struct Marking {
     double marker = DBL_MAX;        // both coordinates of what is lost become this
     bool keepsMarked = false;       // what came in marked and finite stays as it is, and does not count

@@ -231,23 +231,19 @@ Given parametersOf(Ellipsoid const& ellipsoid, ParameterValues const& values) {
     return given;
 }
 
-bool isMarked(PROJPOINT const& point) {
-    return point.x == DBL_MAX || point.y == DBL_MAX;
-}
-
 /// Turns what is not marked; nothing is spent where there is nothing to turn.
 void turn(PROJPOINT* points, int count, double x, double y, double shift) {
     if (x == 1 && y == 1 && shift == 0)
         return;
     for (int i = 0; i < count; ++i)
-        if (!isMarked(points[i]))
+        if (!levels::isMarked(points[i]))
             points[i] = {points[i].x * x + shift, points[i].y * y};
 }
 
 /// -180 to 180, as a shift by a meridian may leave it outside.
 void wrap(PROJPOINT* points, int count) {
     for (int i = 0; i < count; ++i)
-        if (!isMarked(points[i]) && std::fabs(points[i].x) > 180)
+        if (!levels::isMarked(points[i]) && std::fabs(points[i].x) > 180)
             points[i].x = std::remainder(points[i].x, 360);
 }
 

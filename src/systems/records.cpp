@@ -1,6 +1,7 @@
 #include "systems/records.h"
 
 #include "datum/catalogue.h"
+#include "datum/method_table.h"
 #include "proj/projection_table.h"
 #include "proj/record.h"
 #include "systems/method_table.h"
@@ -178,9 +179,9 @@ PrimeMeridian meridianOf(double longitude) {
 Datum ownDatum(DATUM2WGS84 const& own) {
     Datum datum;
     datum.meridian = meridianOf(own.PrimeMeridian);
-    if (own.Method == DatumMethodMolodensky)
+    if (datumMethodIs(own.Method, &DatumMethodRow::hasShifts))
         datum.toWgs84 = ToWgs84{own.dX, own.dY, own.dZ};
-    if (own.Method == DatumMethodBursaWolf)
+    if (datumMethodIs(own.Method, &DatumMethodRow::hasRotations))
         datum.toWgs84 = ToWgs84{own.dX, own.dY, own.dZ, own.rX, own.rY, own.rZ, own.Scale};
     return datum;
 }

@@ -1,9 +1,11 @@
+#include "door/answer.h"
 #include "door/handles.h"
 #include "support/failing_memory.h"
 #include "support/side_files.h"
 
 #include <cmath>
 #include <functional>
+#include <stdexcept>
 #include <vector>
 
 using namespace ZrProj;
@@ -48,6 +50,17 @@ TEST(DoorAnswer, NamesEveryStatusAndReason) {
     EXPECT_STREQ(zrproj_reason_name(ZRPROJ_OFF_THE_GRID), "off the grid");
     for (int const none : {3, 15, 21, 255})
         EXPECT_STREQ(zrproj_reason_name(static_cast<zrproj_reason>(none)), "");
+}
+
+TEST(DoorAnswer, BlamesMemoryForNothingElse) {
+    auto const statusOf = [](auto const& exception) {
+        return Door::answer([&]() -> Door::Answer { throw exception; });
+    };
+    EXPECT_EQ(statusOf(std::length_error("vector")), ZRPROJ_NO_MEMORY);
+    EXPECT_STREQ(zrproj_message(), "out of memory");
+    EXPECT_EQ(statusOf(std::runtime_error("no cause")), ZRPROJ_UNSUPPORTED);
+    EXPECT_STREQ(zrproj_message(), "a fault of the library: no cause");
+    EXPECT_EQ(statusOf(1), ZRPROJ_UNSUPPORTED);
 }
 
 TEST(DoorAnswer, TellsOneLineOfWholeCharacters) {

@@ -1,5 +1,7 @@
 #include "door/handles.h"
 
+#include <algorithm>
+#include <span>
 #include <vector>
 
 using namespace ZrProj;
@@ -44,6 +46,23 @@ TEST(DoorClip, CutsAsTheRecordInterfaceDoes) {
     ASSERT_EQ(listed(ring).size(), 1U);
     EXPECT_EQ(listed(ring)[0].isRing, 1);
     EXPECT_EQ(listed(ring)[0].count, 403U);
+}
+
+// The map's edges count from its central meridian, the points do not.
+TEST(DoorClip, LeavesWhatIsNotCutAsItIs) {
+    auto const world = made<System>([&](zrproj_system** s) {
+        return zrproj_system_create("+proj=robin +lon_0=-149.7 +datum=WGS84 +units=m +no_defs +type=crs", s);
+    });
+    double const track[] = {-170.1, 0.1, -160.2, 10.3, -155.3, 20.7, -100.7, 30.1, -70.9, 35.3};
+    double const eastOfGreenwich[] = {259.3, 30.1, 289.1, 35.3};
+    for (std::span<double const> const given :
+         {std::span<double const>(track), std::span<double const>(eastOfGreenwich)}) {
+        auto const pieces = made<Pieces>(
+            [&](zrproj_pieces** p) { return zrproj_clip_line(world.get(), given.data(), given.size() / 2, p); });
+        auto const list = listed(pieces);
+        ASSERT_EQ(list.size(), 1U);
+        EXPECT_TRUE(std::ranges::equal(std::span(list[0].points, 2 * list[0].count), given));
+    }
 }
 
 TEST(DoorClip, ShowsNothingOfWhatLiesBehindTheHorizon) {

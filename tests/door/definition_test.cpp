@@ -183,6 +183,11 @@ TEST(DoorDefinition, GoesBetweenSystemsOnOneDatum) {
     ASSERT_EQ(realization.status, ZRPROJ_OK);
     EXPECT_NE(describe(realization, &accuracy).find("taken as one"), std::string::npos);
     EXPECT_EQ(accuracy, 2);
+    zrproj_options const precise{sizeof precise, nullptr, 0, 1};
+    zrproj_transform* refused = nullptr;
+    EXPECT_EQ(zrproj_transform_create(systemOf("EPSG:9057").get(), systemOf("EPSG:4326").get(), &precise, &refused),
+              ZRPROJ_NO_PATH);
+    EXPECT_TRUE(std::string(zrproj_message()).ends_with(" to no more than 2 m")) << zrproj_message();
     EXPECT_EQ(wayBetween(systemOf("EPSG:4267"), systemOf("EPSG:4326")).status, ZRPROJ_NO_PATH);
     EXPECT_NE(std::string(zrproj_message()).find("North American Datum 1927"), std::string::npos);
     EXPECT_EQ(wayBetween(systemOf("+proj=longlat +ellps=WGS84"), systemOf("EPSG:4326")).status, ZRPROJ_NO_PATH);
