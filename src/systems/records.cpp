@@ -253,7 +253,8 @@ std::variant<Definition, Unsupported> definitionOf(PROJDATA const& record, Datum
     auto definition = projectedOn(base, projectionTable[static_cast<std::size_t>(record.Type)].name);
     definition.method = row->method;
     definition.unit = unitOfScale(work.Scale);
-    set(definition, {{Parameter::falseEasting, work.xOrg}, {Parameter::falseNorthing, work.yOrg}});
+    definition.parameters[Parameter::falseEasting] = work.xOrg; // by value: a packed record's members are not aligned
+    definition.parameters[Parameter::falseNorthing] = work.yOrg;
     return row->say(std::move(definition), work, parametersOf(work));
 }
 
