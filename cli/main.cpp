@@ -20,6 +20,7 @@ constexpr int usageStatus = 2;
 
 constexpr char const* overview = R"(Examples:
   echo -79.387139,43.642567 | zrproj forward --utm 17N
+  zrproj forward --crs EPSG:28992 places.csv
   zrproj forward --utm auto cities.csv > utm.csv
   zrproj inverse --utm auto utm.csv
   zrproj datum --from nad27 --to wgs84 survey.csv
@@ -54,9 +55,10 @@ constexpr std::array commandRows{
     CommandRow{"locate", "Convert image coordinates to longitudes and latitudes", makeLocate},
     CommandRow{"info", "Show what side files and tags say of a map or an image", makeInfo},
     CommandRow{"convert", "Convert side files and TIFF tags into each other", makeConvertFile},
-    CommandRow{"list", "List projections, parameters, ellipsoids, State Plane zones or datums", makeList},
+    CommandRow{"list", "List projections, parameters, ellipsoids, State Plane zones, datums or coordinate systems",
+               makeList},
     CommandRow{"map", "Draw a map, or one of every projection", makeMap},
-    CommandRow{"show", "Show the completed parameters of a projection", makeShow},
+    CommandRow{"show", "Show the completed parameters of a projection, or a coordinate system", makeShow},
     CommandRow{"grid", "Look at the grids of NADCON datums, and prepare them", makeGrid},
 };
 

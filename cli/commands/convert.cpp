@@ -90,7 +90,7 @@ void Convert::refuseBesideGeoJson(ProjectionChoice const& projection) const {
 int Convert::run(Output& output) {
     ProjectionChoice projection;
     if (m_direction != Direction::Datum)
-        projection = m_projection.choice(m_datums.mapFigure());
+        projection = m_projection.choice(m_datums.ofMap());
     int const decimals = readDecimals(m_precision, m_direction == Direction::Forward ? metreDecimals : degreeDecimals);
     ConversionJob job{projection, m_datums.shift(), columns(projection),
                       decimals,   m_strict,         filesOrStandardInput(m_files)};

@@ -20,7 +20,7 @@ public:
                       "A reference, RSF or world file, or an image: a TIFF file, or one that has such files")
             .require();
         line.argument("OUT", m_out,
-                      "The file to write, of the kind that its extension tells: zrr, rsf, wld, tfw ...; or a TIFF "
+                      "The file to write, of the kind that its extension tells: zrr, rsf, wld, tfw, prj ...; or a TIFF "
                       "file that is there, whose tags are set")
             .require();
         m_projection.addTo(line);
@@ -35,7 +35,7 @@ public:
         auto const out = isTiffFile(m_out) ? MapFile{FileKind::GeoTiff, m_out} : sideFile(m_out);
         if (!out)
             throw UsageError(inQuotes(m_out) + " is no TIFF file that is there, and no name of a side file; end it in "
-                                               ".zrr, .rsf, .wld or the like");
+                                               ".zrr, .rsf, .wld, .prj or the like");
         Misfit const misfit = m_acceptMisfit ? Misfit::Accepted : Misfit::Refused;
         for (std::string const& note : out->write(map(), misfit))
             std::fprintf(stderr, "zrproj: %s: %s\n", inQuotes(m_out).c_str(), note.c_str());
@@ -66,24 +66,28 @@ private:
                 info = MapInfo(&datum, nullptr).with(info);
             }
         }
-        ProjectionChoice choice = m_projection.choice(figureOf(info).value_or(Figure()));
+        ProjectionChoice choice = m_projection.choice(datumOf(info));
         if (choice.zonePerPoint)
             throw UsageError("--utm auto is no projection of a map; name its zone");
+        if (choice.system) {
+            info = MapInfo(choice.system, "").with(info);
+            return;
+        }
         if (choice.unit)
             choice.record.Scale = 1 / choice.unit->metres;
         zrproj_parameters const projection = parametersOf(choice.record);
         info = MapInfo(&projection, nullptr).with(info);
     }
 
-    static std::optional<Figure> figureOf(MapInfo const& info) {
+    static MapDatum datumOf(MapInfo const& info) {
         if (!info.tells(ZRPROJ_DATUM))
-            return std::nullopt;
+            return {};
         zrproj_parameters const told = info.datum();
         Datum datum{"", static_cast<DatumType>(told.datum)};
         datum.record.Ellipsoid = static_cast<EllipsoidType>(told.ellipsoid);
         datum.record.MajorRadius = told.radius;
         datum.record.Flattening = told.flattening;
-        return Command::figureOf(datum);
+        return mapDatumOf(datum);
     }
 
     std::string m_in, m_out, m_datum;

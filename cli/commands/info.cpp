@@ -1,6 +1,7 @@
 // zrproj info: what a side file, or the side files and tags of an image, say.
 #include "cli/commands/commands.h"
 #include "cli/files/map_info.h"
+#include "cli/files/side_files.h"
 #include "cli/model/datums.h"
 #include "cli/model/parameters.h"
 
@@ -83,7 +84,7 @@ class Info : public Subcommand {
 public:
     explicit Info(CommandLine line) {
         line.argument("FILE", m_file,
-                      "A reference, RSF or world file, or an image: a TIFF file, or one that has such files")
+                      "A reference, RSF, world or .prj file, or an image: a TIFF file, or one that has such files")
             .require();
     }
 
@@ -95,6 +96,8 @@ public:
             writeSources(output, m_file, info);
         Table table{{}, "ll", {}};
         if (info.tells(ZRPROJ_PROJECTION))
+            addSystem(table, info);
+        if (info.hasRecord())
             addProjection(table, info.projection());
         if (info.tells(ZRPROJ_DATUM))
             addDatum(table, info.datum());
@@ -107,6 +110,16 @@ public:
     }
 
 private:
+    /// Of records only what the register has.
+    static void addSystem(Table& table, MapInfo const& info) {
+        try {
+            SystemPointer const system = systemOf(info);
+            if (info.system() || !system->code().empty())
+                table.rows.push_back({"System", system->title()});
+        } catch (std::runtime_error const&) { // a record that makes none is told by its numbers all the same
+        }
+    }
+
     static void addProjection(Table& table, PROJDATA const& projection) {
         Table rows{{}, "lll", {}};
         addParameterRows(rows, projection);

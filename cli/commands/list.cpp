@@ -3,7 +3,9 @@
 #include "cli/model/datums.h"
 #include "cli/model/parameters.h"
 #include "cli/model/zones.h"
+#include "cli/points/fields.h"
 #include "cli/text/name_match.h"
+#include "cli/text/numbers.h"
 #include "cli/text/output.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
@@ -136,8 +138,21 @@ Table findTable(std::string const& text) {
     NameMatch const result = matchName(text, names);
     if (result.match != Match::One)
         throw UsageError("there is no list " + inQuotes(text) +
-                         "; there are projections, parameters, ellipsoids, zones, datums");
+                         "; there are projections, parameters, ellipsoids, zones, datums, systems");
     return catalogues[static_cast<std::size_t>(result.found.front())].table();
+}
+
+std::array<double, 2> readPlace(std::string const& text) {
+    auto const fields = fieldTexts(text, ',');
+    std::array<double, 2> place{};
+    for (std::size_t i = 0; i < place.size(); ++i) {
+        Reading const number = fields.size() == 2 ? readAngle(fields[i], i == 0 ? Axis::Longitude : Axis::Latitude)
+                                                  : Reading{0, "one number"};
+        if (number.error)
+            throw UsageError("--at: " + inQuotes(text) + " is no place: write a longitude and a latitude, as in 6,53");
+        place[i] = number.value;
+    }
+    return place;
 }
 
 /// Keeps the rows that hold the text in one of their cells.
@@ -150,31 +165,61 @@ void filter(Table& table, std::string const& text) {
     table.rows.erase(std::remove_if(table.rows.begin(), table.rows.end(), lacks), table.rows.end());
 }
 
+/// The systems of the register with these words in their names, or that code, and with the place in their area of use.
+Table systems(std::string const& words, std::string const& at) {
+    std::optional<std::array<double, 2>> place;
+    if (!at.empty())
+        place = readPlace(at);
+    std::size_t count = 0;
+    zrproj_register_search(words.c_str(), place ? place->data() : nullptr, nullptr, 0, &count);
+    std::vector<std::size_t> entries(count);
+    if (zrproj_register_search(words.c_str(), place ? place->data() : nullptr, entries.data(), count, &count) !=
+        ZRPROJ_OK)
+        throw UsageError("--at: " + inQuotes(at) + " is no place: write a longitude and a latitude, as in 6,53");
+    Table table{{"Code", "Kind", "System"}, "rll", {}};
+    for (std::size_t const entry : entries) {
+        int code = 0;
+        char const *name = nullptr, *kind = nullptr;
+        zrproj_register_entry(entry, &code, &name, &kind);
+        table.rows.push_back({std::to_string(code), kind, name});
+    }
+    return table;
+}
+
 class List : public Subcommand {
 public:
     explicit List(CommandLine line) {
-        line.argument("CATALOGUE", m_catalogue, "projections, parameters, ellipsoids, zones (State Plane) or datums")
+        line.argument("CATALOGUE", m_catalogue,
+                      "projections, parameters, ellipsoids, zones (State Plane), datums, or systems (of the register)")
             .require();
-        line.argument("TEXT", m_text, "Only the entries that have this text in them");
+        line.argument("TEXT", m_text, "Only the entries that have this text in them; of systems, all of these words");
+        m_atOption = line.option("--at", m_at, "LON,LAT", "Only systems whose area of use has this place");
     }
 
     int run(Output& output) override {
-        Table table = findTable(m_catalogue);
-        filter(table, m_text);
+        bool const ofRegister = m_catalogue == "systems";
+        if (m_atOption.isGiven() && !ofRegister)
+            throw UsageError("--at goes with the list of systems");
+        Table table = ofRegister ? systems(m_text, m_at) : findTable(m_catalogue);
+        if (!ofRegister)
+            filter(table, m_text);
         if (table.rows.empty())
-            throw UsageError("nothing in the list of " + m_catalogue + " has the text " + inQuotes(m_text));
+            throw UsageError("nothing in the list of " + m_catalogue + " has the text " + inQuotes(m_text) +
+                             (m_at.empty() ? "" : " at " + m_at));
         table.write(output);
         return 0;
     }
 
 private:
-    std::string m_catalogue, m_text;
+    std::string m_catalogue, m_text, m_at;
+    Option m_atOption;
 };
 
 } // namespace
 
 std::unique_ptr<Subcommand> makeList(CommandLine line) {
-    line.footer("Example: the zones of California with their codes\n  zrproj list zones california");
+    line.footer("Example: the zones of California with their codes\n  zrproj list zones california\n"
+                "Example: the coordinate systems of a place\n  zrproj list systems utm --at 6.5,53.2");
     return std::make_unique<List>(line);
 }
 

@@ -26,10 +26,13 @@ public:
     }
 
     int run(Output& output) override {
-        ColumnRequest columns{Direction::Inverse, {}, &lengthUnits.front(), false};
+        ProjectionChoice const choice = this->choice();
+        // Image coordinates become map coordinates in the map's own unit.
+        LengthUnit const& unit = choice.system && choice.unit ? *choice.unit : lengthUnits.front();
+        ColumnRequest columns{Direction::Inverse, {}, &unit, false};
         if (!m_columns.empty())
             columns.columns = parseColumns(m_columns, false);
-        ConversionJob job{choice(), {}, columns, degreeDecimals, false, filesOrStandardInput(m_files)};
+        ConversionJob job{choice, {}, columns, degreeDecimals, false, filesOrStandardInput(m_files)};
         return convertPoints(job, output);
     }
 
@@ -41,15 +44,15 @@ private:
             throw UsageError("nothing says how " + inQuotes(m_image) + " lies on the map");
         if (!m_projection.any() && !info.tells(ZRPROJ_PROJECTION))
             throw UsageError("nothing says in which projection " + inQuotes(m_image) + " is" + reasons(info) +
-                             "; give --utm, --state-plane, --projection or --like");
+                             "; give --crs, --utm, --state-plane, --projection or --like");
         ProjectionChoice choice;
         if (m_projection.any())
             choice = m_projection.choice();
         else
-            choice.record = info.projection();
+            setProjection(choice, info);
         if (choice.zonePerPoint)
             throw UsageError("--utm auto is no projection of an image; name its zone");
-        if (choice.unit)
+        if (choice.unit && !choice.system)
             choice.record.Scale = 1 / choice.unit->metres;
         warnOfMiss(info);
         zrproj_fit* fit = nullptr;
@@ -57,6 +60,14 @@ private:
             throw UsageError("the georeference of " + inQuotes(m_image) + " cannot be made");
         choice.image = {fit, zrproj_fit_destroy};
         return choice;
+    }
+
+    static void setProjection(ProjectionChoice& choice, MapInfo const& info) {
+        choice.system = info.system();
+        if (!choice.system)
+            choice.record = info.projection();
+        else if (!choice.system->isGeographic())
+            choice.unit = &choice.system->unit();
     }
 
     /// Of a similarity, which may have been given no choice: an RSF file says no other method.

@@ -114,8 +114,10 @@ MapPicture Map::picture() {
     if (choice.zonePerPoint)
         throw UsageError("--utm auto is one projection for each zone; name a zone to draw it");
     MapContent drawn = content();
-    drawn.title = m_titleOption.isGiven() ? m_title : projectionName(choice.record.Type);
-    return drawMap(choice.record, drawn, size, "");
+    drawn.title = m_titleOption.isGiven() ? m_title
+                  : choice.system         ? choice.system->text(ZRPROJ_NAME)
+                                          : projectionName(choice.record.Type);
+    return drawMap(choice, drawn, size, "");
 }
 
 int Map::run(Output& output) {

@@ -98,12 +98,16 @@ ProjectionOptions::ProjectionOptions() {
 
 void ProjectionOptions::addTo(CommandLine line) {
     CommandLine const group = line.inGroup("Projection");
+    m_crsOption = group.option("--crs", m_crs, "SYSTEM",
+                               "A coordinate system: a code as EPSG:28992, a name, well-known text, PROJJSON, a PROJ "
+                               "string, or a file with one of them");
     m_utmOption = group.option("--utm", m_utm, "ZONE", "UTM zone, as in 17N; auto: each point in its own zone");
     m_statePlaneOption =
         group.option("--state-plane", m_statePlane, "ZONE", "US State Plane zone, by name, USGS code or POSC code");
     m_yearOption =
         group.option("--year", m_year, "YEAR", "Definition of the State Plane zone: 1927 or 1983 (the default)");
-    m_likeOption = group.option("--like", m_like, "FILE", "The projection of a map: its reference file, or its image");
+    m_likeOption =
+        group.option("--like", m_like, "FILE", "The projection of a map: its reference or .prj file, or its image");
     Value& projection = m_values.front();
     projection.option = group.option("-p,--projection", projection.text, "NAME",
                                      "Any projection, by name (a unique part will do) or number, with its parameters");
@@ -148,12 +152,12 @@ void ProjectionOptions::startFromUtm(ProjectionChoice& choice) const {
 
 ProjType ProjectionOptions::givenProjection() const {
     if (!given(ProjParamType))
-        throw UsageError("no projection; give --utm, --state-plane, --projection or --like");
+        throw UsageError("no projection; give --crs, --utm, --state-plane, --projection or --like");
     return findProjection(value(ProjParamType).text);
 }
 
 /// Sets the projection's type, and what a zone tells of it.
-void ProjectionOptions::startFrom(ProjectionChoice& choice) const {
+void ProjectionOptions::startFrom(ProjectionChoice& choice, std::optional<int> yearOfDatum) const {
     bool const utm = m_utmOption.isGiven(), statePlane = m_statePlaneOption.isGiven();
     if (utm + statePlane + given(ProjParamType) > 1)
         throw UsageError("more than one projection; give one of --utm, --state-plane and --projection");
@@ -169,8 +173,12 @@ void ProjectionOptions::startFrom(ProjectionChoice& choice) const {
         throw UsageError(statePlane ? "--state-zone has no place beside --state-plane, which tells it"
                                     : "the projection needs --state-zone");
     auto const impliedYear = choice.record.Type == ProjTypeStatePlane1927 ? 1927 : 1983;
-    StatePlaneZone const zone = statePlane ? findStatePlaneZone(m_statePlane, zoneYear)
+    StatePlaneZone const zone = statePlane ? findStatePlaneZone(m_statePlane, zoneYear ? zoneYear : yearOfDatum)
                                            : findStatePlaneZone(value(ProjParamZone).text, impliedYear);
+    if (yearOfDatum && (zone.type == ProjTypeStatePlane1927) != (yearOfDatum == 1927))
+        throw UsageError("the zone is defined on the North American Datum 1" +
+                         std::string(zone.type == ProjTypeStatePlane1927 ? "927" : "983") + ", and --datum says " +
+                         std::to_string(*yearOfDatum));
     choice.record.Type = zone.type;
     choice.record.Zone = zone.zone;
 }
@@ -211,38 +219,81 @@ void ProjectionOptions::setValues(PROJDATA& record) const {
 }
 
 bool ProjectionOptions::any() const {
-    return m_utmOption.isGiven() || m_statePlaneOption.isGiven() || m_yearOption.isGiven() || m_likeOption.isGiven() ||
+    return m_crsOption.isGiven() || m_utmOption.isGiven() || m_statePlaneOption.isGiven() || m_yearOption.isGiven() ||
+           m_likeOption.isGiven() ||
            std::ranges::any_of(m_values, [](Value const& value) { return value.option.isGiven(); });
 }
 
-/// The projection that a file tells, with all of its parameters.
-PROJDATA ProjectionOptions::projectionLike() const {
-    for (Option const& option : {m_utmOption, m_statePlaneOption, m_yearOption})
-        if (option.isGiven())
-            throw UsageError(option.name() + " has no place beside --like, which tells it");
+/// Refuses what an option tells already.
+void ProjectionOptions::refuseOthers(Option const& than) const {
+    auto const refuse = [&](std::string const& name) {
+        throw UsageError(name + " has no place beside " + than.name() + ", which tells it");
+    };
+    for (Option const& option : {m_crsOption, m_likeOption, m_utmOption, m_statePlaneOption, m_yearOption})
+        if (option.isGiven() && option.name() != than.name())
+            refuse(option.name());
     for (Value const& value : m_values)
         if (given(value.id))
-            throw UsageError(parameter(value.id).option + " has no place beside --like, which tells it");
-    MapInfo const info = readMap(m_like);
-    if (!info.tells(ZRPROJ_PROJECTION))
-        throw UsageError("--like: " + inQuotes(m_like) + " tells no projection");
-    return info.projection();
+            refuse(parameter(value.id).option);
 }
 
-ProjectionChoice ProjectionOptions::choice(Figure const& standard) const {
+/// A system has its own unit.
+ProjectionChoice choiceOf(SystemPointer system) {
     ProjectionChoice choice;
-    if (m_likeOption.isGiven()) {
-        choice.record = projectionLike();
-        choice.unit = takeUnit(choice.record);
-        check(choice.record);
-        return choice;
-    }
-    startFrom(choice);
+    choice.unit = system->isGeographic() ? nullptr : &system->unit();
+    choice.system = std::move(system);
+    return choice;
+}
+
+ProjectionChoice ProjectionOptions::choiceOfSystem(MapDatum const& datum) const {
+    refuseOthers(m_crsOption);
+    if (datum.isGiven)
+        throw UsageError("a datum has no place beside --crs, which tells it");
+    return choiceOf(systemNamed(m_crs));
+}
+
+/// The projection that a file tells, with all of its parameters.
+ProjectionChoice ProjectionOptions::choiceLike() const {
+    refuseOthers(m_likeOption);
+    MapInfo const info = readMap(m_like);
+    if (info.system())
+        return choiceOf(info.system());
+    if (!info.tells(ZRPROJ_PROJECTION))
+        throw UsageError("--like: " + inQuotes(m_like) + " tells no projection");
+    ProjectionChoice choice;
+    choice.record = info.projection();
+    choice.unit = takeUnit(choice.record);
+    check(choice.record);
+    return choice;
+}
+
+ProjectionChoice ProjectionOptions::choice(MapDatum const& datum) const {
+    if (m_crsOption.isGiven())
+        return choiceOfSystem(datum);
+    if (m_likeOption.isGiven())
+        return choiceLike();
+    ProjectionChoice choice;
+    startFrom(choice, datum.year);
     refuseUnused(choice.record.Type);
-    setEllipsoid(choice.record, standard);
+    setEllipsoid(choice.record, datum.figure);
     setValues(choice.record);
     check(choice.record);
     return choice;
+}
+
+/// Of the North American Datums the year, as the zones are defined on them.
+MapDatum mapDatumOf(Datum const& datum) {
+    MapDatum result;
+    result.isGiven = true;
+    result.figure = figureOf(datum).value_or(Figure());
+    if (datum.isOwn())
+        return result;
+    std::string const name = datumName(datum.type);
+    for (int const year : {1927, 1983})
+        if (name.starts_with("North American Datum " + std::to_string(year)) ||
+            name.starts_with("NAD " + std::to_string(year)))
+            result.year = year;
+    return result;
 }
 
 namespace {
@@ -298,15 +349,14 @@ std::optional<DatumShift> DatumOptions::shift() const {
     return DatumShift{findDatum(m_from, own), findDatum(m_to, own)};
 }
 
-Figure DatumOptions::mapFigure() const {
+MapDatum DatumOptions::ofMap() const {
     std::string const& map = m_direction == Direction::Forward ? m_to : m_from;
     if (map.empty())
         return {};
     Datum const datum = findDatum(map, defined());
-    auto const figure = figureOf(datum);
-    if (!figure)
+    if (!figureOf(datum))
         throw UsageError("the datum \"" + datum.name + "\" has no ellipsoid");
-    return *figure;
+    return mapDatumOf(datum);
 }
 
 } // namespace ZrProj::Command

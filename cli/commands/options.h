@@ -21,6 +21,16 @@ int readDecimals(std::string const& text, int standard);
 /// The files to read: standard input where none is given.
 std::vector<std::string> filesOrStandardInput(std::vector<std::string> const& files);
 
+/// What the datum of a map tells of its projection.
+struct MapDatum {
+    bool isGiven = false;
+    Figure figure{};           // the ellipsoid where no option tells one
+    std::optional<int> year{}; // of the State Plane zones on it
+};
+
+/// Of a datum; a figure where it has one.
+MapDatum mapDatumOf(Datum const& datum);
+
 /// The options that say which projection: by its parameters, by a UTM or State Plane zone, or by a file that tells.
 class ProjectionOptions {
 public:
@@ -37,9 +47,8 @@ public:
     /// The file of --like; empty for none.
     std::string const& likeFile() const { return m_like; }
 
-    /// What the options say, checked; `standard` is the ellipsoid where they tell none. Throws UsageError when they are
-    /// no usable projection.
-    ProjectionChoice choice(Figure const& standard = {}) const;
+    /// What the options say, checked. Throws UsageError when they are no usable projection, or contradict the datum.
+    ProjectionChoice choice(MapDatum const& datum = {}) const;
 
 private:
     struct Value {
@@ -48,8 +57,10 @@ private:
         std::string text;
     };
 
-    PROJDATA projectionLike() const;
-    void startFrom(ProjectionChoice& choice) const;
+    void refuseOthers(Option const& than) const;
+    ProjectionChoice choiceOfSystem(MapDatum const& datum) const;
+    ProjectionChoice choiceLike() const;
+    void startFrom(ProjectionChoice& choice, std::optional<int> yearOfDatum) const;
     void startFromUtm(ProjectionChoice& choice) const;
     ProjType givenProjection() const;
     Value const& value(int id) const { return m_values[static_cast<std::size_t>(id - 1)]; }
@@ -60,8 +71,8 @@ private:
     void setValues(PROJDATA& record) const;
 
     std::vector<Value> m_values; // one a catalogue parameter, in catalogue order
-    Option m_utmOption, m_statePlaneOption, m_yearOption, m_likeOption;
-    std::string m_utm, m_statePlane, m_year, m_like;
+    Option m_crsOption, m_utmOption, m_statePlaneOption, m_yearOption, m_likeOption;
+    std::string m_crs, m_utm, m_statePlane, m_year, m_like;
 };
 
 /// --from and --to of a conversion between datums; beside a projection, the datum of the map is --datum, and that of
@@ -76,8 +87,8 @@ public:
     /// What they ask for; nothing where no datum is to be changed. Throws UsageError when it cannot be followed.
     std::optional<DatumShift> shift() const;
 
-    /// The figure of the map's datum; WGS 84's where none is given.
-    Figure mapFigure() const;
+    /// The map's datum; WGS 84's figure where none is given.
+    MapDatum ofMap() const;
 
 private:
     std::vector<Datum> defined() const;

@@ -30,11 +30,31 @@ MapInfo::MapInfo(zrproj_parameters const* parameters, zrproj_georeference const*
     : MapInfo(
           of([&](zrproj_description** made) { return zrproj_description_create(parameters, georeference, made); })) {}
 
+/// Tags may say a system that no record can.
+MapInfo::MapInfo(zrproj_description* description) : m_description(description) {
+    zrproj_system* system = nullptr;
+    if (description && !hasRecord() && zrproj_description_system(description, &system) == ZRPROJ_OK)
+        m_system = std::make_shared<System const>(system);
+}
+
+MapInfo::MapInfo(SystemPointer system, std::string file) : m_system(std::move(system)), m_systemFile(std::move(file)) {
+    zrproj_parameters parameters{};
+    parameters.size = sizeof parameters;
+    bool const isSaid = zrproj_system_parameters(m_system->handle(), &parameters) == ZRPROJ_OK;
+    m_description = MapInfo(isSaid ? &parameters : nullptr, nullptr).m_description;
+}
+
 std::optional<std::string> MapInfo::fileOf(zrproj_part part) const {
+    if (m_system && part == ZRPROJ_PROJECTION)
+        return m_systemFile;
     char const* file = nullptr;
     if (zrproj_description_source(handle(), part, &file) != ZRPROJ_OK)
         return std::nullopt;
-    return file;
+    return m_system && part == ZRPROJ_DATUM && *file == '\0' ? m_systemFile : file;
+}
+
+bool MapInfo::hasRecord() const {
+    return zrproj_description_source(handle(), ZRPROJ_PROJECTION, nullptr) == ZRPROJ_OK;
 }
 
 std::vector<std::string> MapInfo::notes() const {
@@ -57,8 +77,23 @@ zrproj_georeference MapInfo::georeference() const {
     return filled(zrproj_description_georeference, *this);
 }
 
+MapInfo MapInfo::withoutSystem() const {
+    if (!tells(ZRPROJ_GEOREFERENCE))
+        return {};
+    zrproj_georeference const georeference = this->georeference();
+    return {nullptr, &georeference};
+}
+
+/// Records of another system do not stand beside a definition.
 MapInfo MapInfo::with(MapInfo const& later) const {
-    return of([&](zrproj_description** made) { return zrproj_description_combine(handle(), later.handle(), made); });
+    MapInfo const rest = m_system && !hasRecord() ? later.withoutSystem() : MapInfo();
+    MapInfo const& added = m_system && !hasRecord() ? rest : later;
+    MapInfo all =
+        of([&](zrproj_description** made) { return zrproj_description_combine(handle(), added.handle(), made); });
+    MapInfo const& telling = tells(ZRPROJ_PROJECTION) ? *this : later;
+    all.m_system = telling.m_system;
+    all.m_systemFile = telling.m_systemFile;
+    return all;
 }
 
 void MapInfo::check(zrproj_status status) {
@@ -69,20 +104,34 @@ void MapInfo::check(zrproj_status status) {
 }
 
 char const* MapFile::title() const {
-    constexpr std::array titles{"reference file", "RSF file", "world file", "GeoTIFF tags"}; // by FileKind
+    constexpr std::array titles{"reference file", "RSF file", "world file", "GeoTIFF tags",
+                                "coordinate system"}; // by FileKind
     return titles.at(static_cast<std::size_t>(kind));
 }
 
 MapInfo MapFile::read() const {
+    if (kind == FileKind::Definition)
+        return {systemOfFile(name), name};
     return kind == FileKind::GeoTiff ? readTags(name) : readSideFile(*this);
 }
 
 std::vector<std::string> MapFile::write(MapInfo const& info, Misfit misfit) const {
-    return kind == FileKind::GeoTiff ? writeTags(name, info) : writeSideFile(*this, info, misfit);
+    if (kind == FileKind::Definition)
+        return writeDefinition(name, info);
+    bool const isLeftOut = info.system() && !info.hasRecord();
+    if (isLeftOut && !info.tells(ZRPROJ_GEOREFERENCE))
+        throw std::runtime_error("cannot write " + inQuotes(name) + ": no record says the system " +
+                                 info.system()->title());
+    auto notes = kind == FileKind::GeoTiff ? writeTags(name, info) : writeSideFile(*this, info, misfit);
+    if (isLeftOut)
+        notes.push_back("the system " + info.system()->title() + " is left out: no record says it");
+    return notes;
 }
 
 std::optional<MapFile> sideFile(std::string const& name) {
     zrproj_side_file kind{};
+    if (isPrjName(name))
+        return MapFile{FileKind::Definition, name};
     if (isTiffFile(name) || zrproj_side_file_kind(name.c_str(), &kind) != ZRPROJ_OK)
         return std::nullopt;
     return MapFile{static_cast<FileKind>(kind), name};

@@ -1,6 +1,8 @@
 // What files say of a map: its projection, datum and georeference, and which file said so.
 #pragma once
 
+#include "cli/model/system.h"
+
 #include <zrproj/c.h>
 #include <zrproj/zrproj.h>
 
@@ -26,13 +28,20 @@ public:
         return MapInfo(description);
     }
 
+    /// Of a definition in a file, and of what records can say of it.
+    MapInfo(SystemPointer system, std::string file);
+
     bool tells(zrproj_part part) const { return fileOf(part).has_value(); }
     /// The file that tells a part, "" for what no file tells; nothing where the part is not told.
     std::optional<std::string> fileOf(zrproj_part part) const;
     /// What files say that no record can hold.
     std::vector<std::string> notes() const;
 
-    /// Of parts that are told.
+    /// The system, where a definition or tags tell one that records need not say; null for none.
+    SystemPointer const& system() const { return m_system; }
+    bool hasRecord() const;
+
+    /// Of parts that are told by records.
     PROJDATA projection() const;
     zrproj_parameters datum() const;
     zrproj_georeference georeference() const; // its points live as long as this
@@ -50,9 +59,13 @@ private:
         void operator()(zrproj_description* description) const { zrproj_description_destroy(description); }
     };
 
-    explicit MapInfo(zrproj_description* description) : m_description(description) {}
+    explicit MapInfo(zrproj_description* description);
+
+    MapInfo withoutSystem() const;
 
     std::unique_ptr<zrproj_description, Destroyer> m_description;
+    SystemPointer m_system;
+    std::string m_systemFile;
 };
 
 /// What to do where a file says of control points that they are fitted in a way that misses them widely.
@@ -63,7 +76,8 @@ enum class FileKind {
     Reference = ZRPROJ_REFERENCE_FILE,
     Rsf = ZRPROJ_RSF_FILE,
     World = ZRPROJ_WORLD_FILE,
-    GeoTiff // the tags of a TIFF file
+    GeoTiff,   // the tags of a TIFF file
+    Definition // a .prj file
 };
 
 struct MapFile {

@@ -1,7 +1,10 @@
 #include "cli/files/side_files.h"
 
+#include "cli/files/plain_file.h"
 #include "cli/text/text.h"
 
+#include <array>
+#include <filesystem>
 #include <memory>
 #include <stdexcept>
 
@@ -42,6 +45,17 @@ void refuseWide(MapFile const& file, std::optional<ControlMiss> const& miss, std
                                  "; --accept-misfit writes it all the same");
 }
 
+/// The .prj file beside an image or a file of shapes, "" for none.
+std::string prjOf(std::string const& image) {
+    for (char const* extension : {".prj", ".PRJ"}) {
+        auto const prj = std::filesystem::path(image).replace_extension(extension).string();
+        std::error_code none;
+        if (std::filesystem::is_regular_file(prj, none))
+            return prj;
+    }
+    return "";
+}
+
 } // namespace
 
 std::vector<MapFile> sideFilesOf(std::string const& image) {
@@ -54,7 +68,13 @@ std::vector<MapFile> sideFilesOf(std::string const& image) {
     char const* path = nullptr;
     while (zrproj_side_files_entry(files, found.size(), &kind, &path) == ZRPROJ_OK)
         found.push_back({static_cast<FileKind>(kind), path});
+    if (auto const prj = prjOf(image); !prj.empty())
+        found.push_back({FileKind::Definition, prj});
     return found;
+}
+
+bool isPrjName(std::string const& name) {
+    return squeezed(std::filesystem::path(name).extension().string()) == squeezed(".prj");
 }
 
 MapInfo readSideFile(MapFile const& file) {
@@ -75,6 +95,24 @@ std::vector<std::string> writeSideFile(MapFile const& file, MapInfo const& info,
     if (!words.empty() && !notes.empty())
         notes.back() += ", " + words;
     return notes;
+}
+
+/// As ESRI writes it, which is what .prj files are read for everywhere.
+std::vector<std::string> writeDefinition(std::string const& name, MapInfo const& info) {
+    if (!info.tells(ZRPROJ_PROJECTION))
+        throw std::runtime_error("there is no projection to write to " + inQuotes(name));
+    writeWholeFile(name, systemOf(info)->text(ZRPROJ_WKT_ESRI) + '\n');
+    if (info.tells(ZRPROJ_GEOREFERENCE))
+        return {"the georeference is left out: the format has none"};
+    return {};
+}
+
+SystemPointer systemOf(MapInfo const& info) {
+    if (info.system())
+        return info.system();
+    zrproj_system* system = nullptr;
+    MapInfo::check(zrproj_description_system(info.handle(), &system));
+    return std::make_shared<System const>(system);
 }
 
 } // namespace ZrProj::Command

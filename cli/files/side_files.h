@@ -1,4 +1,4 @@
-// Reference, RSF and world files as the command reads and writes them: under the very names that its user gives.
+// Reference, RSF, world and .prj files as the command reads and writes them: under the very names that its user gives.
 #pragma once
 
 #include "cli/files/map_info.h"
@@ -12,5 +12,13 @@ std::vector<MapFile> sideFilesOf(std::string const& image);
 /// MapFile's read and write, of a side file.
 MapInfo readSideFile(MapFile const& file);
 std::vector<std::string> writeSideFile(MapFile const& file, MapInfo const& info, Misfit misfit);
+
+/// Whether a file is called as a .prj file, which holds a definition.
+bool isPrjName(std::string const& name);
+std::vector<std::string> writeDefinition(std::string const& name, MapInfo const& info);
+
+/// The system that a definition or records tell, of a map whose projection is told. Throws std::runtime_error for
+/// records that make none.
+SystemPointer systemOf(MapInfo const& info);
 
 } // namespace ZrProj::Command

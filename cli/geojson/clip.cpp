@@ -49,7 +49,7 @@ struct Detour {
 
 /// Finds a detour along a bridge that the map shows whole. Neither end is on the map's edge: there the cut moves it, a
 /// little inside, and not to the last digit the same on both ways.
-std::optional<Detour> findDetour(CProjector& map, Places const& ring, Places hole) {
+std::optional<Detour> findDetour(System const& map, Places const& ring, Places hole) {
     constexpr std::size_t tried = 16; // of either
     std::size_t const step = ring.size() / tried + 1, holeStep = hole.size() / tried + 1;
     for (std::size_t i = 0; i < ring.size(); i += step)
@@ -206,11 +206,11 @@ std::vector<Paths> polygonsOf(Coordinates const& coordinates, int depth) {
     return polygons;
 }
 
-Paths cutLine(CProjector& map, Path const& line) {
+Paths cutLine(System const& map, Path const& line) {
     return pathsOf(preclipLine(map, line.points), line);
 }
 
-Paths cutPolygon(CProjector& map, Paths const& rings) {
+Paths cutPolygon(System const& map, Paths const& rings) {
     Paths result;
     Places const* outer = nullptr; // where the edge cuts it
     std::vector<Detour> detours;   // to the holes that it cuts

@@ -23,11 +23,11 @@ Paths linesOf(Coordinates const& coordinates);
 std::vector<Paths> polygonsOf(Coordinates const& coordinates, int depth);
 
 /// What the map shows of a line. Extras stay where nothing is cut.
-Paths cutLine(CProjector& map, Path const& line);
+Paths cutLine(System const& map, Path const& line);
 
 /// What the map shows of a polygon: the rings around it by the even-odd rule, in longitude and latitude. No two of them
 /// share a part of the map's edge. Extras stay on rings that are not cut.
-Paths cutPolygon(CProjector& map, Paths const& rings);
+Paths cutPolygon(System const& map, Paths const& rings);
 
 /// The coordinates of a LineString, made of one line or none, and of a MultiLineString.
 Coordinates lineAsCoordinates(Paths const& lines);

@@ -74,7 +74,7 @@ bool isGeoJsonName(std::string_view name) {
 GeoJsonConversion::GeoJsonConversion(ConversionJob job, bool clip, Output& output)
     : m_job(std::move(job)), m_output(output),
       m_transform(m_job.projection, m_job.columns.direction, clip ? std::nullopt : m_job.shift),
-      m_unit(m_job.unit(nullptr)), m_map(clip ? &m_transform.projector() : nullptr), m_progress(totalSize(m_job.files)),
+      m_unit(m_job.unit(nullptr)), m_map(clip ? &m_transform.map() : nullptr), m_progress(totalSize(m_job.files)),
       m_report(m_progress, "feature") {
     if (clip && m_job.shift)
         m_shift.emplace(ProjectionChoice(), Direction::Datum, m_job.shift);

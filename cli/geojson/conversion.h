@@ -48,7 +48,7 @@ private:
     std::optional<Transform> m_shift; // where that comes before the cutting
     Transform m_transform;
     LengthUnit const& m_unit;
-    CProjector* m_map; // to cut to; null for no cutting
+    System const* m_map; // to cut to; null for no cutting
     Progress m_progress;
     Report m_report;
 

@@ -67,7 +67,7 @@ std::string graticuleLayer(MapPaper& paper, double step) {
 /// What circles of 0.05 radii around every `step` degrees become, by the scales at their centres.
 std::string ellipseLayer(MapPaper& paper, double step) {
     std::string ellipses;
-    double const radius = circleRadius * paper.map().record().MajorRadius * paper.unit();
+    double const radius = circleRadius * paper.map().radius() * paper.unit();
     for (double const latitude : multiples(-90 + step / 2, 90 - step / 2, step))
         for (double const longitude : multiples(-180, 180 - step / 2, step)) {
             auto const at = paper.find({longitude, latitude});
@@ -156,8 +156,8 @@ std::string framed(MapPaper& paper, MapContent const& content, std::string const
 
 } // namespace
 
-MapPicture drawMap(PROJDATA const& record, MapContent const& content, double size, std::string const& id) {
-    MapProjection map(record);
+MapPicture drawMap(ProjectionChoice const& choice, MapContent const& content, double size, std::string const& id) {
+    MapProjection map(choice);
     MapFrame const frame = content.bounds ? frameAround(map, *content.bounds) : usualFrame(map);
     MapPaper paper(map, frame, size);
     double const top = content.title.empty() ? margin : titleHeight;

@@ -16,8 +16,8 @@ struct MapPicture {
 };
 
 /// size: of the map's longer side, in pixels. id: of the picture among others of the file, letters and digits.
-/// Throws UsageError when the record makes no map, or none within the bounds.
-MapPicture drawMap(PROJDATA const& record, MapContent const& content, double size, std::string const& id);
+/// Throws UsageError when the choice makes no map, or none within the bounds.
+MapPicture drawMap(ProjectionChoice const& choice, MapContent const& content, double size, std::string const& id);
 
 /// A picture as a file.
 std::string svgFile(MapPicture const& picture);

@@ -16,8 +16,19 @@ namespace {
 
 constexpr double nowhere = std::numeric_limits<double>::quiet_NaN();
 
-bool isShown(PROJPOINT const& point) {
-    return point.x != DBL_MAX && point.y != DBL_MAX && std::isfinite(point.x) && std::isfinite(point.y);
+/// The central meridian of a record, or of its State Plane zone.
+double middleOf(PROJDATA const& record) {
+    PROJDATA zone = record;
+    if (zone.Type == ProjTypeStatePlane1927 || zone.Type == ProjTypeStatePlane1983)
+        ProjGetStateZoneParams(&zone);
+    return zone.Lon0;
+}
+
+/// The middle of a system's area of use.
+double middleOf(System const& system) {
+    double west = 0, east = 0;
+    zrproj_system_area(system.handle(), &west, nullptr, &east, nullptr);
+    return west <= east ? (west + east) / 2 : (west + east) / 2 + 180;
 }
 
 /// The ring around half of the plane of longitude and latitude, with a point at each degree.
@@ -37,13 +48,11 @@ Places halfGlobe(double west) {
 
 } // namespace
 
-MapProjection::MapProjection(PROJDATA record) : m_record(record) {
-    if (record.Type == ProjTypeUnprojectedLatLong)
-        throw UsageError(projectionName(record.Type) + " leaves points as they are; there is no map to draw");
-    m_projector.Create(&record);
-    m_projector.GetInfo(&m_record);
+MapProjection::MapProjection(ProjectionChoice const& choice)
+    : m_map(mapOf(choice)), m_converter(m_map), m_middle(choice.system ? middleOf(*m_map) : middleOf(choice.record)) {
+    zrproj_system_ellipsoid(m_map->handle(), &m_radius, &m_flattening);
     if (outline().empty())
-        throw UsageError(noMapText(record));
+        throw UsageError(choice.system ? m_map->title() + " shows nothing" : noMapText(choice.record));
 }
 
 std::optional<PROJPOINT> MapProjection::shown(PROJPOINT place) {
@@ -52,34 +61,32 @@ std::optional<PROJPOINT> MapProjection::shown(PROJPOINT place) {
 }
 
 std::optional<MapPoint> MapProjection::at(PROJPOINT place) {
-    m_projector.Forward(&place, 1);
-    return isShown(place) ? std::optional(MapPoint{place.x, place.y}) : std::nullopt;
+    MapPoint const point = at(std::span(&place, 1)).front();
+    return std::isfinite(point.x) ? std::optional(point) : std::nullopt;
 }
 
 std::vector<MapPoint> MapProjection::at(std::span<PROJPOINT const> places) {
     Places points(places.begin(), places.end());
-    m_projector.Forward(points.data(), static_cast<int>(points.size()));
+    std::vector<PointState> states(points.size(), PointState::Good);
+    m_converter.forward(points, states);
     std::vector<MapPoint> result;
     result.reserve(points.size());
-    for (PROJPOINT const& point : points)
-        result.push_back(isShown(point) ? MapPoint{point.x, point.y} : MapPoint{nowhere, nowhere});
+    for (std::size_t i = 0; i < points.size(); ++i)
+        result.push_back(hasResult(states[i]) ? MapPoint{points[i].x, points[i].y} : MapPoint{nowhere, nowhere});
     return result;
 }
 
 std::vector<Places> MapProjection::cutLine(std::span<PROJPOINT const> line) {
-    return preclipLine(m_projector, line);
+    return preclipLine(*m_map, line);
 }
 
 std::vector<Places> MapProjection::cutArea(std::span<PROJPOINT const> ring) {
-    return preclipRing(m_projector, ring);
+    return preclipRing(*m_map, ring);
 }
 
 /// Where the two halves of the outline meet, and opposite to it: far from meridians where maps end.
 double MapProjection::seam() const {
-    PROJDATA zone = m_record;
-    if (zone.Type == ProjTypeStatePlane1927 || zone.Type == ProjTypeStatePlane1983)
-        ProjGetStateZoneParams(&zone);
-    return std::remainder(zone.Lon0 + 70.1234, 360);
+    return std::remainder(m_middle + 70.1234, 360);
 }
 
 std::vector<Places> MapProjection::outline() {
@@ -133,11 +140,10 @@ std::optional<MapPoint> slope(MapProjection& map, PROJPOINT const& before, PROJP
 std::optional<LocalScale> localScale(MapProjection& map, PROJPOINT place) {
     if (!(std::fabs(place.y) < 90 - 2 * step))
         return std::nullopt;
-    PROJDATA const& record = map.record();
-    double const latitude = place.y / radian, squared = record.Flattening * (2 - record.Flattening);
+    double const latitude = place.y / radian, squared = map.flattening() * (2 - map.flattening());
     double const w = 1 - squared * std::sin(latitude) * std::sin(latitude);
-    double const eastRadius = record.MajorRadius / std::sqrt(w) * std::cos(latitude);
-    double const northRadius = record.MajorRadius * (1 - squared) / (w * std::sqrt(w));
+    double const eastRadius = map.radius() / std::sqrt(w) * std::cos(latitude);
+    double const northRadius = map.radius() * (1 - squared) / (w * std::sqrt(w));
     auto const [x, y] = place;
     auto const east = slope(map, {x - step, y}, place, {x + step, y}, 2 * step / radian * eastRadius);
     auto const north = slope(map, {x, y - step}, place, {x, y + step}, 2 * step / radian * northRadius);

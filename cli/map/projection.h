@@ -3,6 +3,7 @@
 #pragma once
 
 #include "cli/model/projection.h"
+#include "cli/points/point_converter.h"
 #include "cli/text/svg.h"
 
 #include <optional>
@@ -13,11 +14,12 @@ namespace ZrProj::Command {
 
 class MapProjection {
 public:
-    /// record: one that ProjCheckParams accepts. Throws UsageError when it makes no map.
-    explicit MapProjection(PROJDATA record);
+    /// Throws UsageError when the choice makes no map.
+    explicit MapProjection(ProjectionChoice const& choice);
 
-    /// The record, completed.
-    PROJDATA const& record() const { return m_record; }
+    /// Of the ellipsoid: semi-major axis in metres.
+    double radius() const { return m_radius; }
+    double flattening() const { return m_flattening; }
 
     /// A place of the globe with its longitude as the formulas want it; nothing for one that the map does not show.
     std::optional<PROJPOINT> shown(PROJPOINT place);
@@ -39,8 +41,10 @@ public:
 private:
     double seam() const;
 
-    CProjector m_projector;
-    PROJDATA m_record;
+    SystemPointer m_map;
+    PointConverter m_converter;
+    double m_radius = 0, m_flattening = 0;
+    double m_middle; // a meridian about the map's middle, where it ends nowhere near
 };
 
 /// What a metre at a place becomes on the map: the steps to the east and to the north.

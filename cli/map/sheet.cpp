@@ -61,7 +61,7 @@ MapPicture drawSheet(MapContent content, double size) {
             rowHeight = 0;
         }
         content.title = projectionName(view.record.Type);
-        MapPicture const picture = drawMap(view.record, content, size / columns - 20, std::to_string(i));
+        MapPicture const picture = drawMap({.record = view.record}, content, size / columns - 20, std::to_string(i));
         sheet.elements += placed(picture, static_cast<double>(i % columns) * cell + (cell - picture.width) / 2, rowTop);
         rowHeight = std::max(rowHeight, picture.height);
     }

@@ -42,7 +42,14 @@ Transform::Transform(ProjectionChoice choice, Direction direction, std::optional
 
 /// Whether an image's coordinates lead to longitudes and latitudes already.
 bool Transform::isDirect() const {
-    return m_choice.image && m_choice.record.Type == ProjTypeUnprojectedLatLong;
+    bool const isGeographic =
+        m_choice.system ? m_choice.system->isGeographic() : m_choice.record.Type == ProjTypeUnprojectedLatLong;
+    return m_choice.image && isGeographic;
+}
+
+/// Metres a unit of the map's coordinates: those of a record are metres here, but in images.
+double Transform::unitOfMap() const {
+    return m_choice.system && !m_choice.system->isGeographic() ? m_choice.system->unit().metres : 1;
 }
 
 /// Image coordinates become projected ones.
@@ -62,10 +69,10 @@ void Transform::fromImage(PointBlock& block) const {
 PointConverter& Transform::converter(UtmZone zone) {
     auto& result = m_converters[static_cast<std::size_t>(zone)];
     if (!result) {
-        PROJDATA record = m_choice.record;
-        if (m_choice.zonePerPoint)
-            setUtmZone(record, zone);
-        result = std::make_unique<PointConverter>(record);
+        ProjectionChoice choice = m_choice;
+        if (choice.zonePerPoint)
+            setUtmZone(choice.record, zone);
+        result = std::make_unique<PointConverter>(mapOf(choice));
     }
     return *result;
 }
@@ -144,10 +151,10 @@ void Transform::run(PointBlock& block, LengthUnit const& unit) {
     switch (m_direction) {
     case Direction::Forward:
         shiftAndProject(block);
-        scale(block.points, 1 / unit.metres);
+        scale(block.points, unitOfMap() / unit.metres);
         break;
     case Direction::Inverse:
-        scale(block.points, unit.metres);
+        scale(block.points, unit.metres / unitOfMap());
         projectAndShift(block);
         break;
     case Direction::Datum:

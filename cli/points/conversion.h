@@ -41,11 +41,12 @@ public:
     /// Converts a block in place; `unit` is that of projected coordinates.
     void run(PointBlock& block, LengthUnit const& unit);
 
-    /// The projection, where all points have the same one.
-    CProjector& projector() { return converter(0).projector(); }
+    /// The system of the map, where all points have the same one.
+    System const& map() { return converter(0).map(); }
 
 private:
     bool isDirect() const;
+    double unitOfMap() const;
     void fromImage(PointBlock& block) const;
     void convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states);
     PointConverter& converter(UtmZone zone);

@@ -1,9 +1,12 @@
-// Points through one projection, with every result good or marked.
+// Points through one system's projection, with every result good or marked.
 #pragma once
+
+#include "cli/model/system.h"
 
 #include <zrproj/zrproj.h>
 
 #include <cstdint>
+#include <memory>
 #include <span>
 #include <vector>
 
@@ -25,36 +28,29 @@ constexpr bool hasResult(PointState state) {
            state == PointState::OffArea;
 }
 
-/// Converts points in place. Longitudes are taken on the side of the globe that the projection is centred on, and given
-/// back between -180 and 180. Only points in the state Good are converted, and others set to the library's mark; each
-/// that fails leaves with the reason as its state.
-///
-/// The Transverse Mercator family evaluates its series however far a point is from the central meridian. The results
-/// are good to the millimetre some 3 degrees from it, and to a metre at 10; points beyond are told to be Far. The
-/// inverse gives numbers even for coordinates that belong to no point: these are found by converting back.
+/// Converts points in place between a map and the longitudes and latitudes that it is based on, which come out between
+/// -180 and 180. Only points in the state Good are converted, and others set to the library's mark; each that fails
+/// leaves with the reason as its state.
 class PointConverter {
 public:
-    /// record: one that ProjCheckParams accepts. Throws UsageError when it makes no projection that can convert.
-    explicit PointConverter(PROJDATA record);
+    /// Throws UsageError for a geographic system.
+    explicit PointConverter(SystemPointer map);
 
-    void forward(std::span<PROJPOINT> points, std::span<PointState> states);
-    void inverse(std::span<PROJPOINT> points, std::span<PointState> states);
+    void forward(std::span<PROJPOINT> points, std::span<PointState> states) { convert(false, points, states); }
+    void inverse(std::span<PROJPOINT> points, std::span<PointState> states) { convert(true, points, states); }
 
-    CProjector& projector() { return m_projector; }
+    System const& map() const { return *m_map; }
 
 private:
-    using Method = bool (CProjector::*)(PROJPOINT*, int);
+    struct Destroy {
+        void operator()(zrproj_transform* transform) const { zrproj_transform_destroy(transform); }
+    };
 
-    double beside(double longitude) const;
-    void keepInside(std::span<PROJPOINT const> points, std::span<PointState> states);
-    void apply(Method method, std::span<PROJPOINT const> from, std::span<PROJPOINT> to);
-    void convert(Method method, std::span<PROJPOINT> points, std::span<PointState> states);
-    void refuseUnreturning(std::span<PROJPOINT const> points, std::span<PointState> states);
-    void tellFar(std::span<PROJPOINT const> points, std::span<PointState> states) const;
+    void convert(bool backwards, std::span<PROJPOINT> points, std::span<PointState> states);
 
-    CProjector m_projector;
-    PROJDATA m_record;
-    bool m_series;                           // of the Transverse Mercator family
-    std::vector<PROJPOINT> m_before, m_back; // the points as they came, and as they come back
+    SystemPointer m_map;
+    std::unique_ptr<zrproj_transform, Destroy> m_transform;
+    std::vector<unsigned char> m_reasons;
 };
+
 } // namespace ZrProj::Command

@@ -219,6 +219,13 @@ ZRPROJ_API zrproj_status zrproj_system_text(zrproj_system const* system, zrproj_
 ZRPROJ_API zrproj_status zrproj_system_area(zrproj_system const* system, double* west, double* south, double* east,
                                             double* north);
 
+/// The figure that a system's longitudes and latitudes lie on: semi-major axis in metres, and flattening. Outputs may
+/// be null.
+ZRPROJ_API zrproj_status zrproj_system_ellipsoid(zrproj_system const* system, double* radius, double* flattening);
+
+/// Metres a unit of a projected system's coordinates. ZRPROJ_UNKNOWN for a geographic system, whose unit is the degree.
+ZRPROJ_API zrproj_status zrproj_system_unit(zrproj_system const* system, double* metres);
+
 /// The parameters that a system stands for, completed: radius, flattening and scale factors, the false origin of a UTM
 /// zone. Of a system made of a definition those of the record that says the same, if any (a Transverse Mercator's is
 /// computed by the series, near its meridian only); the message tells of a datum that the catalogue does not have.

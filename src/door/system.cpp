@@ -287,6 +287,28 @@ zrproj_status zrproj_system_area(zrproj_system const* system, double* west, doub
     });
 }
 
+zrproj_status zrproj_system_ellipsoid(zrproj_system const* system, double* radius, double* flattening) {
+    return answer([&]() -> Answer {
+        if (!system)
+            return badArgument("null pointer to a system");
+        auto const& ellipsoid = system->definition.datum.ellipsoid;
+        give(radius, ellipsoid.semiMajor);
+        give(flattening, ellipsoid.inverseFlattening == 0 ? 0 : 1 / ellipsoid.inverseFlattening);
+        return {};
+    });
+}
+
+zrproj_status zrproj_system_unit(zrproj_system const* system, double* metres) {
+    return answer([&]() -> Answer {
+        if (!system || !metres)
+            return badArgument("null pointer");
+        if (system->projection->isGeographic())
+            return unknown("a geographic system's unit is the degree");
+        *metres = 1 / system->projection->conversion().scale;
+        return {};
+    });
+}
+
 zrproj_status zrproj_system_parameters(zrproj_system const* system, zrproj_parameters* parameters) {
     return answer([&]() -> Answer {
         if (!system || !hasKnownSize(parameters))

@@ -80,7 +80,7 @@ cmp -s <("$zrproj" map --projection robinson) \
 
 check 'no projection' 2 '' 'zrproj: no projection*' map
 check 'all and one' 2 '' 'zrproj: --all has no place*' map --all --projection 1
-check 'no map' 2 '' 'zrproj: Unprojected*no map to draw' map --projection 0
+check 'no map' 2 '' 'zrproj: Unprojected*there is no map' map --projection 0
 check 'azimuth without its flag' 2 '' 'zrproj: *has no map; --alpha counts only with --use-alpha' map --projection hotine --lat0 45 --alpha 60
 check 'every zone' 2 '' 'zrproj: --utm auto*' map --utm auto
 check 'nothing there' 2 '' 'zrproj: --bounds: the map shows nothing there' map --projection orthographic --bounds 170,-5,-170,5

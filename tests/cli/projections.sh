@@ -3,7 +3,7 @@
 source "$(dirname "${BASH_SOURCE[0]}")/check.bash"
 refused() { check "$1" 2 '' "zrproj: $2" "${@:3}" </dev/null; }
 
-refused 'none' 'no projection; give --utm*' forward
+refused 'none' 'no projection; give --crs, --utm*' forward
 refused 'two' 'more than one projection*' forward --utm 17N -p 4
 refused 'ambiguous' '"lambert" fits more than one projection: "Lambert Conformal Conic", "Lambert Azimuthal Equal Area"' \
     forward -p lambert

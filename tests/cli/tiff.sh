@@ -31,7 +31,7 @@ check 'a scan' 0 'my scan.tfw  world file  used for georeference
 Georeference  Precalculated Affine Coefficients
 X             2 x + 0 y + 630000
 Y             0 x + -2 y + 4835000' '' info 'my scan.tif'
-check 'no projection' 2 '' '*in which projection "my scan.tif" is; give --utm*' locate 'my scan.tif' </dev/null
+check 'no projection' 2 '' '*in which projection "my scan.tif" is; give --crs, --utm*' locate 'my scan.tif' </dev/null
 check 'projection told' 0 '-79.387807849 43.656635239' '' locate 'my scan.tif' --utm 17N <<<'0 0'
 reference 'Projection Name' 'Universal Transverse Mercator (UTM)' 'Projection Lon0 (degrees)' -81 'Projection Ellipsoid Type' \
     'GRS 1980 / IUGG 1980' 'Datum Name' 'North American Datum 1983' 'Datum Method' Molodensky >'my scan.tif.zrr'
@@ -52,7 +52,7 @@ check 'like an image' 0 '630084.301,4833438.586' '' forward --like 'my scan.tif'
 little_tiff >lone.tif
 printf '2\n0\n0\n-2\n630001\n4834999\n' >lone.tfw
 check 'no system' 0 '' 'zrproj: "lone.tif": nothing says in which projection it is*' convert lone.tif lone.tif
-check 'a parameter of nothing' 2 '' '*no projection; give --utm*' convert lone.tif lone.tif --lon0 4
+check 'a parameter of nothing' 2 '' '*no projection; give --crs, --utm*' convert lone.tif lone.tif --lon0 4
 check 'system told' 0 '' '' convert lone.tif lone.tif --utm 17N --datum nad27
 expect 'datum and its ellipsoid' "$("$zrproj" info lone.tif | grep -E '^(Projection|Ellipsoid|Datum)  ')" \
     'Projection                         Universal Transverse Mercator (UTM)

@@ -127,6 +127,17 @@ TEST(DoorDefinition, HasAnAreaOfUse) {
     EXPECT_EQ(zrproj_system_area(systemOf("+proj=merc +R=1000").get(), &west, &south, &east, &north), ZRPROJ_UNKNOWN);
 }
 
+TEST(DoorDefinition, TellsItsFigureAndUnit) {
+    double radius = 0, flattening = 0, metres = 0;
+    System const feet = systemOf("EPSG:2229"); // US survey feet
+    ASSERT_EQ(zrproj_system_ellipsoid(feet.get(), &radius, &flattening), ZRPROJ_OK);
+    EXPECT_EQ(radius, 6378137);
+    EXPECT_NEAR(1 / flattening, 298.257222101, 1e-9);
+    ASSERT_EQ(zrproj_system_unit(feet.get(), &metres), ZRPROJ_OK);
+    EXPECT_NEAR(metres, 1200 / 3937.0, 1e-15);
+    EXPECT_EQ(zrproj_system_unit(geographicOf(feet).get(), &metres), ZRPROJ_UNKNOWN);
+}
+
 // IOGP's Guidance Note 7-2, Snyder's and others' printed examples are in tests/systems; here what the door adds.
 TEST(DoorDefinition, ConvertsBothWays) {
     System const dutch = systemOf("28992");

@@ -31,8 +31,8 @@ public:
     Options options;
 };
 
-ProjectionChoice choice(std::vector<std::string> const& words, Figure const& standard = {}) {
-    return Given<ProjectionOptions>(words).options.choice(standard);
+ProjectionChoice choice(std::vector<std::string> const& words, MapDatum const& datum = {}) {
+    return Given<ProjectionOptions>(words).options.choice(datum);
 }
 
 TEST(ProjectionOptions, AUtmZoneIsARecord) {
@@ -59,10 +59,11 @@ TEST(ProjectionOptions, ParametersByBothOfTheirNames) {
 }
 
 TEST(ProjectionOptions, TheStandardFigureIsTakenWhereNoneIsGiven) {
-    EXPECT_EQ(static_cast<int>(choice({"-p", "1"}, {EllipsoidTypeClarke1866}).record.Ellipsoid),
+    EXPECT_EQ(static_cast<int>(choice({"-p", "1"}, {.figure = {EllipsoidTypeClarke1866}}).record.Ellipsoid),
               EllipsoidTypeClarke1866);
     EXPECT_EQ(
-        static_cast<int>(choice({"-p", "1", "--ellipsoid", "airy 1830"}, {EllipsoidTypeClarke1866}).record.Ellipsoid),
+        static_cast<int>(
+            choice({"-p", "1", "--ellipsoid", "airy 1830"}, {.figure = {EllipsoidTypeClarke1866}}).record.Ellipsoid),
         EllipsoidTypeAiry1830);
 }
 
@@ -84,7 +85,7 @@ TEST(ProjectionOptions, WhatMakesNoProjection) {
         char const* message;
     };
     for (auto const& [words, message] :
-         {Case{{}, "no projection; give --utm, --state-plane, --projection or --like"},
+         {Case{{}, "no projection; give --crs, --utm, --state-plane, --projection or --like"},
           {{"--utm", "17N", "-p", "4"}, "more than one projection; give one of"},
           {{"-p", "merkator"}, "unknown projection \"merkator\"; the nearest: "},
           {{"-p", "lambert"}, "\"lambert\" fits more than one projection: \"Lambert Conformal Conic\""},
@@ -120,7 +121,7 @@ TEST(DatumOptions, TheDatumOfTheMapStandsAtTheMapsEnd) {
     EXPECT_EQ(inverse->to.type, DatumTypeWorldGeodeticSystem1984);
     EXPECT_FALSE(shift(Direction::Forward, {"--datum", "nad27"}));
     Given<DatumOptions> const map({"--datum", "nad27"}, Direction::Forward);
-    EXPECT_EQ(map.options.mapFigure().ellipsoid, EllipsoidTypeClarke1866);
+    EXPECT_EQ(map.options.ofMap().figure.ellipsoid, EllipsoidTypeClarke1866);
 }
 
 TEST(DatumOptions, WhatIsMissing) {

@@ -1,5 +1,7 @@
 #include "cli/geojson/clip.h"
 
+#include "cli/points/point_converter.h"
+
 #include <gtest/gtest.h>
 
 #include <algorithm>
@@ -10,12 +12,12 @@
 namespace ZrProj::Command {
 namespace {
 
-CProjector makeMap(ProjType type, double lat1) {
+SystemPointer makeMap(ProjType type, double lat1) {
     PROJDATA record = {};
     record.Type = type;
     record.Ellipsoid = EllipsoidTypeStandardSphereOf6370997Meters;
     record.Lat0 = record.Lat1 = lat1;
-    return CProjector(&record);
+    return systemOfRecord(record);
 }
 
 Path ringAround(PROJPOINT centre, double radius, int count) {
@@ -57,7 +59,7 @@ bool shareAMeridian(Paths const& rings, double lon) {
 }
 
 TEST(GeoJsonClip, HolesOverTheEdgeLeaveWhatIsBetweenThem) {
-    CProjector map = makeMap(ProjTypeMercator, 0);
+    SystemPointer const map = makeMap(ProjTypeMercator, 0);
     std::mt19937 random(7);
     std::uniform_real_distribution<double> across(-12, 12), lat(-60, 60), size(0.5, 4);
     for (int i = 0; i < 20; ++i) {
@@ -65,12 +67,12 @@ TEST(GeoJsonClip, HolesOverTheEdgeLeaveWhatIsBetweenThem) {
         Paths const rings{ringAround(centre, 20, 40), ringAround({centre.x - 6, centre.y}, size(random), 9),
                           ringAround({centre.x + 6, centre.y + 5}, size(random), 17),
                           ringAround({centre.x + 4, centre.y - 8}, size(random), 4)};
-        Paths const cut = cutPolygon(map, rings);
+        Paths const cut = cutPolygon(*map, rings);
         EXPECT_FALSE(shareAMeridian(cut, 180)) << i;
         EXPECT_FALSE(shareAMeridian(cut, -180)) << i;
         Paths each;
         for (Path const& ring : rings)
-            for (Path& part : cutPolygon(map, {ring}))
+            for (Path& part : cutPolygon(*map, {ring}))
                 each.push_back(std::move(part));
         for (double x = -179.5; x<180; x += std::fabs(x)> 150 ? 0.73 : 300)
             for (double y = -85; y < 86; y += 1.37)
@@ -93,8 +95,8 @@ double longestOn(double lon, Paths const& rings) {
 TEST(GeoJsonClip, RingsThatTouchOnTheEdgeAreNotJoinedAlongIt) {
     Paths const rings{{{{180, -20}, {-160, 0}, {180, 20}, {160, 0}}, {}},
                       {{{180, -10}, {-170, 0}, {180, 10}, {170, 0}}, {}}};
-    CProjector world = makeMap(ProjTypeSinusoidal, 0);
-    Paths const cut = cutPolygon(world, rings);
+    SystemPointer const world = makeMap(ProjTypeSinusoidal, 0);
+    Paths const cut = cutPolygon(*world, rings);
     EXPECT_EQ(cut.size(), 2U); // one on either side
     for (double const lon : {-180, 180}) {
         EXPECT_GT(longestOn(lon, cut), 0.5);
@@ -107,10 +109,10 @@ TEST(GeoJsonClip, NothingIsLeftOfBridges) {
     record.Type = ProjTypeOrthographic;
     record.Ellipsoid = EllipsoidTypeWgs84;
     record.Lon0 = 90;
-    CProjector hemisphere(&record);
+    SystemPointer const hemisphere = systemOfRecord(record);
     Paths const cut =
-        cutPolygon(hemisphere, {{{{-158.4, -19.7}, {-157.8, 19.8}, {180, 40}, {158, 0}, {180, -32.1}}, {}},
-                                {{{180, -9.8}, {-171.9, -2.2}, {180, 8.2}, {171.3, 0}}, {}}});
+        cutPolygon(*hemisphere, {{{{-158.4, -19.7}, {-157.8, 19.8}, {180, 40}, {158, 0}, {180, -32.1}}, {}},
+                                 {{{180, -9.8}, {-171.9, -2.2}, {180, 8.2}, {171.3, 0}}, {}}});
     ASSERT_EQ(cut.size(), 1U);
     for (PROJPOINT const& point : cut[0].points)
         EXPECT_EQ(std::count_if(cut[0].points.begin(), cut[0].points.end(),
@@ -122,13 +124,13 @@ TEST(GeoJsonClip, NothingIsLeftOfBridges) {
 }
 
 TEST(GeoJsonClip, ABeltAroundThePoleIsOneRing) {
-    CProjector map = makeMap(ProjTypeMercator, 0);
+    SystemPointer const map = makeMap(ProjTypeMercator, 0);
     Path outer, inner;
     for (double lon = -180; lon < 180; lon += 30) {
         outer.points.push_back({lon, -60});
         inner.points.push_back({lon, -75});
     }
-    Paths const cut = cutPolygon(map, {outer, inner});
+    Paths const cut = cutPolygon(*map, {outer, inner});
     ASSERT_EQ(cut.size(), 1U);
     EXPECT_TRUE(isFilled(cut, {10, -70}));
     EXPECT_FALSE(isFilled(cut, {10, -50}));
@@ -136,27 +138,29 @@ TEST(GeoJsonClip, ABeltAroundThePoleIsOneRing) {
 }
 
 TEST(GeoJsonClip, AnAreaAroundTheAntipodeHasAHoleThere) {
-    CProjector map = makeMap(ProjTypeStereographic, 90);
+    SystemPointer const map = makeMap(ProjTypeStereographic, 90);
     Path everything; // all of the globe south of 60 degrees north, and so all around the antipode
     for (double lon = 180; lon > -180; lon -= 10)
         everything.points.push_back({lon, -60});
-    Paths cut = cutPolygon(map, {everything});
-    for (Path& ring : cut)
-        map.Forward(ring.points.data(), static_cast<int>(ring.points.size()));
+    Paths cut = cutPolygon(*map, {everything});
+    for (Path& ring : cut) {
+        std::vector states(ring.points.size(), PointState::Good);
+        PointConverter(map).forward(ring.points, states);
+    }
     auto const polygons = groupRings(cut);
     ASSERT_EQ(polygons.size(), 1U);
     EXPECT_EQ(polygons[0].size(), 2U);
 }
 
 TEST(GeoJsonClip, WhatCannotBeCutIsLeftOut) {
-    CProjector map = makeMap(ProjTypeMercator, 0);
+    SystemPointer const map = makeMap(ProjTypeMercator, 0);
     double const nan = std::nan("");
-    EXPECT_TRUE(cutLine(map, {}).empty());
-    EXPECT_TRUE(cutLine(map, {{{1, 1}}, {}}).empty());
-    EXPECT_TRUE(cutPolygon(map, {}).empty());
-    EXPECT_TRUE(cutPolygon(map, {{}, {{{1, 1}, {2, 2}}, {}}}).empty());
-    EXPECT_TRUE(cutPolygon(map, {{{{nan, 1}, {1, nan}, {nan, nan}}, {}}}).empty());
-    EXPECT_EQ(cutLine(map, {{{1, 1}, {2, 2}, {nan, nan}, {3, 3}, {4, 4}}, {}}).size(), 2U);
+    EXPECT_TRUE(cutLine(*map, {}).empty());
+    EXPECT_TRUE(cutLine(*map, {{{1, 1}}, {}}).empty());
+    EXPECT_TRUE(cutPolygon(*map, {}).empty());
+    EXPECT_TRUE(cutPolygon(*map, {{}, {{{1, 1}, {2, 2}}, {}}}).empty());
+    EXPECT_TRUE(cutPolygon(*map, {{{{nan, 1}, {1, nan}, {nan, nan}}, {}}}).empty());
+    EXPECT_EQ(cutLine(*map, {{{1, 1}, {2, 2}, {nan, nan}, {3, 3}, {4, 4}}, {}}).size(), 2U);
 }
 
 } // namespace

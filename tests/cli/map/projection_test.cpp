@@ -13,7 +13,7 @@ MapProjection projection(ProjType type, EllipsoidType ellipsoid) {
     PROJDATA record = {};
     record.Type = type;
     record.Ellipsoid = ellipsoid;
-    return MapProjection(record);
+    return MapProjection({.record = record});
 }
 
 } // namespace
@@ -48,7 +48,7 @@ TEST(MapProjection, TellsWhichPlacesItShows) {
     record.Type = ProjTypeTransverseMercator;
     record.Ellipsoid = EllipsoidTypeWgs84;
     record.Lon0 = 180;
-    MapProjection map(record);
+    MapProjection map({.record = record});
     auto const west = map.shown({179, 10}), east = map.shown({-179, 10});
     ASSERT_TRUE(west && east);
     EXPECT_NEAR(map.at(*west)->x, -map.at(*east)->x, 1e-6);

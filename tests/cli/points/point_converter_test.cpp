@@ -18,7 +18,7 @@ PROJDATA utmRecord(int zone) {
 }
 
 TEST(PointConverter, LongitudesAreTakenOnTheCentralMeridiansSide) {
-    PointConverter converter(utmRecord(1)); // central meridian -177
+    PointConverter converter(systemOfRecord(utmRecord(1))); // central meridian -177
     std::array<PROJPOINT, 3> points{{{-180.1, 10}, {179.9, 10}, {-177 - 360, 10}}};
     std::array<PointState, 3> states{};
     converter.forward(points, states);
@@ -31,9 +31,9 @@ TEST(PointConverter, LongitudesAreTakenOnTheCentralMeridiansSide) {
 
 TEST(PointConverter, ACentralMeridianWrittenAnotherWayRoundChangesNothing) {
     PROJDATA record = utmRecord(1);
-    PointConverter plain(record);
+    PointConverter plain(systemOfRecord(record));
     record.Lon0 = 183;
-    PointConverter wrapped(record);
+    PointConverter wrapped(systemOfRecord(record));
     std::array<PROJPOINT, 1> a{{{178, 10}}}, b = a;
     std::array<PointState, 1> states{};
     plain.forward(a, states);
@@ -43,7 +43,7 @@ TEST(PointConverter, ACentralMeridianWrittenAnotherWayRoundChangesNothing) {
 }
 
 TEST(PointConverter, PointsWithoutAGoodResultAreToldApart) {
-    PointConverter converter(utmRecord(31)); // central meridian 3
+    PointConverter converter(systemOfRecord(utmRecord(31))); // central meridian 3
     std::array<PROJPOINT, 5> points{{{4, 10}, {14, 10}, {60, 10}, {5, 10}, {6, 10}}};
     std::array<PointState, 5> states{};
     states[3] = PointState::Marked;
@@ -54,7 +54,7 @@ TEST(PointConverter, PointsWithoutAGoodResultAreToldApart) {
 }
 
 TEST(PointConverter, CoordinatesThatBelongToNoPointHaveNoLongitude) {
-    PointConverter converter(utmRecord(17));
+    PointConverter converter(systemOfRecord(utmRecord(17)));
     std::array<PROJPOINT, 5> points{{{630084, 4833438}, {2e7, 0}, {4e6, 7e6}, {500000, 1.5e7}, {1e300, -1e300}}};
     std::array<PointState, 5> states{};
     converter.inverse(points, states);
@@ -65,8 +65,7 @@ TEST(PointConverter, CoordinatesThatBelongToNoPointHaveNoLongitude) {
 }
 
 TEST(PointConverter, UnprojectedPointsAreNotConverted) {
-    PROJDATA record = {};
-    EXPECT_THROW(PointConverter{record}, UsageError);
+    EXPECT_THROW(PointConverter{systemOfDefinition("EPSG:4326")}, UsageError);
 }
 
 } // namespace
