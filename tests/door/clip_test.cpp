@@ -53,7 +53,7 @@ TEST(DoorClip, LeavesWhatIsNotCutAsItIs) {
     auto const world = made<System>([&](zrproj_system** s) {
         return zrproj_system_create("+proj=robin +lon_0=-149.7 +datum=WGS84 +units=m +no_defs +type=crs", s);
     });
-    double const track[] = {-170.1, 0.1, -160.2, 10.3, -155.3, 20.7, -100.7, 30.1, -70.9, 35.3};
+    double const track[] = {-170.1, 0.1, -160.2, 10.3, -155.3, 20.7, -100.7, 30.1, -20.3, 35.3, -0.1, 40.7};
     double const eastOfGreenwich[] = {259.3, 30.1, 289.1, 35.3};
     for (std::span<double const> const given :
          {std::span<double const>(track), std::span<double const>(eastOfGreenwich)}) {
