@@ -91,7 +91,8 @@ void makeGallery(std::filesystem::path const& docs) {
                                  .points = {},
                                  .title = projectionName(view.record.Type),
                                  .bounds = {}};
-        write(docs / "gallery" / (std::string(view.key) + ".svg"), svgFile(drawMap(view.record, content, size, "")));
+        write(docs / "gallery" / (std::string(view.key) + ".svg"),
+              svgFile(drawMap({.record = view.record}, content, size, "")));
         page += section(view);
     }
     write(docs / "gallery.md", page);

@@ -18,9 +18,9 @@ HERE = Path(__file__).resolve().parent
 
 HEAD = """// {what}
 //
-// Made by src/systems/make_register.py from the EPSG Geodetic Parameter Dataset {EPSG.VERSION} of {EPSG.DATE}, which is IOGP's, as
-// proj-data carries it, under the terms of use at https://epsg.org/terms-of-use.html. Other makers' names are of {ESRI.VERSION}
-// of {ESRI.DATE} and of PROJ {PROJ.VERSION}.
+// Made by src/systems/make_register.py from the EPSG Geodetic Parameter Dataset {EPSG.VERSION} of {EPSG.DATE}, which
+// is IOGP's, as proj-data carries it, under the terms of use at https://epsg.org/terms-of-use.html. Other makers' names
+// are of {ESRI.VERSION} of {ESRI.DATE} and of PROJ {PROJ.VERSION}.
 #pragma once
 
 #include "systems/register/rows.h"

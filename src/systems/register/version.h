@@ -1,8 +1,8 @@
 // The register's edition and terms.
 //
-// Made by src/systems/make_register.py from the EPSG Geodetic Parameter Dataset v10.076 of 2022-08-31, which is IOGP's, as
-// proj-data carries it, under the terms of use at https://epsg.org/terms-of-use.html. Other makers' names are of ArcGIS Pro 3.0
-// of 2022-07-09 and of PROJ 9.1.1.
+// Made by src/systems/make_register.py from the EPSG Geodetic Parameter Dataset v10.076 of 2022-08-31, which
+// is IOGP's, as proj-data carries it, under the terms of use at https://epsg.org/terms-of-use.html. Other makers' names
+// are of ArcGIS Pro 3.0 of 2022-07-09 and of PROJ 9.1.1.
 #pragma once
 
 #include "systems/register/rows.h"

@@ -74,8 +74,8 @@ TEST(CommandLine, WhatCannotBeFollowedIsRefused) {
 
 TEST(CommandLine, HelpListsGroupsAndStandardValues) {
     std::string const help = Program().read({"draw", "--help"});
-    for (char const* part : {"Draw them\n", "Usage: tool draw [OPTIONS] WHAT [FILE...]\n", "-s,--size N=7 ",
-                             "Looks:\n", "--tone TONE", "-q,--quiet", "That is all.\n"})
+    for (char const* part : {"Draw them\n", "Usage: tool draw [OPTIONS] WHAT [FILE...]\n", "-s,--size N=7 ", "Looks:\n",
+                             "--tone TONE", "-q,--quiet", "That is all.\n"})
         EXPECT_NE(help.find(part), std::string::npos) << part << " in\n" << help;
     EXPECT_EQ(Program().read({"--version"}), "tool 1\n");
 }
