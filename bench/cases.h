@@ -1,4 +1,5 @@
-// What is measured: a record or two of every projection type, and a datum of each method.
+// What is measured: a record or two of every projection type, a datum of each method, and systems whose methods no
+// record says.
 #pragma once
 
 #include <zrproj/datum.h>
@@ -31,5 +32,14 @@ struct DatumCase {
 };
 
 std::vector<DatumCase> const& datumCases();
+
+/// From one system's coordinates to another one's and back, through the C interface. What a case says of a projection
+/// is not looked at.
+struct SystemCase {
+    char const *from, *to;
+    Case definition;
+};
+
+std::vector<SystemCase> const& systemCases();
 
 } // namespace ZrProj::bench

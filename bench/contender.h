@@ -27,6 +27,8 @@ std::vector<Contender> projContenders(Case const& definition);
 /// zrproj from a datum to WGS 84 and back, likewise, and PROJ by a definition that means the same.
 std::vector<Contender> zrprojDatumContenders(DatumType datum);
 Contender projDatumContender(std::string const& definition);
+/// zrproj between two systems, likewise.
+std::vector<Contender> zrprojSystemContenders(SystemCase const& systems);
 /// Empty where GeographicLib does not have the projection.
 std::vector<Contender> geographicLibContenders(Case const& definition);
 

@@ -1,6 +1,7 @@
-// Every projection and the datum methods, both ways, for single points, short arrays and long ones, at each processor
-// level and beside other libraries; and georeferencing. Closing tables set zrproj beside each of the others. Rows
-// called preclip/ cut a line first.
+// Every projection, the datum methods, and systems, both ways, for single points, short arrays and long ones, at each
+// processor level and beside other libraries; and georeferencing. Closing tables set zrproj beside each of the others.
+// Rows called preclip/ cut a line first.
+#include "creation.h"
 #include "georef.h"
 #include "nadcon.h"
 #include "preclip_rows.h"
@@ -101,6 +102,14 @@ std::vector<Contender> contendersFor(DatumCase const& datum) {
     return contenders;
 }
 
+std::vector<Contender> contendersFor(SystemCase const& systems) {
+    auto contenders = zrprojSystemContenders(systems);
+#if defined(ZRPROJ_BENCH_PROJ)
+    append(contenders, projContenders(systems.definition));
+#endif
+    return contenders;
+}
+
 /// Tells when PROJ's definition does not mean the same.
 void compareResults(Group const& group) {
     auto const few = [&](Contender const& contender) {
@@ -138,6 +147,8 @@ int main(int argc, char** argv) {
         groups.push_back({definition, contendersFor(definition)});
     for (auto const& datum : datumCases())
         groups.push_back({datum.definition, contendersFor(datum)});
+    for (auto const& systems : systemCases())
+        groups.push_back({systems.definition, contendersFor(systems)});
     for (auto const& group : groups) {
         compareResults(group);
         registerRows(group);
@@ -145,9 +156,11 @@ int main(int argc, char** argv) {
     registerNadcon();
     registerGeorefRows();
     registerPreclipRows();
+    registerCreationRows();
     Collector collector(Collector::OO_Tabular);
     benchmark::RunSpecifiedBenchmarks(&collector);
     printTable(groups, collector, longest);
     printNadcon(collector);
     printGeorefTable(collector);
+    printCreationTable(collector);
 }

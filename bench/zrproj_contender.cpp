@@ -2,8 +2,11 @@
 
 #include "levels/level.h"
 
+#include <zrproj/c.h>
+
 #include <memory>
 #include <numbers>
+#include <stdexcept>
 
 namespace ZrProj::bench {
 namespace {
@@ -33,6 +36,32 @@ Contender contenderOf(DatumType datum) {
             .inverse = conversion(DatumTypeWorldGeodeticSystem1984, datum)};
 }
 
+void require(zrproj_status status) {
+    if (status != ZRPROJ_OK)
+        throw std::runtime_error(zrproj_message());
+}
+
+using System = std::unique_ptr<zrproj_system, decltype(&zrproj_system_destroy)>;
+
+System systemOf(char const* definition) {
+    zrproj_system* system = nullptr;
+    require(zrproj_system_create(definition, &system));
+    return {system, zrproj_system_destroy};
+}
+
+Contender contenderOf(SystemCase const& systems) {
+    zrproj_transform* made = nullptr;
+    require(zrproj_transform_create(systemOf(systems.from).get(), systemOf(systems.to).get(), nullptr, &made));
+    std::shared_ptr<zrproj_transform const> const transform(made, [=](auto*) { zrproj_transform_destroy(made); });
+    auto const convert = [=](bool backwards) {
+        return [=](PROJPOINT* points, int count) {
+            zrproj_transform_points(transform.get(), backwards, &points->x, &points->y, sizeof *points,
+                                    static_cast<std::size_t>(count), nullptr);
+        };
+    };
+    return {.name = {}, .isOurs = true, .forward = convert(false), .inverse = convert(true)};
+}
+
 /// One contender for each level that this machine has.
 template <class What> std::vector<Contender> atEachLevel(What const& what) {
     std::vector<Contender> contenders;
@@ -55,6 +84,10 @@ std::vector<Contender> zrprojContenders(Case const& definition) {
 
 std::vector<Contender> zrprojDatumContenders(DatumType datum) {
     return atEachLevel(datum);
+}
+
+std::vector<Contender> zrprojSystemContenders(SystemCase const& systems) {
+    return atEachLevel(systems);
 }
 
 } // namespace ZrProj::bench

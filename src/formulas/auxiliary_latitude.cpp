@@ -3,7 +3,12 @@
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 namespace {
 
-constexpr int nodes = 64; // of the Fourier sums, over half a turn of 2 phi
+constexpr int mostNodes = 64; // of the Fourier sums, over half a turn of 2 phi
+
+/// What is enough for the terms that a flattening has: those of the Earth's fall by 600 times from one to the next.
+int nodesFor(double flattening) {
+    return flattening < 0.005 ? 16 : mostNodes;
+}
 
 double eccentricity(double flattening) {
     return std::sqrt(flattening * (2 - flattening));
@@ -35,8 +40,8 @@ template <class Coefficient> int takeTerms(double* c, bool& converged, Coefficie
 }
 
 /// The sine coefficients of an odd function of 2x, given as difference(x) for x between 0 and pi/2.
-template <class Difference> int takeSineTerms(double* c, bool& converged, Difference const& difference) {
-    double values[nodes], sines[2 * nodes];
+template <class Difference> int takeSineTerms(double* c, bool& converged, int nodes, Difference const& difference) {
+    double values[mostNodes], sines[2 * mostNodes];
     for (int j = 0; j < 2 * nodes; ++j)
         sines[j] = sin(pi / nodes * j);
     for (int j = 1; j < nodes; ++j)
@@ -62,8 +67,8 @@ double derivative(AuxiliaryLatitude const& latitude, SinCos<double> at) {
 }
 
 /// Fills in the way back from the way there.
-AuxiliaryLatitude completed(AuxiliaryLatitude latitude) {
-    int const back = takeSineTerms(latitude.toPhi, latitude.converged, [&](double xi) {
+AuxiliaryLatitude completed(AuxiliaryLatitude latitude, int nodes) {
+    int const back = takeSineTerms(latitude.toPhi, latitude.converged, nodes, [&](double xi) {
         double phi = xi, step = 1;
         for (int i = 0; i < 12 && abs(step) > 1e-16; ++i) { // Newton; 3 steps for the Earth
             auto const at = sinCos(phi);
@@ -86,24 +91,26 @@ AuxiliaryLatitude conformalLatitude(double flattening) {
     AuxiliaryLatitude latitude;
     if (flattening == 0)
         return latitude;
+    int const nodes = nodesFor(flattening);
     double const e = eccentricity(flattening);
     // sin(chi - phi) from the isometric latitudes of the sphere (psi0) and the ellipsoid (psi0 - shift).
-    latitude.terms = takeSineTerms(latitude.toXi, latitude.converged, [e](double phi) {
+    latitude.terms = takeSineTerms(latitude.toXi, latitude.converged, nodes, [e](double phi) {
         auto const at = sinCos(phi);
         double const shift = e * arcTanh(e * at.sin), up = exp(shift / 2);
         double const psi0 = log((1 + at.sin) / at.cos);
         return asin(-cosh(psi0 - shift / 2) * (up - 1 / up) * at.cos / cosh(psi0 - shift));
     });
-    return completed(latitude);
+    return completed(latitude, nodes);
 }
 
 AuxiliaryLatitude authalicLatitude(double flattening) {
     AuxiliaryLatitude latitude;
     if (flattening == 0)
         return latitude;
+    int const nodes = nodesFor(flattening);
     double const e = eccentricity(flattening), e2 = e * e, pole = authalicQ(flattening);
     // 1 - sin(beta) = 1 - q(phi) / q(pole), free of cancellation.
-    latitude.terms = takeSineTerms(latitude.toXi, latitude.converged, [=](double phi) {
+    latitude.terms = takeSineTerms(latitude.toXi, latitude.converged, nodes, [=](double phi) {
         auto const at = sinCos(phi);
         double const half = sin((halfPi - phi) / 2), gap = 2 * half * half; // 1 - sin(phi)
         double const missing = (gap * (1 + e2 * at.sin) / (1 - e2 * at.sin * at.sin) +
@@ -111,13 +118,14 @@ AuxiliaryLatitude authalicLatitude(double flattening) {
                                pole;
         return asin((1 - missing) * at.cos - std::sqrt(missing * (2 - missing)) * at.sin);
     });
-    return completed(latitude);
+    return completed(latitude, nodes);
 }
 
 AuxiliaryLatitude rectifyingLatitude(double flattening) {
     AuxiliaryLatitude latitude;
     if (flattening == 0)
         return latitude;
+    int const nodes = nodesFor(flattening);
     // The cosine coefficients of dM/dphi, integrated term by term.
     double const e2 = flattening * (2 - flattening), radius = rectifyingRadius(flattening);
     latitude.terms = takeTerms(latitude.toXi, latitude.converged, [=](int k) {
@@ -128,10 +136,11 @@ AuxiliaryLatitude rectifyingLatitude(double flattening) {
         }
         return sum / nodes / (k * radius);
     });
-    return completed(latitude);
+    return completed(latitude, nodes);
 }
 
 double rectifyingRadius(double flattening) {
+    int const nodes = nodesFor(flattening);
     double const e2 = flattening * (2 - flattening);
     double sum = 0;
     for (int j = 0; j < nodes; ++j) {

@@ -1,0 +1,78 @@
+#include "creation.h"
+
+#include <zrproj/c.h>
+
+#include <cstdio>
+#include <string>
+
+#if defined(ZRPROJ_BENCH_PROJ)
+#include <proj.h>
+#endif
+
+namespace ZrProj::bench {
+namespace {
+
+struct Pair {
+    char const *from, *to;
+};
+
+// Geographic to projected systems on one datum: of a series, a conic, a method of its own, and a world map.
+constexpr Pair pairs[] = {
+    {"EPSG:4326", "EPSG:32633"}, {"EPSG:4171", "EPSG:2154"}, {"EPSG:4289", "EPSG:28992"}, {"EPSG:4326", "EPSG:3857"}};
+
+bool zrprojCreates(Pair const& pair) {
+    zrproj_system *from = nullptr, *to = nullptr;
+    zrproj_transform* transform = nullptr;
+    bool const good = zrproj_system_create(pair.from, &from) == ZRPROJ_OK &&
+                      zrproj_system_create(pair.to, &to) == ZRPROJ_OK &&
+                      zrproj_transform_create(from, to, nullptr, &transform) == ZRPROJ_OK;
+    zrproj_transform_destroy(transform);
+    zrproj_system_destroy(to);
+    zrproj_system_destroy(from);
+    return good;
+}
+
+#if defined(ZRPROJ_BENCH_PROJ)
+/// In the one context of the thread, whose database is open after the first time.
+bool projCreates(Pair const& pair) {
+    PJ* const transform = proj_create_crs_to_crs(nullptr, pair.from, pair.to, nullptr);
+    proj_destroy(transform);
+    return transform != nullptr;
+}
+#endif
+
+std::string rowOf(Pair const& pair, char const* who) {
+    return std::string("create/") + pair.to + '/' + who;
+}
+
+void measure(benchmark::State& state, bool (*creates)(Pair const&), Pair const& pair) {
+    for (auto _ : state)
+        if (!creates(pair))
+            state.SkipWithError("cannot be made");
+    using benchmark::Counter;
+    state.counters[perPoint] = Counter(1, Counter::kIsIterationInvariantRate | Counter::kInvert);
+}
+
+} // namespace
+
+void registerCreationRows() {
+    for (Pair const& pair : pairs) {
+        benchmark::RegisterBenchmark(rowOf(pair, "zrproj").c_str(), measure, zrprojCreates, pair);
+#if defined(ZRPROJ_BENCH_PROJ)
+        benchmark::RegisterBenchmark(rowOf(pair, "PROJ").c_str(), measure, projCreates, pair);
+#endif
+    }
+}
+
+void printCreationTable(Collector const& measured) {
+    std::printf("\nMicroseconds to make what converts, by two codes\n");
+    std::printf("%-30s %9s %9s %8s\n", "system", "zrproj", "PROJ", "ratio");
+    for (Pair const& pair : pairs) {
+        double const ours = measured.nanoseconds(rowOf(pair, "zrproj")),
+                     theirs = measured.nanoseconds(rowOf(pair, "PROJ"));
+        if (ours > 0 && theirs > 0)
+            std::printf("%-30s %9.1f %9.1f %8.1f\n", pair.to, ours / 1000, theirs / 1000, theirs / ours);
+    }
+}
+
+} // namespace ZrProj::bench
