@@ -48,6 +48,16 @@ SEXAGESIMAL = 9110
 SAME_METHOD = {9821: 1027, 9823: 1029, 9842: 1028}
 SAME_PARAMETER = {(9821, 8828): 8801, (9821, 8829): 8802, (9823, 8801): 8823, (9842, 8801): 8823, (9842, 8822): 8802}
 
+# Factors of operations: arcseconds, metres or parts per million a unit.
+SECONDS = {9104: Fraction(1), 1031: Fraction(1, 1000), 9101: 648000 / PI, 9109: 648 / PI / 1000, 9113: Fraction(324, 1000)}
+MILLIONTHS = {9202: Fraction(1), 1028: Fraction(1, 1000), 9201: Fraction(10**6)}
+
+# How the register's methods move coordinates: the word of OperationMethod.
+FRAME_ROTATIONS = {1032, 1056, 1066, 9607, 9636}  # turn the axes, not the point
+HORIZONTAL_GRIDS = {9613: "nadcon", 9615: "ntv2", 9614: "unsupported", 1074: "unsupported", 1087: "unsupported"}
+OFFSETS = (9601, 9618, 9619)
+OPERATION_TABLES = ("helmert_transformation", "grid_transformation", "other_transformation", "concatenated_operation")
+
 # Codes that were never in force, beyond 16 bits, and what everybody means by them.
 NICKNAMES = {900913: 3857}
 
@@ -192,6 +202,8 @@ class Register:
         self.read_datums()
         self.read_systems()
         self.read_parts()
+        self.read_operations()
+        self.write_areas()
         self.read_aliases()
 
     # Numbers
@@ -268,7 +280,8 @@ class Register:
         self.nicknames = {code: name for code, name, *_ in projected if code > 0xffff}
         rows = sorted(row for row in geographic + projected if row[0] not in self.nicknames)
         conversions = self.read_conversions({row[4] for row in rows} - {None})
-        areas = self.read_areas({row[0] for row in rows})
+        self.read_areas()
+        areas = {row[0]: self.area("geodetic_crs" if row[4] is None else "projected_crs", row[0]) for row in rows}
         axes = self.read_axes({row[2] for row in rows})
         texts = {row[0]: self.text(row[1]) for row in rows}
         self.systems = {row[0]: row[1] for row in rows}
@@ -279,7 +292,7 @@ class Register:
                 conversion = "geographic"
             else:
                 base, conversion = self.horizontal.get(base, base), conversions[conversion]
-            return (f"{{{code}, {base}, {texts[code]()}, {conversion}, {areas[code]}, {axes[system]}, "
+            return (f"{{{code}, {base}, {texts[code]()}, {conversion}, {areas[code]()}, {axes[system]}, "
                     f"{'true' if deprecated else 'false'}}}, // {name}")
 
         self.table("systems.h", "Geographic systems of two dimensions and projected systems.",
@@ -308,27 +321,35 @@ class Register:
                        f"// {row[2]}: {', '.join(double(value) for value in values[row[1]][1])}" for row in rows])
         return {row[1]: position for position, row in enumerate(rows)}
 
-    def read_areas(self, codes):
-        extent_of = {}
-        for code, extent in self.ask("""SELECT object_code, extent_code FROM usage WHERE object_auth_name = 'EPSG' AND
-                                        object_table_name IN ('projected_crs', 'geodetic_crs') ORDER BY code"""):
-            if code in codes:
-                extent_of.setdefault(code, extent)
-        used = set(extent_of.values())
-        rows = [row for row in self.ask("""SELECT code, name, west_lon, south_lat, east_lon, north_lat FROM extent
-                                           WHERE auth_name = 'EPSG' ORDER BY code""") if row[0] in used]
+    def read_areas(self):
+        """The areas of systems and of operations: each thing's first one."""
+        tables = ("geodetic_crs", "projected_crs") + OPERATION_TABLES
+        self.extents = {}
+        for table, code, extent in self.ask(f"""SELECT object_table_name, object_code, extent_code FROM usage
+                                                WHERE object_auth_name = 'EPSG' AND object_table_name IN {tables} ORDER BY code"""):
+            self.extents.setdefault((table, code), extent)
+        self.areas_used = set()
+        rows = self.ask("SELECT code, name, west_lon, south_lat, east_lon, north_lat FROM extent WHERE auth_name = 'EPSG' ORDER BY code")
+        self.area_rows = {row[0]: row for row in rows}
+
+    def area(self, table, code):
+        """What gives the index of a thing's area once all are known."""
+        extent = self.extents[table, code]
+        self.areas_used.add(extent)
+        return lambda: self.area_index[extent]
+
+    def write_areas(self):
+        rows = [row for code, row in self.area_rows.items() if code in self.areas_used]
         texts = {row[0]: self.text(row[1]) for row in rows}
+        self.area_index = {row[0]: position for position, row in enumerate(rows)}
 
         def bounds(row):
-            hundredths = [decimal(number or 0) * 100 for number in row[2:]]
-            assert all(number.denominator == 1 for number in hundredths), row
+            hundredths = [round(decimal(number or 0) * 100, 0) for number in row[2:]]
             return ", ".join(str(number) for number in hundredths)
 
         self.table("areas.h", "Areas of use: west, south, east, north in hundredths of a degree.",
                    "inline constexpr AreaRow areas[] = {",
                    lambda: [f"{{{texts[row[0]]()}, {bounds(row)}}}, // {row[1]}" for row in rows])
-        index = {row[0]: position for position, row in enumerate(rows)}
-        return {code: index[extent] for code, extent in extent_of.items()}
 
     def read_axes(self, systems):
         axes = collections.defaultdict(list)
@@ -391,6 +412,151 @@ class Register:
         self.table("replacements.h", "Deprecated systems and what replaces them.",
                    "inline constexpr ReplacementRow replacements[] = {",
                    lambda: [f"{{{code}, {other}}}, // {self.systems[code]}" for code, other in sorted(replacements.items())])
+
+    # Operations
+
+    def read_operations(self):
+        """Whatever moves a horizontal position from one datum to another; what only moves heights is left out."""
+        self.places = {code: position for position, code in enumerate(sorted(self.systems))}
+        self.flat = {code for (code,) in self.ask("SELECT code FROM geodetic_crs WHERE type = 'geographic 2D' AND auth_name = 'EPSG'")}
+        self.geodetic = {code for (code,) in self.ask("SELECT code FROM geodetic_crs WHERE auth_name = 'EPSG'")}
+        self.superseded = self.superseded_operations()
+        self.ends, self.grids = {}, []  # the systems that an operation joins, by its code; files
+        rows = {}
+        for table, ways in zip(OPERATION_TABLES, (self.geocentric_ways(), self.grid_ways(), self.offset_ways())):
+            for code, way in ways.items():
+                rows[code] = (table, *way)
+        rows |= {code: (OPERATION_TABLES[3], *way) for code, way in self.concatenated_ways(rows).items()}
+        self.write_operations({code: rows[code] for code in sorted(rows)})
+
+    def operations_of(self, table, columns, methods):
+        """Rows of a table of operations between geodetic systems with a horizontal part here: code, the columns."""
+        marks = f"AND method_code IN {tuple(methods)}" if methods else ""
+        for code, *row in self.ask(f"""SELECT code, source_crs_code, target_crs_code, name, accuracy, deprecated, {columns} FROM {table}
+                WHERE auth_name = 'EPSG' AND source_crs_auth_name = 'EPSG' AND target_crs_auth_name = 'EPSG' {marks} ORDER BY code"""):
+            ends = [self.horizontal.get(end, end) for end in row[:2]]
+            if all(end in self.geodetic for end in row[:2]) and all(end in self.places for end in ends):
+                self.ends[code] = (row[0] in self.flat and row[1] in self.flat, *ends)
+                yield code, tuple(row[2:5]), row[5:]
+
+    def geocentric_ways(self):
+        """Translation, rotations, scale, pivot as far as they are not 0, and the epoch of those that depend on time."""
+        ways = {}
+        columns = """method_code, translation_uom_code, tx, ty, tz, rotation_uom_code, rx, ry, rz, scale_difference_uom_code,
+                     scale_difference, pivot_uom_code, px, py, pz, epoch"""
+        for code, head, row in self.operations_of("helmert_transformation_table", columns, ()):
+            method, metre, *translation = row[:5]
+            second, *rotation = row[5:9]
+            sense = -1 if method in FRAME_ROTATIONS else 1
+            values = [decimal(number) * self.factors[metre] for number in translation]
+            if second is not None:
+                values += [sense * decimal(number) * SECONDS[second] for number in rotation] + [decimal(row[10]) * MILLIONTHS[row[9]]]
+            if row[11] is not None:
+                values += [decimal(number) * self.factors[row[11]] for number in row[12:15]]
+            ways[code] = (head, "geocentric", values + ([decimal(row[15])] if row[15] is not None else []))
+        return ways
+
+    def grid_ways(self):
+        """The files' names, and the name and sense of the copy that others hand out."""
+        copies = {row[0]: row[1:] for row in self.ask("""SELECT original_grid_name, old_proj_grid_name, inverse_direction
+                                                         FROM grid_alternatives WHERE proj_method = 'hgridshift'""")}
+        ways = {}
+        for code, head, (method, *names) in self.operations_of("grid_transformation", "method_code, grid_name, grid2_name",
+                                                               HORIZONTAL_GRIDS):
+            copy, reversed_copy = copies.get(names[0], (None, 0))
+            grid = (names[0], names[1] or "", copy if copy and copy.endswith((".gsb", ".GSB")) else "", bool(reversed_copy))
+            if grid not in self.grids:
+                self.grids.append(grid)
+            ways[code] = (head, HORIZONTAL_GRIDS[method], [self.grids.index(grid)])
+        return ways
+
+    def offset_ways(self):
+        """Degrees of longitude and latitude from Greenwich: a change of the meridian that longitudes count from moves nothing."""
+        ways = {}
+        columns = "method_code, param1_value, param1_uom_code, param2_value, param2_uom_code"
+        for code, head, (method, first, unit, second, other_unit) in self.operations_of("other_transformation", columns, OFFSETS):
+            _, source, target = self.ends[code]
+            if method == 9601:
+                east, north = self.exact(first, unit) - self.meridian_of(source) + self.meridian_of(target), 0
+            else:
+                east, north = self.exact(second, other_unit), self.exact(first, unit)
+            moves = abs(east) > 1e-12 or north
+            ways[code] = (head, "offsets", [east, Fraction(north)]) if moves else (head, "null", [])
+        return ways
+
+    def meridian_of(self, system):
+        (longitude, unit), = self.ask(f"""SELECT m.longitude, m.uom_code FROM geodetic_crs s
+            JOIN geodetic_datum d ON d.auth_name = 'EPSG' AND d.code = s.datum_code
+            JOIN prime_meridian m ON m.auth_name = 'EPSG' AND m.code = d.prime_meridian_code
+            WHERE s.auth_name = 'EPSG' AND s.code = {system}""")
+        return self.exact(longitude, unit)
+
+    def concatenated_ways(self, known):
+        steps = collections.defaultdict(list)
+        for code, step in self.ask("""SELECT operation_code, step_code FROM concatenated_operation_step
+                                      WHERE operation_auth_name = 'EPSG' ORDER BY operation_code, step_number"""):
+            steps[code].append(step)
+        return {code: (head, "concatenated", steps[code])
+                for code, head, _ in self.operations_of("concatenated_operation", "0", ()) if all(step in known for step in steps[code])}
+
+    def superseded_operations(self):
+        """Those that the register replaces by others in force between the same systems."""
+        return {code for code, in self.ask(f"""SELECT s.superseded_code FROM supersession s JOIN coordinate_operation_view o
+            ON o.table_name = s.replacement_table_name AND o.auth_name = 'EPSG' AND o.code = s.replacement_code AND o.deprecated = 0
+            WHERE s.superseded_auth_name = 'EPSG' AND s.replacement_auth_name = 'EPSG' AND s.same_source_target_crs = 1
+            AND s.superseded_table_name IN {OPERATION_TABLES}""")}
+
+    def write_operations(self, rows):
+        shifts = sorted({value for _, _, method, given in rows.values() if method in ("geocentric", "offsets") for value in given})
+        shift_at = {value: position for position, value in enumerate(shifts)}
+        accuracies = sorted({head[1] for _, head, *_ in rows.values() if head[1] is not None})
+        operands = [tuple(shift_at[value] for value in given) if method in ("geocentric", "offsets") else tuple(given)
+                    for _, _, method, given in rows.values()]
+        pool, start = self.pooled(operands)
+        texts = {code: self.text(head[0]) for code, (_, head, *_) in rows.items() if self.number_of(code, head[0]) is None}
+        areas = {code: self.area(table, code) for code, (table, *_) in rows.items()}
+
+        def line(code, head, method, given):
+            name, accuracy, deprecated = head
+            number = self.number_of(code, name)
+            flat, source, target = self.ends[code]
+            marks = ["deprecated"] * bool(deprecated) + ["superseded"] * (code in self.superseded) + ["flat"] * flat
+            said = f"numbered + {number}" if number is not None else texts[code]()
+            return (f"{{{said}, {0 if accuracy is None else accuracies.index(accuracy) + 1}, {code}, {self.places[source]}, "
+                    f"{self.places[target]}, {areas[code]()}, {start[given]}, OperationMethod::{method}, {len(given)}, "
+                    f"{' | '.join(marks) or 0}}}, // {name}")
+
+        self.table("operations.h", "Operations from datum to datum.", "inline constexpr OperationRow operations[] = {", lambda: [
+            line(code, head, method, given) for (code, (_, head, method, _)), given in zip(rows.items(), operands)])
+        self.table("operands.h", "What operations take, one after the other: indices of shifts or of grids, codes of steps.",
+                   "inline constexpr std::uint16_t operands[] = {", lambda: [f"{number}," for number in pool])
+        self.table("shifts.h", "Every number of an operation: metres, arcseconds, parts per million, years, degrees.",
+                   "inline constexpr double shifts[] = {", lambda: [f"{double(value)}," for value in shifts])
+        self.table("accuracies.h", "The accuracies that operations state, metres; 0 stands for none stated.",
+                   "inline constexpr double accuracies[] = {", lambda: ["-1,"] + [f"{double(decimal(value))}," for value in accuracies])
+        grid_texts = [[self.text(name) for name in grid[:3]] for grid in self.grids]
+        self.table("grids.h", "Grid files: the register's own, latitudes before longitudes; a copy as NTv2, and whether it runs backwards.",
+                   "inline constexpr GridRow grids[] = {", lambda: [
+                       f"{{{', '.join(str(place()) for place in places)}, {'true' if grid[3] else 'false'}}}, // {', '.join(filter(None, grid[:3]))}"
+                       for grid, places in zip(self.grids, grid_texts)])
+
+    def number_of(self, code, name):
+        """The n of an operation named "A to B (n)" after its systems."""
+        _, source, target = self.ends[code]
+        match = re.fullmatch(r"(.*) to (.*) \((\d+)\)", name)
+        return int(match[3]) if match and match[1] == self.systems[source] and match[2] == self.systems[target] else None
+
+    @staticmethod
+    def pooled(sequences):
+        """One list that has each sequence somewhere, and where."""
+        pool, start = [], {}
+        for sequence in sorted(set(sequences), key=lambda s: (-len(s), s)):
+            size = len(sequence)
+            found = next((i for i in range(len(pool) - size + 1) if tuple(pool[i:i + size]) == sequence), len(pool))
+            start[sequence] = found
+            if found == len(pool):
+                pool += sequence
+        return pool, start
 
     # Names
 

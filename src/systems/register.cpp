@@ -24,12 +24,6 @@ Unit angularUnitOf(AxesRow const& row) {
     return unit && unit->factor != 1 ? unitOfRow(*unit) : degree;
 }
 
-std::optional<Area> areaOf(AreaRow const& row) {
-    if (row.west == row.east && row.south == row.north)
-        return {};
-    return Area{row.west / 100.0, row.south / 100.0, row.east / 100.0, row.north / 100.0, at(row.name)};
-}
-
 void setConversion(Definition& definition, ConversionRow const& row) {
     definition.conversionName = at(row.name);
     definition.conversionCode = row.code;

@@ -11,7 +11,7 @@ namespace ZrProj::systems::rows {
 
 // clang-format off
 inline constexpr AliasRow meridianAliases[] = {
-    {0, 142702, 8914, Maker::esri}, // Paris_RGS
+    {0, 149067, 8914, Maker::esri}, // Paris_RGS
 };
 // clang-format on
 

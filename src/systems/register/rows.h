@@ -1,7 +1,7 @@
 // What the rows of the register's tables are made of. Numbers are in degrees and metres.
 #pragma once
 
-#include "systems/definition.h"
+#include "systems/operations.h"
 
 #include <cstdint>
 
@@ -86,6 +86,32 @@ struct AliasRow {
     std::uint32_t beginning : 8, rest : 24; // an index of `beginnings`; a Text
     std::uint16_t code;
     Maker maker;
+};
+
+/// An operation from datum to datum.
+struct OperationRow {
+    std::uint32_t name : 24;    // a Text; from `numbered` up, the n of "A to B (n)"
+    std::uint32_t accuracy : 8; // an index
+    std::uint16_t code;
+    std::uint16_t from, to; // indices of geographic systems in two dimensions
+    std::uint16_t area;     // an index
+    std::uint16_t operands; // the index of the first one
+    OperationMethod method;
+    std::uint8_t count : 4; // of operands
+    std::uint8_t marks : 4; // OperationMark
+};
+inline constexpr std::uint32_t numbered = 1U << 23;
+
+enum OperationMark : std::uint8_t {
+    deprecated = 1,
+    superseded = 2, // by one in force between the same systems
+    flat = 4,       // said between systems of two dimensions
+};
+
+struct GridRow {
+    Text first, second; // the files' names; "" where there is no second one
+    Text copy;          // what an NTv2 file of the same shifts is called; "" where nobody has one
+    bool copyIsReversed;
 };
 
 } // namespace ZrProj::systems::rows

@@ -1,6 +1,7 @@
 // All tables of the register. Included by the sources that look things up; nothing else sees rows.
 #pragma once
 
+#include "systems/register/accuracies.h"
 #include "systems/register/areas.h"
 #include "systems/register/axes.h"
 #include "systems/register/beginnings.h"
@@ -11,13 +12,17 @@
 #include "systems/register/ellipsoid_aliases.h"
 #include "systems/register/ellipsoid_names.h"
 #include "systems/register/ellipsoids.h"
+#include "systems/register/grids.h"
 #include "systems/register/meridian_aliases.h"
 #include "systems/register/meridian_names.h"
 #include "systems/register/meridians.h"
+#include "systems/register/operands.h"
+#include "systems/register/operations.h"
 #include "systems/register/pairs.h"
 #include "systems/register/parts.h"
 #include "systems/register/realizations.h"
 #include "systems/register/replacements.h"
+#include "systems/register/shifts.h"
 #include "systems/register/system_aliases.h"
 #include "systems/register/system_names.h"
 #include "systems/register/systems.h"
@@ -31,6 +36,7 @@
 #include <algorithm>
 #include <cstddef>
 #include <iterator>
+#include <optional>
 #include <string>
 
 namespace ZrProj::systems::rows {
@@ -49,6 +55,13 @@ inline std::string at(Text text) {
     for (char const* byte = texts + text; *byte != 0; ++byte)
         unpack(unpacked, static_cast<unsigned char>(*byte));
     return unpacked;
+}
+
+/// Nothing where the register says no bounds.
+inline std::optional<Area> areaOf(AreaRow const& row) {
+    if (row.west == row.east && row.south == row.north)
+        return {};
+    return Area{row.west / 100.0, row.south / 100.0, row.east / 100.0, row.north / 100.0, at(row.name)};
 }
 
 /// The row of a table that has a code, or null.
