@@ -23,10 +23,10 @@ struct Option {
     std::size_t offset;
 };
 
-/// Options that say nothing of horizontal coordinates, or nothing that must be said here.
-constexpr std::string_view silentKeys[] = {"no_defs",   "type",      "wktext",     "title",  "over",
-                                           "vunits",    "vto_meter", "geoidgrids", "approx", "north",
-                                           "geoid_crs", "rough",     "multi"};
+/// Options that say nothing of horizontal coordinates, or nothing that must be said here; "no_def" is a common slip.
+constexpr std::string_view silentKeys[] = {"no_defs", "no_def",    "type",      "wktext",     "title",
+                                           "over",    "vunits",    "vto_meter", "geoidgrids", "approx",
+                                           "north",   "geoid_crs", "rough",     "multi"};
 
 /// Options that the reader takes besides a method's parameters.
 constexpr std::string_view takenKeys[] = {"proj", "ellps", "datum",   "a",        "b",      "rf",    "f",

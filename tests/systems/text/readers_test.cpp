@@ -168,6 +168,7 @@ TEST(Readers, ProjStringsByTheirOwnRules) {
     EXPECT_EQ(read("+proj=longlat").datum.code, 6326);
     EXPECT_EQ(read("+proj=longlat +ellps=WGS84").datum.code, 0);
     EXPECT_EQ(read("proj=longlat datum=NAD27 no_defs").code, 4267);
+    EXPECT_EQ(read("+proj=longlat +datum=NAD27 +no_def").code, 4267);
     EXPECT_EQ(read("+proj=longlat +a=1000 +b=990").datum.ellipsoid.inverseFlattening, 100);
     EXPECT_NEAR(read("+proj=longlat +pm=3d41'16.58\"W").datum.meridian.longitude, -3.68793888888889, 1e-13);
     EXPECT_EQ(read("+proj=tmerc +lat_0=1 +lat_0=2").parameters[Parameter::latitudeOfOrigin], 1);
