@@ -1,6 +1,8 @@
-// The header of a NADCON grid: what the grid covers.
+// NADCON grids: what one covers, and a pair of them as a whole.
 #pragma once
 
+#include "datum/grid_problem.h"
+#include "datum/grid_set.h"
 #include "host/platform.h"
 
 #include <zrproj/datum.h>
@@ -8,6 +10,8 @@
 #include <cstdint>
 #include <optional>
 #include <string>
+#include <variant>
+#include <vector>
 
 namespace ZrProj {
 
@@ -24,6 +28,8 @@ struct NadconGrid {
 
     /// Nothing outside the grid, and for a marked point.
     std::optional<NadconCell> locate(DATUMPOINT const& point) const;
+
+    bool operator==(NadconGrid const&) const = default;
 };
 
 /// Nothing where the header cannot be read or is absurd.
@@ -38,5 +44,12 @@ struct NadconSearch {
 /// The header of the grid of that name: a path of either file, or of both without their extension, or a grid beside the
 /// running program.
 NadconSearch findNadconGrid(std::string const& name);
+
+/// A pair as one grid, its nodes in `words`, which must live as long. Unlike convertNadcon it shifts points between the
+/// nodes only, and takes both conventions: in a pair of this library's (longitudes in .LAS, east positive) the leading
+/// word of each row is the row's first value, as `zrproj grid import` makes it; all others are as they are published
+/// (latitudes in .las, longitudes in .los, west positive). Refused are files that are no pair or cut short.
+std::variant<datum::GridSet, datum::GridProblem> readNadconPair(std::string const& lasPath, std::string const& losPath,
+                                                                std::vector<std::uint64_t>& words);
 
 } // namespace ZrProj

@@ -50,6 +50,10 @@ inline double fromBits(std::uint64_t bits) {
 inline double lookUp(double const* table, double index) {
     return table[static_cast<std::size_t>(index)];
 }
+/// The same of words that need be no numbers.
+inline std::uint64_t lookUp(std::uint64_t const* table, double index) {
+    return table[static_cast<std::size_t>(index)];
+}
 
 #if defined(ZRPROJ_LEVEL_scalar)
 
@@ -140,10 +144,16 @@ inline Bits bitsOf(Register x) {
 inline Register fromBits(Bits bits) {
     return Register(xsimd::bitwise_cast<xsimd::batch<double, Architecture>>(bits.v));
 }
+/// Whole numbers from 0 to 2^32 - 1 as such.
+inline auto wholeOf(Register x) {
+    auto const bits = bitsOf(x + 0x1p52) & 0xFFFFFFFF;
+    return xsimd::bitwise_cast<xsimd::batch<std::int64_t, Architecture>>(bits.v);
+}
 inline Register lookUp(double const* table, Register index) {
-    auto const bits = bitsOf(index + 0x1p52) & 0xFFFFFFFF;
-    auto const whole = xsimd::bitwise_cast<xsimd::batch<std::int64_t, Architecture>>(bits.v);
-    return Register(xsimd::batch<double, Architecture>::gather(table, whole));
+    return Register(xsimd::batch<double, Architecture>::gather(table, wholeOf(index)));
+}
+inline Bits lookUp(std::uint64_t const* table, Register index) {
+    return {xsimd::batch<std::uint64_t, Architecture>::gather(table, wholeOf(index))};
 }
 inline Register copySign(Register magnitude, Register sign) {
     Register const negativeZero = -0.0;
