@@ -397,12 +397,14 @@ class Register:
         return parts
 
     def read_parts(self):
-        parts = dict(self.horizontal)
+        """Geocentric systems have no part whose coordinates theirs would be."""
+        geocentric = {code for code, in self.ask("SELECT code FROM geodetic_crs WHERE auth_name = 'EPSG' AND type = 'geocentric'")}
+        parts = {code: part for code, part in self.horizontal.items() if code not in geocentric}
         for code, horizontal in self.ask("""SELECT code, horiz_crs_code FROM compound_crs WHERE auth_name = 'EPSG'
                                             AND horiz_crs_auth_name = 'EPSG'"""):
             parts[code] = parts.get(horizontal, horizontal)
         parts |= {code: NICKNAMES[code] for code in self.nicknames}
-        self.table("parts.h", "Systems of three dimensions, geocentric or with heights: the horizontal part; nicknames: what they are.",
+        self.table("parts.h", "Systems of three dimensions or with heights: the horizontal part; nicknames: what they are.",
                    "inline constexpr PartRow parts[] = {", lambda: [f"{{{code}, {part}}}," for code, part in sorted(parts.items())])
         replacements = {}
         for code, other in self.ask("""SELECT deprecated_code, replacement_code FROM deprecation WHERE deprecated_auth_name = 'EPSG'

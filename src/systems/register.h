@@ -17,7 +17,8 @@ std::string_view registerTerms();
 
 // Each by its code; nothing where the register has no such thing.
 
-/// A code of a system in three dimensions, geocentric or with heights gives the horizontal part, with that one's code.
+/// A code of a system in three dimensions or with heights gives the horizontal part, with that one's code. Geocentric
+/// systems, whose coordinates are no longitudes and latitudes, are none here.
 std::optional<Definition> definitionOf(Code code);
 std::optional<Datum> datumOf(Code code);
 std::optional<Ellipsoid> ellipsoidOf(Code code);
