@@ -10,7 +10,7 @@
 #include <zrproj/reffile.h>
 
 #include <limits>
-#include <ranges>
+#include <sstream>
 
 using namespace ZrProj;
 using namespace ZrProj::Door;
@@ -127,9 +127,10 @@ std::vector<std::string> explanations(ZrBitmapTagList const& tags) {
     std::array<char, 2048> text{};
     ZrProjExplainGeoTIFF(tags, text.data(), static_cast<int>(text.size()));
     std::vector<std::string> lines;
-    for (auto const line : std::views::split(std::string_view(text.data()), '\n'))
+    std::istringstream in(text.data());
+    for (std::string line; std::getline(in, line);)
         if (!line.empty())
-            lines.emplace_back(line.begin(), line.end());
+            lines.push_back(std::move(line));
     return lines;
 }
 
