@@ -37,6 +37,11 @@ void completeFigures(DATUM2WGS84& record) noexcept {
     record.Flattening = EllipsoidFlattening(record.Ellipsoid);
 }
 
+bool standsOn(DATUM2WGS84 const& datum, Figure const& figure) noexcept {
+    Figure const own = figureOf(datum);
+    return own.type == EllipsoidTypeNone || (datum.PrimeMeridian == 0 && areNear(own, figure, 1, 1));
+}
+
 void fillRecord(DATUM2WGS84& record, DatumRow const& row) noexcept {
     record.Method = row.method;
     record.bFromWGS84 = false;

@@ -2,6 +2,7 @@
 #pragma once
 
 #include "datum/datum_table.h"
+#include "proj/figure.h"
 
 namespace ZrProj {
 
@@ -16,5 +17,9 @@ void fillRecord(DATUM2WGS84& record, DatumRow const& row) noexcept;
 
 /// Radius and flattening from the ellipsoid catalogue, unless they are the caller's own.
 void completeFigures(DATUM2WGS84& record) noexcept;
+
+/// Whether a datum stands on a figure, counted from Greenwich. To a metre, which is better than any datum is known: the
+/// catalogue has one Clarke 1880 for several. A datum without parameters is not held to any.
+bool standsOn(DATUM2WGS84 const& datum, Figure const& figure) noexcept;
 
 } // namespace ZrProj

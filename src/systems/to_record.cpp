@@ -3,12 +3,13 @@
 // Accuracy  1e-14 in the scale factors, 1e-12 degrees in the parallels.
 #include "systems/to_record.h"
 
+#include "datum/catalogue.h"
+#include "proj/figure.h"
 #include "proj/projection_table.h"
 #include "systems/method_table.h"
 #include "systems/names.h"
 #include "systems/register.h"
 
-#include <zrproj/ellipsoid.h>
 #include <zrproj/zones.h>
 
 #include <algorithm>
@@ -24,32 +25,14 @@ namespace {
 using Given = formulas::ParametersInDegrees;
 using Made = std::variant<PROJDATA, Unsupported>;
 
-/// An ellipsoid as records have it.
-struct Figure {
-    EllipsoidType type = EllipsoidTypeNone;
-    double radius = 0, flattening = 0;
-};
-
-/// Nothing for a number that is no ellipsoid of the catalogue.
-std::optional<Figure> figureOf(EllipsoidType type) {
-    if (type <= EllipsoidTypeUserDefined || type >= EllipsoidTypeNone)
-        return {};
-    return Figure{type, EllipsoidRadius(type), EllipsoidFlattening(type)};
-}
-
-/// Whether two ellipsoids differ by less than so many metres, in the radius and at the poles.
-bool areNear(Figure const& a, Figure const& b, double radius, double pole) {
-    return std::fabs(a.radius - b.radius) < radius && std::fabs(a.flattening - b.flattening) * a.radius < pole;
-}
-
 /// The catalogue's ellipsoid of these figures, the one with that code rather than another; otherwise the user's own.
-Figure figureOf(double radius, double flattening, Code code) {
+Figure catalogueFigureOf(double radius, double flattening, Code code) {
     Figure const own{EllipsoidTypeUserDefined, radius, flattening};
     Figure best = own;
     for (std::int32_t i = EllipsoidTypeNone - 1; i > EllipsoidTypeUserDefined; --i) {
         int posc = 0;
         bool const hasCode = code != 0 && EllipsoidToPOSCNumber(best.type, &posc) && posc == code;
-        auto const candidate = *figureOf(static_cast<EllipsoidType>(i));
+        Figure const candidate = figureOf(static_cast<EllipsoidType>(i), 0, 0);
         if (!hasCode && areNear(own, candidate, 1e-3, 1e-5))
             best = candidate;
     }
@@ -58,7 +41,7 @@ Figure figureOf(double radius, double flattening, Code code) {
 
 Figure figureOf(Ellipsoid const& ellipsoid) {
     double const flattening = ellipsoid.inverseFlattening == 0 ? 0 : 1 / ellipsoid.inverseFlattening;
-    return figureOf(ellipsoid.semiMajor, flattening, ellipsoid.code);
+    return catalogueFigureOf(ellipsoid.semiMajor, flattening, ellipsoid.code);
 }
 
 void setFigure(PROJDATA& record, Figure const& figure) {
@@ -199,7 +182,7 @@ Made projectionOf(Definition const& system, Conversion conversion) {
     Figure figure = figureOf(system.datum.ellipsoid);
     double scale = p.a / system.datum.ellipsoid.semiMajor;
     if (p.f == 0 && figure.flattening != 0) {
-        figure = figureOf(p.a, 0, 0);
+        figure = catalogueFigureOf(p.a, 0, 0);
         scale = 1;
     }
     auto const* const row = rowFor(conversion);
@@ -263,9 +246,7 @@ bool isSameMap(PROJDATA a, PROJDATA b, double tolerance) {
 bool isDefinedAs(PROJDATA const& zone, PROJDATA const& projection) {
     bool const isOblique = zone.Type == ProjTypeHotineObliqueMercator;
     bool const isNear = isOblique || std::fabs(zone.Lon0 - projection.Lon0) < 1e-6;
-    Figure const figure{zone.Ellipsoid, zone.MajorRadius, zone.Flattening},
-        other{projection.Ellipsoid, projection.MajorRadius, projection.Flattening};
-    if (zone.Type != projection.Type || !isNear || !areNear(figure, other, 1e-3, 1e-5))
+    if (zone.Type != projection.Type || !isNear || !areNear(figureOf(zone), figureOf(projection), 1e-3, 1e-5))
         return false;
     PROJDATA inMetres = projection;
     inMetres.Scale = 1;
@@ -290,7 +271,7 @@ std::optional<PROJDATA> statePlaneOf(Definition const& system, PROJDATA const& p
         if (!zone || (found && !isNamed(i, system)) || !isDefinedAs(*zone, projection))
             continue;
         record.Scale = projection.Scale;
-        setFigure(record, {zone->Ellipsoid, zone->MajorRadius, zone->Flattening});
+        setFigure(record, figureOf(*zone));
         found = record;
     }
     return found;
@@ -339,13 +320,6 @@ DatumType catalogueDatumOf(Datum const& datum) {
         return DatGetDatumFromPOSCNumber(&type, greenwichCodeOf(datum)) ? type : DatumTypeNone;
     bool const found = DatGetDatumFromName(&type, datum.name.c_str());
     return found && type != DatumTypeUserDefined ? type : DatumTypeNone;
-}
-
-/// Whether a datum stands on the ellipsoid, counted from Greenwich. To a metre, which is better than any datum is
-/// known: the catalogue has one Clarke 1880 for several. A datum without parameters is not held to any.
-bool standsOn(DATUM2WGS84 const& parameters, Figure const& figure) {
-    auto const own = figureOf(parameters.Ellipsoid);
-    return !own || (parameters.PrimeMeridian == 0 && areNear(*own, figure, 1, 1));
 }
 
 /// By shifts alone where there is nothing else.

@@ -96,29 +96,21 @@ std::uint16_t codeOfLengthUnit(double perMetre) {
     return code == 0 ? std::uint16_t{userDefined} : static_cast<std::uint16_t>(code);
 }
 
-Ellipsoid ellipsoidOf(EllipsoidType type, double radius, double flattening) {
-    if (type == EllipsoidTypeUserDefined)
-        return radius > 0 ? Ellipsoid{type, radius, flattening} : Ellipsoid{};
-    if (type < 0 || type >= EllipsoidTypeNone)
-        return {};
-    return {type, EllipsoidRadius(type), EllipsoidFlattening(type)};
+systems::Ellipsoid definitionOf(Figure const& figure) {
+    return {"unknown", figure.radius, figure.flattening == 0 ? 0 : 1 / figure.flattening, 0};
 }
 
-systems::Ellipsoid definitionOf(Ellipsoid const& ellipsoid) {
-    return {"unknown", ellipsoid.radius, ellipsoid.flattening == 0 ? 0 : 1 / ellipsoid.flattening, 0};
-}
-
-void writeEllipsoid(KeyDirectory& keys, Ellipsoid const& ellipsoid) {
+void writeEllipsoid(KeyDirectory& keys, Figure const& figure) {
     int posc = 0;
-    auto const figure = definitionOf(ellipsoid);
-    auto const own = EllipsoidToPOSCNumber(ellipsoid.type, &posc) ? systems::ellipsoidOf(posc) : std::nullopt;
-    systems::Code const code = own && sameFigures(*own, figure) ? posc : systems::ellipsoidWith(figure);
+    auto const ellipsoid = definitionOf(figure);
+    auto const own = EllipsoidToPOSCNumber(figure.type, &posc) ? systems::ellipsoidOf(posc) : std::nullopt;
+    systems::Code const code = own && sameFigures(*own, ellipsoid) ? posc : systems::ellipsoidWith(ellipsoid);
     keys.setCode(keyEllipsoid, code == 0 ? std::uint16_t{userDefined} : static_cast<std::uint16_t>(code));
-    keys.setNumber(keySemiMajorAxis, ellipsoid.radius);
-    if (ellipsoid.flattening == 0)
-        keys.setNumber(keySemiMinorAxis, ellipsoid.radius);
+    keys.setNumber(keySemiMajorAxis, figure.radius);
+    if (figure.flattening == 0)
+        keys.setNumber(keySemiMinorAxis, figure.radius);
     else
-        keys.setNumber(keyInverseFlattening, 1 / ellipsoid.flattening);
+        keys.setNumber(keyInverseFlattening, 1 / figure.flattening);
 }
 
 } // namespace ZrProj::GeoTIFF

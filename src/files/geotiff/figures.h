@@ -2,9 +2,8 @@
 #pragma once
 
 #include "files/geotiff/keys.h"
+#include "proj/figure.h"
 #include "systems/definition.h"
-
-#include <zrproj/ellipsoid.h>
 
 namespace ZrProj::GeoTIFF {
 
@@ -23,19 +22,9 @@ bool sameFigures(systems::Ellipsoid const& a, systems::Ellipsoid const& b);
 /// The code of the unit that as many of make a metre, 32767 where no unit is of that size.
 std::uint16_t codeOfLengthUnit(double perMetre);
 
-/// An ellipsoid as records have it.
-struct Ellipsoid {
-    EllipsoidType type = EllipsoidTypeNone; // none where the records tell no ellipsoid
-    double radius = 0;
-    double flattening = 0;
-};
+/// A figure of records as definitions have it, without name and code.
+systems::Ellipsoid definitionOf(Figure const& figure);
 
-/// The catalogue's ellipsoid, or the user's own figures; none (type 50) where there are none.
-Ellipsoid ellipsoidOf(EllipsoidType type, double radius, double flattening);
-
-/// An ellipsoid of records as definitions have it, without name and code.
-systems::Ellipsoid definitionOf(Ellipsoid const& ellipsoid);
-
-void writeEllipsoid(KeyDirectory& keys, Ellipsoid const& ellipsoid);
+void writeEllipsoid(KeyDirectory& keys, Figure const& figure);
 
 } // namespace ZrProj::GeoTIFF

@@ -1,5 +1,6 @@
 #include "files/geotiff/geographic.h"
 
+#include "datum/catalogue.h"
 #include "datum/method_table.h"
 #include "files/geotiff/citations.h"
 #include "systems/names.h"
@@ -35,15 +36,6 @@ DATUM2WGS84 parametersOf(DatumType datum, DATUM2WGS84 const* own) {
     else if (datum != DatumTypeUserDefined)
         DatGetDatumParams(datum, &params);
     return params;
-}
-
-/// Whether a datum stands on the ellipsoid, counted from Greenwich. To a metre, which is better than any datum is
-/// known: the catalogue has one Clarke 1880 for several. A datum without parameters is not held to any.
-bool standsOn(DATUM2WGS84 const& params, Ellipsoid const& ellipsoid) {
-    Ellipsoid const own = ellipsoidOf(params.Ellipsoid, params.MajorRadius, params.Flattening);
-    return own.type == EllipsoidTypeNone ||
-           (params.PrimeMeridian == 0 && std::fabs(own.radius - ellipsoid.radius) < 1 &&
-            std::fabs(own.flattening - ellipsoid.flattening) * own.radius < 1);
 }
 
 /// The register's geographic system of a code.
@@ -170,15 +162,15 @@ Expected<Geographic> readSystem(KeyDirectory const& keys, Definition const* impl
 }
 
 /// The code of the system of a datum on an ellipsoid; 32767 where there is none.
-std::uint16_t codeOf(DatumType datum, Ellipsoid const& ellipsoid) {
+std::uint16_t codeOf(DatumType datum, Figure const& figure) {
     int posc = 0;
     if (!DatGetDatumPOSCNumber(datum, &posc))
         return userDefined;
-    auto const figure = definitionOf(ellipsoid);
+    auto const ellipsoid = definitionOf(figure);
     for (systems::Code const code : systems::systemsOn(posc)) {
         auto const system = systemOf(code);
         if (system && system->angularUnit.factor == 1 && system->datum.meridian.longitude == 0 &&
-            sameFigures(system->datum.ellipsoid, figure))
+            sameFigures(system->datum.ellipsoid, ellipsoid))
             return static_cast<std::uint16_t>(code);
     }
     return userDefined;
@@ -193,15 +185,15 @@ void writeToWgs84(KeyDirectory& keys, DATUM2WGS84 const& params) {
     keys.setNumbers(keyToWgs84, std::move(numbers));
 }
 
-void writeOwn(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum, DATUM2WGS84 const& params) {
-    std::array<char, 40> figure = {};
-    EllipsoidInfo(ellipsoid.type, figure.data(), nullptr, nullptr);
+void writeOwn(KeyDirectory& keys, Figure const& figure, DatumType datum, DATUM2WGS84 const& params) {
+    std::array<char, 40> ellipsoid = {};
+    EllipsoidInfo(figure.type, ellipsoid.data(), nullptr, nullptr);
     std::string const name = datum == DatumTypeNone ? "unknown" : nameOf(datum).data();
     keys.setText(keyGeographicCitation, "GCS Name = " + name + '|' + std::string(datumLabel) + name +
-                                            "|Ellipsoid = " + figure.data() + "|Primem = Greenwich|");
+                                            "|Ellipsoid = " + ellipsoid.data() + "|Primem = Greenwich|");
     keys.setCode(keyDatum, userDefined);
     keys.setCode(keyPrimeMeridian, meridianGreenwich);
-    writeEllipsoid(keys, ellipsoid);
+    writeEllipsoid(keys, figure);
     writeToWgs84(keys, params);
 }
 
@@ -247,7 +239,7 @@ Expected<Geographic> readGeographic(KeyDirectory const& keys, systems::Definitio
     return geographic;
 }
 
-Expected<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum,
+Expected<std::uint16_t> writeGeographic(KeyDirectory& keys, Figure const& figure, DatumType datum,
                                         DATUM2WGS84 const* own) {
     DATUM2WGS84 const params = parametersOf(datum, own);
     bool const shifted = datumMethodIs(params.Method, &DatumMethodRow::hasShifts);
@@ -255,17 +247,17 @@ Expected<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ell
         return Refusal{"a datum of the user's own needs its shifts to WGS 84"};
     if (datum != DatumTypeNone && nameOf(datum)[0] == '\0')
         return Refusal{"the datum is none of the catalogue's"};
-    if (ellipsoid.type == EllipsoidTypeNone)
+    if (figure.type == EllipsoidTypeNone)
         return Refusal{"the records tell no ellipsoid"};
     if (params.PrimeMeridian != 0)
         return Refusal{"the datum's longitudes are not counted from Greenwich"};
-    if (!standsOn(params, ellipsoid))
+    if (!standsOn(params, figure))
         return Refusal{"the datum and the projection have different ellipsoids"};
-    std::uint16_t const code = codeOf(datum, ellipsoid);
+    std::uint16_t const code = codeOf(datum, figure);
     keys.setCode(keyGeographicType, code);
     keys.setCode(keyAngleUnit, unitDegree);
     if (code == userDefined)
-        writeOwn(keys, ellipsoid, datum, params);
+        writeOwn(keys, figure, datum, params);
     return code;
 }
 

@@ -25,7 +25,7 @@ void settleDatum(systems::Datum& datum);
 
 /// Sets the geographic keys, and returns the system's code, 32767 for one without. `own` are the parameters of a datum
 /// of the user's own (0), and may be null for others.
-Expected<std::uint16_t> writeGeographic(KeyDirectory& keys, Ellipsoid const& ellipsoid, DatumType datum,
+Expected<std::uint16_t> writeGeographic(KeyDirectory& keys, Figure const& figure, DatumType datum,
                                         DATUM2WGS84 const* own);
 
 } // namespace ZrProj::GeoTIFF

@@ -173,9 +173,8 @@ double toleranceOf(ParameterRow const& parameter, double value) {
 }
 
 bool hasSameFigure(PROJDATA const& a, PROJDATA const& b) {
-    Ellipsoid const one = ellipsoidOf(a.Ellipsoid, a.MajorRadius, a.Flattening),
-                    other = ellipsoidOf(b.Ellipsoid, b.MajorRadius, b.Flattening);
-    return !ProjUsesParam(a.Type, ProjParamEllipsoid) || sameFigures(definitionOf(one), definitionOf(other));
+    return !ProjUsesParam(a.Type, ProjParamEllipsoid) ||
+           sameFigures(definitionOf(figureOf(a)), definitionOf(figureOf(b)));
 }
 
 /// Whether two records are the same by all that their type uses.
@@ -238,10 +237,9 @@ bool isOfWeb(PROJDATA const& record, DatumType datum) {
 Expected<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DATUM2WGS84 const* params) {
     PROJDATA const record = completed(given), described = definition(record);
     bool const ofWeb = isOfWeb(described, datum);
-    Ellipsoid const ellipsoid = ofWeb ? ellipsoidOf(EllipsoidTypeWgs84, 0, 0)
-                                      : ellipsoidOf(described.Ellipsoid, described.MajorRadius, described.Flattening);
+    Figure const figure = ofWeb ? figureOf(EllipsoidTypeWgs84, 0, 0) : figureOf(described);
     KeyDirectory keys;
-    auto const geographic = writeGeographic(keys, ellipsoid, datum, params);
+    auto const geographic = writeGeographic(keys, figure, datum, params);
     if (!geographic)
         return geographic.refusal();
     keys.setCode(keyModelType, modelProjected);
@@ -251,8 +249,8 @@ Expected<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DA
     if (ofWeb)
         return Refusal{"GeoTIFF has the sphere's Mercator on WGS 84 by its number alone"};
     PROJDATA withFigures = described;
-    withFigures.MajorRadius = ellipsoid.radius;
-    withFigures.Flattening = ellipsoid.flattening;
+    withFigures.MajorRadius = figure.radius;
+    withFigures.Flattening = figure.flattening;
     auto const method = methodFor(withFigures);
     if (!method)
         return method.refusal();
@@ -261,14 +259,14 @@ Expected<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DA
 }
 
 Expected<KeyDirectory> writeUnprojected(PROJDATA const& record, DatumType datum, DATUM2WGS84 const* params) {
-    Ellipsoid ellipsoid = ellipsoidOf(record.Ellipsoid, record.MajorRadius, record.Flattening);
+    Figure figure = figureOf(record);
     DATUM2WGS84 own = {};
     if (datum == DatumTypeUserDefined && params)
-        ellipsoid = ellipsoidOf(params->Ellipsoid, params->MajorRadius, params->Flattening);
+        figure = figureOf(*params);
     else if (DatGetDatumParams(datum, &own))
-        ellipsoid = ellipsoidOf(own.Ellipsoid, own.MajorRadius, own.Flattening);
+        figure = figureOf(own);
     KeyDirectory keys;
-    auto const geographic = writeGeographic(keys, ellipsoid, datum, params);
+    auto const geographic = writeGeographic(keys, figure, datum, params);
     if (!geographic)
         return geographic.refusal();
     keys.setCode(keyModelType, modelGeographic);
