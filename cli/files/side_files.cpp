@@ -15,15 +15,13 @@ zrproj_side_file kindOf(MapFile const& file) {
     return static_cast<zrproj_side_file>(file.kind);
 }
 
-/// The notes that a message tells.
-std::vector<std::string> split(std::string_view message) {
-    std::vector<std::string> notes;
-    while (!message.empty()) {
-        std::size_t const end = std::min(message.find("; "), message.size());
-        notes.emplace_back(message.substr(0, end));
-        message.remove_prefix(std::min(end + 2, message.size()));
-    }
-    return notes;
+/// What a file of that kind cannot carry.
+std::vector<std::string> lossOf(MapInfo const& info, zrproj_side_file kind) {
+    std::vector<std::string> lost;
+    std::array<char, 512> text{};
+    while (zrproj_description_loss(info.handle(), kind, lost.size(), text.data(), text.size(), nullptr) == ZRPROJ_OK)
+        lost.emplace_back(text.data());
+    return lost;
 }
 
 /// The method by which a file is read back that does not keep the one of a map; nothing for one that keeps all of it.
@@ -91,7 +89,7 @@ std::vector<std::string> writeSideFile(MapFile const& file, MapInfo const& info,
             refuseWide(file, miss, words);
     }
     MapInfo::check(zrproj_description_write(info.handle(), file.name.c_str(), kindOf(file)));
-    std::vector<std::string> notes = split(zrproj_message());
+    std::vector<std::string> notes = lossOf(info, kindOf(file));
     if (!words.empty() && !notes.empty())
         notes.back() += ", " + words;
     return notes;

@@ -549,11 +549,17 @@ ZRPROJ_API zrproj_status zrproj_description_miss(zrproj_description const* descr
 /// The georeference as a map of points. ZRPROJ_UNKNOWN where there is none; otherwise fails as zrproj_fit_create does.
 ZRPROJ_API zrproj_status zrproj_description_fit(zrproj_description const* description, zrproj_fit** fit);
 
+/// The n-th thing that a side file of a kind cannot carry of a description, as a sentence. The last one tells how a
+/// georeference is read back that the format cannot keep (zrproj_description_miss tells how well): from a world file by
+/// its affine fit, from an RSF file by a similarity, which cannot mirror. Buffer and length as for
+/// zrproj_transform_describe.
+ZRPROJ_API zrproj_status zrproj_description_loss(zrproj_description const* description, zrproj_side_file kind, size_t n,
+                                                 char* buffer, size_t size, size_t* length);
+
 /// Writes a side file of whatever name, in place of one that is there, which stays as it is until the new one is whole.
-/// The message tells what the format cannot carry, "; " between two such notes; the last one tells how a georeference
-/// is read back that the format cannot keep (zrproj_description_miss tells how well): from a world file by its affine
-/// fit, from an RSF file by a similarity, which cannot mirror. ZRPROJ_UNSUPPORTED where it can carry nothing of the
-/// description, and for a world file of control points that make no affine fit; ZRPROJ_FILE where writing fails.
+/// The message has all that zrproj_description_loss tells, as far as there is room. ZRPROJ_UNSUPPORTED where it can
+/// carry nothing of the description, and for a world file of control points that make no affine fit; ZRPROJ_FILE where
+/// writing fails.
 ZRPROJ_API zrproj_status zrproj_description_write(zrproj_description const* description, char const* path,
                                                   zrproj_side_file kind);
 

@@ -481,6 +481,16 @@ zrproj_status zrproj_description_fit(zrproj_description const* description, zrpr
     });
 }
 
+zrproj_status zrproj_description_loss(zrproj_description const* description, zrproj_side_file kind, size_t n,
+                                      char* buffer, size_t size, size_t* length) {
+    return answer([&]() -> Answer {
+        if (!description || !isKind(kind))
+            return badArgument("no description, or no kind of file");
+        auto const lost = lossOf(static_cast<SideFileKind>(kind), mapRecordOf(*description));
+        return n < lost.size() ? giveText(lost[n], buffer, size, length) : pastTheLast(n, lost.size());
+    });
+}
+
 zrproj_status zrproj_description_write(zrproj_description const* description, char const* path, zrproj_side_file kind) {
     return answer([&]() -> Answer {
         if (!description || isEmpty(path) || !isKind(kind))

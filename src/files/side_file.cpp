@@ -140,38 +140,19 @@ struct Written {
     }
 };
 
-bool writeReference(std::string const& name, MapRecord const& record, FileOutcome& outcome) {
+bool writeReference(std::string const& name, MapRecord const& record) {
     Written written(record.georef);
-    if (hasCoefficients(record.georef)) {
+    if (hasCoefficients(record.georef))
         written.becomeCorners();
-        outcome.notes.emplace_back(
-            "the six coefficients are written as four control points of an affine fit, since the "
-            "format keeps only one coefficient");
-    }
     MapRecord copy = record;
     copy.georef = written.georef;
     return writeReferenceFile(name, copy) == WriteResult::Written;
 }
 
-/// What a file of nothing but a georeference leaves out.
-void noteLostSystem(MapRecord const& record, FileOutcome& outcome) {
-    if (record.projection.Type != ProjTypeUndefined)
-        outcome.notes.emplace_back("the projection is left out: the format has none");
-    if (record.datum != DatumTypeNone)
-        outcome.notes.emplace_back("the datum is left out: the format has none");
-}
-
-bool writeRsf(std::string const& name, MapRecord const& record, FileOutcome& outcome) {
+bool writeRsf(std::string const& name, MapRecord const& record) {
     Written written(record.georef);
-    noteLostSystem(record, outcome);
-    if (hasCoefficients(record.georef)) {
+    if (hasCoefficients(record.georef))
         written.becomeCorners();
-        outcome.notes.emplace_back(
-            "the six coefficients are written as four control points, read back as a similarity (Helmert)");
-    } else {
-        outcome.notes.emplace_back(std::string("the method is left out: the control points of ") +
-                                   RefMethodName(record.georef.Method) + " are read back as a similarity (Helmert)");
-    }
     return writeRsfFile(name, written.georef);
 }
 
@@ -183,16 +164,35 @@ void dropRemains(GEOREF& fit) {
             *slope = 0;
 }
 
-bool writeWorld(std::string const& name, MapRecord const& record, FileOutcome& outcome) {
+bool writeWorld(std::string const& name, MapRecord const& record) {
     GEOREF centred = record.georef; // its controls stay those of the original
-    noteLostSystem(record, outcome);
     if (!hasCoefficients(centred)) {
         RefControlsToCoeff(&centred);
         dropRemains(centred);
-        outcome.notes.emplace_back("the control points are fitted by an affine map");
     }
     moveToCentre(centred);
     return writeWorldFile(name, centred);
+}
+
+/// What becomes of a georeference in a file of that kind; "" where that keeps it.
+std::string changeOf(SideFileKind kind, GEOREF const& georef) {
+    bool const isByCoefficients = hasCoefficients(georef);
+    if (georef.Method == TransformMethodNone)
+        return "";
+    switch (kind) {
+    case SideFileKind::reference:
+        return isByCoefficients ? "the six coefficients are written as four control points of an affine fit, since the "
+                                  "format keeps only one coefficient"
+                                : "";
+    case SideFileKind::rsf:
+        return isByCoefficients
+                   ? "the six coefficients are written as four control points, read back as a similarity (Helmert)"
+                   : std::string("the method is left out: the control points of ") + RefMethodName(georef.Method) +
+                         " are read back as a similarity (Helmert)";
+    case SideFileKind::world:
+        return isByCoefficients ? "" : "the control points are fitted by an affine map";
+    }
+    return "";
 }
 
 /// What a file of that kind lacks of a record to be written, "" where nothing.
@@ -212,7 +212,7 @@ std::string lack(SideFileKind kind, MapRecord const& record) {
 // In the order of SideFileKind.
 struct Format {
     std::string (*read)(std::FILE& file, std::string const& name, OwnedMapRecord& record, FileOutcome& outcome);
-    bool (*write)(std::string const& name, MapRecord const& record, FileOutcome& outcome);
+    bool (*write)(std::string const& name, MapRecord const& record);
 };
 constexpr std::array formats{Format{readReference, writeReference}, Format{readRsf, writeRsf},
                              Format{readWorld, writeWorld}};
@@ -266,6 +266,18 @@ FileOutcome readSideFile(std::string const& name, SideFileKind kind, OwnedMapRec
     return outcome;
 }
 
+std::vector<std::string> lossOf(SideFileKind kind, MapRecord const& record) {
+    std::vector<std::string> lost;
+    bool const hasSystem = kind == SideFileKind::reference;
+    if (!hasSystem && record.projection.Type != ProjTypeUndefined)
+        lost.emplace_back("the projection is left out: the format has none");
+    if (!hasSystem && record.datum != DatumTypeNone)
+        lost.emplace_back("the datum is left out: the format has none");
+    if (auto change = changeOf(kind, record.georef); !change.empty())
+        lost.push_back(std::move(change));
+    return lost;
+}
+
 FileOutcome writeSideFile(std::string const& name, SideFileKind kind, MapRecord const& record) {
     if (std::string const lacking = lack(kind, record); !lacking.empty())
         return {lacking + " to write to " + inQuotes(name), {}, false};
@@ -273,9 +285,9 @@ FileOutcome writeSideFile(std::string const& name, SideFileKind kind, MapRecord 
     ReplacementFile file(name);
     if (file.name().empty())
         return {beginning + file.reason()};
-    FileOutcome outcome;
+    FileOutcome outcome{"", lossOf(kind, record)};
     errno = 0;
-    if (!formatOf(kind).write(file.name(), record, outcome))
+    if (!formatOf(kind).write(file.name(), record))
         outcome.failure = beginning + (errno ? systemMessage() : "writing failed");
     else if (!file.commit())
         outcome.failure = beginning + file.reason();

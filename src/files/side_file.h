@@ -48,8 +48,12 @@ struct FileOutcome {
 /// world file, which count from its centre, are shifted.
 FileOutcome readSideFile(std::string const& name, SideFileKind kind, OwnedMapRecord& record);
 
-/// Writes what the format can carry, in place of a file that is there, which stays until the new one is whole. The last
-/// note of a file that keeps no method tells what becomes of the georeference.
+/// What a file of that kind cannot carry of a record, in words. The last of them tells what becomes of a georeference
+/// that the format does not keep.
+std::vector<std::string> lossOf(SideFileKind kind, MapRecord const& record);
+
+/// Writes what the format can carry, in place of a file that is there, which stays until the new one is whole. The rest
+/// is noted.
 FileOutcome writeSideFile(std::string const& name, SideFileKind kind, MapRecord const& record);
 
 // The formats themselves, of coordinates as they are in the file.

@@ -62,6 +62,14 @@ zrproj_status write(Description const& description, std::string const& path, zrp
     return zrproj_description_write(description.get(), path.c_str(), kind);
 }
 
+std::vector<std::string> lossOf(Description const& description, zrproj_side_file kind) {
+    std::vector<std::string> lost;
+    char text[200];
+    while (zrproj_description_loss(description.get(), kind, lost.size(), text, sizeof text, nullptr) == ZRPROJ_OK)
+        lost.emplace_back(text);
+    return lost;
+}
+
 std::vector<std::string> namesIn(TemporaryDirectory const& directory) {
     std::vector<std::string> names;
     for (auto const& entry : std::filesystem::directory_iterator(directory.path()))
@@ -125,6 +133,30 @@ TEST(DoorDescription, WritesWhatItReads) {
     ASSERT_EQ(write(given, name, ZRPROJ_RSF_FILE), ZRPROJ_OK);
     EXPECT_EQ(georeferenceOf(read(name, ZRPROJ_RSF_FILE)).count, 4U);
     EXPECT_EQ(namesIn(directory), std::vector<std::string>{"any name"});
+}
+
+TEST(DoorDescription, TellsWhatFilesCannotCarry) {
+    std::string const projection = "the projection is left out: the format has none",
+                      datum = "the datum is left out: the format has none";
+    EXPECT_EQ(lossOf(scan(), ZRPROJ_WORLD_FILE), (std::vector{projection, datum}));
+    auto const ofRsf = lossOf(scan(), ZRPROJ_RSF_FILE);
+    ASSERT_EQ(ofRsf.size(), 3U);
+    EXPECT_NE(ofRsf[2].find("similarity"), std::string::npos);
+    EXPECT_EQ(lossOf(scan(), ZRPROJ_REFERENCE_FILE).size(), 1U); // coefficients become control points
+    EXPECT_EQ(lossOf(scan(false), ZRPROJ_WORLD_FILE).size(), 0U);
+
+    TemporaryDirectory const directory;
+    auto const name = directory.file("map.zrr");
+    ASSERT_EQ(write(scan(), name, ZRPROJ_REFERENCE_FILE), ZRPROJ_OK);
+    Description const controls = read(name, ZRPROJ_REFERENCE_FILE);
+    EXPECT_EQ(lossOf(controls, ZRPROJ_REFERENCE_FILE).size(), 0U);
+    EXPECT_EQ(lossOf(controls, ZRPROJ_WORLD_FILE),
+              (std::vector<std::string>{projection, datum, "the control points are fitted by an affine map"}));
+    std::size_t length = 0;
+    EXPECT_EQ(zrproj_description_loss(controls.get(), ZRPROJ_WORLD_FILE, 0, nullptr, 0, &length), ZRPROJ_BAD_ARGUMENT);
+    EXPECT_EQ(length, projection.size());
+    EXPECT_EQ(zrproj_description_loss(controls.get(), ZRPROJ_WORLD_FILE, 3, nullptr, 0, nullptr), ZRPROJ_UNKNOWN);
+    EXPECT_EQ(zrproj_description_loss(nullptr, ZRPROJ_WORLD_FILE, 0, nullptr, 0, nullptr), ZRPROJ_BAD_ARGUMENT);
 }
 
 TEST(DoorDescription, KeepsADatumOfItsOwn) {
