@@ -1,6 +1,6 @@
 // zrproj grid: the grids that NADCON datums need.
 #include "cli/commands/commands.h"
-#include "cli/files/grid_import.h"
+#include "cli/files/grids.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
 

@@ -9,7 +9,6 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
-#include <cmath>
 #include <string>
 #include <vector>
 
@@ -36,10 +35,11 @@ std::optional<UtmZone> readUtmZone(std::string_view text) {
     return utmZone(zone, south != 0);
 }
 
+/// Any zone will do for what is no place.
 UtmZone utmZoneOf(PROJPOINT point) {
-    // The library truncates; whole degrees, rounded down, are the same to it and to us.
-    double const degrees = std::floor(std::remainder(point.x, 360));
-    return utmZone(ProjUTMLonToZoneNumber(degrees), point.y < 0);
+    int zone = 1, south = 0;
+    zrproj_utm_zone(point.x, point.y, &zone, &south);
+    return utmZone(zone, south != 0);
 }
 
 std::string_view utmZoneName(UtmZone zone) {

@@ -3,7 +3,6 @@
 
 #include "cli/model/projection.h"
 #include "cli/model/zones.h"
-#include "cli/points/datum_converter.h"
 #include "cli/points/layout.h"
 #include "cli/points/point_converter.h"
 #include "cli/text/output.h"

@@ -57,4 +57,31 @@ void PointConverter::convert(bool backwards, std::span<PROJPOINT> points, std::s
     }
 }
 
+DatumConverter::DatumConverter(DatumShift const& shift) {
+    auto const from = parametersOf(shift.from), to = parametersOf(shift.to);
+    zrproj_datum_shift* made = nullptr;
+    if (zrproj_datum_shift_create(&from, &to, &made) != ZRPROJ_OK)
+        throw UsageError(zrproj_message());
+    m_shift.reset(made);
+}
+
+void DatumConverter::convert(std::span<PROJPOINT> points, std::span<PointState> states) {
+    if (points.empty())
+        return;
+    m_given.assign(points.begin(), points.end());
+    m_reasons.resize(points.size());
+    if (zrproj_datum_shift_points(m_shift.get(), &points.data()->x, &points.data()->y, sizeof(PROJPOINT), points.size(),
+                                  m_reasons.data()) != ZRPROJ_OK)
+        throw std::runtime_error(std::string("the datum conversion fails: ") + zrproj_message());
+    for (std::size_t i = 0; i < points.size(); ++i) {
+        PointState const state = stateOf(m_reasons[i]);
+        if (hasResult(states[i]) && state != PointState::Good)
+            states[i] = state == PointState::Outside ? PointState::NoResult : state;
+        if (!hasResult(states[i]))
+            points[i] = mark;
+        else if (state == PointState::OffGrid)
+            points[i] = m_given[i];
+    }
+}
+
 } // namespace ZrProj::Command

@@ -1,6 +1,7 @@
-// Points through one system's projection, with every result good or marked.
+// Points through one system's projection, and from one datum to another, with every result good or marked.
 #pragma once
 
+#include "cli/model/datums.h"
 #include "cli/model/system.h"
 
 #include <zrproj/zrproj.h>
@@ -50,6 +51,27 @@ private:
 
     SystemPointer m_map;
     std::unique_ptr<zrproj_transform, Destroy> m_transform;
+    std::vector<unsigned char> m_reasons;
+};
+
+/// Converts longitudes and latitudes in place that have a result so far, and sets the others to the library's mark.
+/// Points that a grid does not cover stay as they are and become OffGrid; those that regression equations shift
+/// otherwise than they can be right become OffArea.
+class DatumConverter {
+public:
+    /// Throws UsageError when no point could be converted.
+    explicit DatumConverter(DatumShift const& shift);
+
+    /// Throws std::runtime_error when the whole conversion fails.
+    void convert(std::span<PROJPOINT> points, std::span<PointState> states);
+
+private:
+    struct Destroy {
+        void operator()(zrproj_datum_shift* shift) const { zrproj_datum_shift_destroy(shift); }
+    };
+
+    std::unique_ptr<zrproj_datum_shift, Destroy> m_shift;
+    std::vector<PROJPOINT> m_given;
     std::vector<unsigned char> m_reasons;
 };
 

@@ -313,6 +313,31 @@ ZRPROJ_API char const* zrproj_reason_name(zrproj_reason reason);
 ZRPROJ_API zrproj_status zrproj_transform_points(zrproj_transform const* transform, int backwards, double* x, double* y,
                                                  ptrdiff_t stride, size_t count, unsigned char* reasons);
 
+// ---- Datums.
+
+/// The way from one datum to another through WGS 84, by the methods of the catalogue and callers' own shifts.
+typedef struct zrproj_datum_shift zrproj_datum_shift;
+
+/// Makes the way between the datums that two sets of parameters tell; nothing else of them counts but the ellipsoid of
+/// a caller's own datum, which with method 0 is WGS 84 on an ellipsoid of its own. The same datum of the catalogue
+/// twice leaves points as they are. ZRPROJ_NO_PATH for a datum that is not told and for one that only can be converted
+/// from; ZRPROJ_BAD_DEFINITION for a shift out of its range; ZRPROJ_FILE, with the reason as message, where the grid
+/// that the method needs is not beside the running program, or none.
+ZRPROJ_API zrproj_status zrproj_datum_shift_create(zrproj_parameters const* from, zrproj_parameters const* to,
+                                                   zrproj_datum_shift** shift);
+
+/// Frees a datum shift.
+ZRPROJ_API void zrproj_datum_shift_destroy(zrproj_datum_shift* shift);
+
+/// Converts `count` longitudes and latitudes in degrees in place. Layout, NaN and failures as for
+/// zrproj_transform_points; longitudes keep their turn of the globe. The reasons are ZRPROJ_CONVERTED,
+/// ZRPROJ_OUT_OF_AREA where regression equations are used so far outside their area that they are off by 50 metres or
+/// far more, ZRPROJ_NOT_FINITE, ZRPROJ_BEYOND_POLE, ZRPROJ_OFF_THE_GRID, and ZRPROJ_OFF_THE_MAP where the formulas have
+/// no result. ZRPROJ_FILE where a file of the grid ends before what a point needs; the points from there on stay as
+/// they were.
+ZRPROJ_API zrproj_status zrproj_datum_shift_points(zrproj_datum_shift const* shift, double* x, double* y,
+                                                   ptrdiff_t stride, size_t count, unsigned char* reasons);
+
 // ---- Control points.
 
 /// A map of the plane onto itself, from an image's coordinates to a map's say, by control points or coefficients.
@@ -604,12 +629,26 @@ typedef struct zrproj_grid {
     int columns, rows;               ///< of its nodes
     double west, south, east, north; ///< where the outermost nodes lie
     double dx, dy;                   ///< between two nodes
+    char identification[65];         ///< what the file says of its origin, in print
 } zrproj_grid;
 
 /// Reads the header of a NADCON grid: by the path of either of its files, or by its name without an extension, which is
 /// looked for as it stands and then in the directory of the running program ("conus", "prvi"). `grid->size` must be
-/// set. ZRPROJ_FILE, with the reason as message, where it cannot be read or is no grid.
+/// set. ZRPROJ_FILE, with the reason as message, where it cannot be read, is no grid, or has less than 22 columns,
+/// since the header lies over the first rows then.
 ZRPROJ_API zrproj_status zrproj_grid_read(char const* name, zrproj_grid* grid);
+
+/// Reads a row of one of a grid's files, named as for zrproj_grid_read: `columns` shifts in arcseconds, west to east.
+/// Rows count from 1, south to north. ZRPROJ_FILE also where the file ends before the row does; ZRPROJ_BAD_ARGUMENT for
+/// a row that the grid does not have or a `count` that is not its columns.
+ZRPROJ_API zrproj_status zrproj_grid_row(char const* name, int row, float* shifts, size_t count);
+
+/// Writes a pair of grids as this library reads it: shifts of longitudes, east positive, to the file of that name with
+/// ".LAS" added, and those of latitudes to the one with ".LOS", `columns` times `rows` of each, in arcseconds, row by
+/// row from the south. Files that are there stay as they are until both new ones are whole. ZRPROJ_FILE where writing
+/// fails; ZRPROJ_BAD_ARGUMENT for a header that zrproj_grid_read would refuse and for another `count`.
+ZRPROJ_API zrproj_status zrproj_grid_write(char const* name, zrproj_grid const* grid, float const* longitudes,
+                                           float const* latitudes, size_t count);
 
 /// Whether a grid shifts a place: points up to two columns west of it are, points south of it are not.
 /// ZRPROJ_BAD_ARGUMENT for a coordinate that is not finite.

@@ -58,11 +58,8 @@ Step stepOf(MethodSet const& methods, DatumType type, DATUM2WGS84 const& end) {
     return make ? make(end, type) : Step{};
 }
 
-bool shiftByConus(DATUMPOINT* points, std::size_t count) {
-    return convertNadcon("conus", points, count);
-}
-bool shiftByPrvi(DATUMPOINT* points, std::size_t count) {
-    return convertNadcon("prvi", points, count);
+template <DatumType type> bool shiftByGrid(DATUMPOINT* points, std::size_t count) {
+    return convertNadcon(nadconGridName(type), points, count);
 }
 
 /// Whether a point was marked.
@@ -107,7 +104,9 @@ Conversion prepareConversion(DATUMXFORM const& request) noexcept {
     result.source = stepOf(*result.methods, request.Source, *source);
     result.destination = stepOf(*result.methods, request.Destination, *destination);
     if (source->Method == DatumMethodNadcon)
-        result.grid = request.Source == DatumTypeNad1927ConusNadcon ? shiftByConus : shiftByPrvi;
+        result.grid = request.Source == DatumTypeNad1927ConusNadcon
+                          ? shiftByGrid<DatumTypeNad1927ConusNadcon>
+                          : shiftByGrid<DatumTypeNad1927PuertoRicoVirginIslandsNadcon>;
     return result;
 }
 

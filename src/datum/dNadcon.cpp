@@ -1,7 +1,6 @@
 // NADCON: bilinear interpolation in two grids of shifts, arcseconds.
 //
-// Source    the NADCON binary layout: records of ncols + 1 four-byte words, little-endian; record 0 is the header,
-//           records 1 to nrows hold a leading word and the values of a row, south to north, west to east.
+// Source    the NADCON binary layout (nadcon_grid.h).
 // Departs   from what other programs do with such files: the grid in the .LAS file is added to the LONGITUDE (east
 //           positive), the one in the .LOS file to the latitude.
 // Domain    column positions from -1 (exclusive) to ncols, so that up to two cells west of the grid are still shifted,
@@ -14,7 +13,6 @@
 
 #include <algorithm>
 #include <array>
-#include <bit>
 #include <cstdint>
 #include <cstring>
 #include <exception>
@@ -25,16 +23,9 @@
 namespace ZrProj {
 namespace {
 
-static_assert(std::endian::native == std::endian::little, "the grids' words are read as they stand");
-
 /// Reports a failed assertion with the line of the call. Always returns false, so that a caller can return it.
 bool inconsistent(int line = __builtin_LINE()) noexcept {
     return AssertFailed(".\\dNadcon.cpp", line);
-}
-
-/// The offset of a value in the grid's files, in words: below 2^62.
-std::uint64_t wordOf(NadconGrid const& grid, std::int64_t row, std::int64_t column) {
-    return static_cast<std::uint64_t>(row * (std::int64_t{grid.columns} + 1) + column);
 }
 
 /// The part of the grid that a call needs: the box around the cells of all its points.
@@ -81,11 +72,11 @@ Window windowOf(NadconGrid const& grid, std::span<DATUMPOINT const> points) {
 
 /// Whether a file of so many words has every value that the points need.
 bool isThere(std::uint64_t words, NadconGrid const& grid, Window const& window, std::span<DATUMPOINT const> points) {
-    if (wordOf(grid, window.lastRow, window.lastColumn) < words)
+    if (grid.wordOf(window.lastRow, window.lastColumn) < words)
         return true;
     return std::ranges::all_of(points, [&](DATUMPOINT const& point) {
         auto const cell = grid.locate(point);
-        return !cell || wordOf(grid, cell->row + 1, cell->column + 1) < words;
+        return !cell || grid.wordOf(cell->row + 1, cell->column + 1) < words;
     });
 }
 
@@ -101,7 +92,7 @@ public:
         std::uint64_t const piece = window_.isWhole(grid) ? values_.size() : window_.width();
         std::int64_t row = window_.row;
         for (std::size_t at = 0; at < values_.size() && good_; at += piece, ++row) {
-            std::uint64_t const first = wordOf(grid, row, window_.column);
+            std::uint64_t const first = grid.wordOf(row, window_.column);
             std::uint64_t const length = std::min(piece, end - std::min(first, end));
             good_ = file.read(first * sizeof(float), values_.data() + at, length * sizeof(float));
         }
@@ -139,7 +130,7 @@ public:
 
 private:
     bool readPair(std::int64_t row, std::int64_t column, float* pair) const {
-        return file_.read(wordOf(grid_, row, column) * sizeof(float), pair, 2 * sizeof(float));
+        return file_.read(grid_.wordOf(row, column) * sizeof(float), pair, 2 * sizeof(float));
     }
 
     PlainFile const& file_;

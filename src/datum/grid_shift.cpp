@@ -1,6 +1,6 @@
 #include "datum/grid_shift.h"
 
-#include "datum/nadcon_grid.h"
+#include "datum/nadcon_pair.h"
 #include "datum/ntv2.h"
 #include "host/mapped_file.h"
 #include "levels/level.h"

@@ -18,4 +18,11 @@ struct Regression {
 /// The equations of a datum; null where it has none.
 Regression const* regressionOf(DatumType type) noexcept;
 
+/// The datum of the same name that goes by three shifts; 237 for a datum without equations.
+DatumType threeShiftsOf(DatumType type) noexcept;
+
+/// Whether equations have run away, which they do outside their area: they are right to metres there, and three shifts
+/// to 40 metres, so that the results of both are further apart than can be.
+bool haveRunAway(DATUMPOINT const& byEquations, DATUMPOINT const& byShifts) noexcept;
+
 } // namespace ZrProj::datum

@@ -13,4 +13,9 @@ namespace ZrProj {
 /// value that a point needs is not there; no point is shifted then, unless reading itself fails half-way.
 bool convertNadcon(char const* gridName, DATUMPOINT* points, std::size_t count);
 
+/// Of the files that a datum of this method is shifted by.
+constexpr char const* nadconGridName(DatumType type) {
+    return type == DatumTypeNad1927ConusNadcon ? "conus" : "prvi";
+}
+
 } // namespace ZrProj

@@ -1,15 +1,120 @@
 #include "datum/nadcon_grid.h"
 
+#include "host/plain_file.h"
+#include "host/replacement_file.h"
 #include "levels/stage.h"
 
 #include <algorithm>
 #include <array>
+#include <bit>
+#include <cerrno>
 #include <cmath>
 #include <cstring>
-#include <numbers>
-#include <utility>
+#include <system_error>
+#include <vector>
 
 namespace ZrProj {
+namespace {
+
+static_assert(std::endian::native == std::endian::little, "the grids' words are read as they stand");
+
+constexpr std::size_t identificationBytes = 64;
+constexpr std::int32_t leastColumns = 22; // with fewer, the header is longer than a record
+constexpr std::int32_t mostColumns = 1 << 20;
+
+/// What follows the text in the header.
+struct Numbers {
+    std::int32_t columns, rows, values; // of these, one a point
+    float xmin, dx, ymin, dy;
+};
+
+std::optional<Numbers> readNumbers(PlainFile const& file) {
+    Numbers numbers{};
+    bool const isThere = file.read(identificationBytes, &numbers, sizeof numbers);
+    return isThere ? std::optional(numbers) : std::nullopt;
+}
+
+bool isGrid(Numbers const& n) {
+    bool const isFinite = std::isfinite(n.xmin) && std::isfinite(n.dx) && std::isfinite(n.ymin) && std::isfinite(n.dy);
+    return n.columns >= 2 && n.rows >= 2 && isFinite && n.dx > 0 && n.dy > 0;
+}
+
+Numbers numbersOf(NadconGrid const& grid) {
+    auto const word = [](double degrees) { return static_cast<float>(degrees); };
+    return {grid.columns, grid.rows, 1, word(grid.xmin), word(grid.dx), word(grid.ymin), word(grid.dy)};
+}
+
+/// Why no shift can be relied on of a file of such a header, "" where one can.
+std::string faultOf(Numbers const& numbers) {
+    std::string const size = std::to_string(numbers.columns) + " columns and " + std::to_string(numbers.rows) + " rows";
+    if (!isGrid(numbers) || numbers.columns > mostColumns)
+        return "has no grid's header: " + size;
+    if (numbers.columns < leastColumns)
+        return "has " + size + "; with less than 22 columns, the header lies over the first rows";
+    return "";
+}
+
+std::string faultOf(PlainFile const& file) {
+    auto const numbers = readNumbers(file);
+    return numbers ? faultOf(*numbers) : "is too short for a grid's header";
+}
+
+/// The header's text as it can be printed, without what pads it.
+std::string readIdentification(PlainFile const& file) {
+    std::string text(identificationBytes, ' ');
+    file.read(0, text.data(), text.size());
+    std::ranges::replace_if(
+        text, [](char c) { return c < ' ' || c > '~'; }, ' ');
+    text.erase(text.find_last_not_of(' ') + 1);
+    return text;
+}
+
+NadconSearch searched(PlainFile const& file, std::string const& path) {
+    if (std::string const fault = faultOf(file); !fault.empty())
+        return {std::nullopt, path, "", path + ' ' + fault};
+    return {readNadconHeader(file), path, readIdentification(file), ""};
+}
+
+/// The bytes of the header's record.
+std::vector<float> headerRecord(NadconGrid const& grid, std::string_view identification) {
+    std::vector<float> record(static_cast<std::size_t>(grid.columns) + 1);
+    std::string text(identification.substr(0, identificationBytes));
+    text.resize(identificationBytes, ' ');
+    Numbers const numbers = numbersOf(grid);
+    auto* const bytes = reinterpret_cast<char*>(record.data());
+    std::memcpy(bytes, text.data(), text.size());
+    std::memcpy(bytes + text.size(), &numbers, sizeof numbers);
+    return record;
+}
+
+bool write(std::FILE& file, std::span<float const> words) {
+    return std::fwrite(words.data(), sizeof(float), words.size(), &file) == words.size();
+}
+
+/// Returns an errno, 0 when all went well.
+int writeGrid(std::string const& path, std::span<float const> header, std::span<float const> values) {
+    errno = 0;
+    Stream const file = createFile(path);
+    bool isGood = file && write(*file, header);
+    std::size_t const columns = header.size() - 1;
+    for (; isGood && !values.empty(); values = values.subspan(columns))
+        isGood = write(*file, values.first(1)) && write(*file, values.first(columns));
+    return isGood && std::fflush(file.get()) == 0 ? 0 : errno;
+}
+
+/// Fills a file that is to replace another. Returns why that failed, "" where it did not.
+std::string fill(ReplacementFile const& file, std::span<float const> header, std::span<float const> values) {
+    if (file.name().empty())
+        return file.reason();
+    int const error = writeGrid(file.name(), header, values);
+    return error ? std::generic_category().message(error) : "";
+}
+
+std::string cannotWrite(std::string const& path, std::string const& why) {
+    return "cannot write \"" + path + "\": " + why;
+}
+
+} // namespace
 
 std::optional<NadconCell> NadconGrid::locate(DATUMPOINT const& point) const {
     if (levels::isMarked(point))
@@ -22,141 +127,39 @@ std::optional<NadconCell> NadconGrid::locate(DATUMPOINT const& point) const {
 }
 
 std::optional<NadconGrid> readNadconHeader(PlainFile const& file) {
-    constexpr std::uint64_t start = 64;
-    std::array<char, 28> bytes;
-    if (!file.read(start, bytes.data(), bytes.size()))
+    auto const n = readNumbers(file);
+    if (!n || !isGrid(*n))
         return std::nullopt;
-    std::array<std::int32_t, 3> counts; // columns, rows, values a point
-    std::array<float, 4> places;        // xmin, dx, ymin, dy
-    std::memcpy(counts.data(), bytes.data(), sizeof counts);
-    std::memcpy(places.data(), bytes.data() + sizeof counts, sizeof places);
-    bool const finite = std::ranges::all_of(places, [](float value) { return std::isfinite(value); });
-    if (counts[0] < 2 || counts[1] < 2 || !finite || !(places[1] > 0) || !(places[3] > 0))
-        return std::nullopt;
-    return NadconGrid{counts[0], counts[1], places[0], places[1], places[2], places[3]};
+    return NadconGrid{n->columns, n->rows, n->xmin, n->dx, n->ymin, n->dy};
+}
+
+bool readNadconRow(PlainFile const& file, NadconGrid const& grid, int row, std::span<float> values) {
+    return file.read(grid.wordOf(row, 1) * sizeof(float), values.data(), values.size_bytes());
 }
 
 NadconSearch findNadconGrid(std::string const& name) {
-    for (std::string const& path : {name, name + ".LAS", name + ".las", executableDirectory() + '/' + name + ".LAS"}) {
-        PlainFile const file(path);
-        if (!file.isOpen())
-            continue;
-        auto const grid = readNadconHeader(file);
-        return {grid, grid ? "" : path + " has no grid's header"};
-    }
-    return {std::nullopt, "there is no grid " + name + ": neither a file, nor one beside this program"};
+    for (std::string const& path : {name, name + ".LAS", name + ".las", executableDirectory() + '/' + name + ".LAS"})
+        if (PlainFile const file(path); file.isOpen())
+            return searched(file, path);
+    return {std::nullopt, "", "", "there is no grid " + name + ": neither a file, nor one beside this program"};
 }
 
-namespace {
-
-using datum::GridProblem, datum::GridSet;
-
-constexpr std::int32_t leastColumns = 22;   // with fewer, the header lies over the first rows
-constexpr double leastSpacing = 1e-6;       // degrees: a decimetre
-constexpr double greatestLatitude = 90.001; // limits are numbers of 32 bits
-
-/// Whose convention a file follows, as far as its rows tell.
-enum class Convention { unknown, own, published };
-
-/// One file of a pair: its values row by row, leading words included.
-struct NadconFile {
-    NadconGrid grid;
-    std::vector<float> values;
-
-    std::size_t record() const { return static_cast<std::size_t>(grid.columns) + 1; }
-    float value(std::size_t row, std::size_t column) const { return values[row * record() + column + 1]; }
-
-    /// A row of zeros tells nothing.
-    Convention convention() const {
-        bool told = false;
-        for (std::size_t first = 0; first < values.size(); first += record()) {
-            if (values[first] != values[first + 1])
-                return Convention::published;
-            told |= values[first] != 0;
-        }
-        return told ? Convention::own : Convention::unknown;
-    }
-};
-
-bool isOnEarth(NadconGrid const& grid) {
-    double const width = (grid.columns - 1.0) * grid.dx, north = grid.ymin + (grid.rows - 1.0) * grid.dy;
-    return grid.dx >= leastSpacing && grid.dy >= leastSpacing && grid.ymin >= -greatestLatitude &&
-           north <= greatestLatitude && std::fabs(grid.xmin) <= 540 && width <= 360.001;
+bool isReliable(NadconGrid const& grid) {
+    return faultOf(numbersOf(grid)).empty();
 }
 
-std::variant<NadconFile, GridProblem> readNadconFile(std::string const& path) {
-    PlainFile const file(path);
-    if (!file.isOpen())
-        return GridProblem{path + " cannot be opened"};
-    auto const grid = readNadconHeader(file);
-    if (!grid || grid->columns < leastColumns || !isOnEarth(*grid))
-        return GridProblem{path + ", at byte 64: the header of a grid was expected"};
-    auto const record = (static_cast<std::uint64_t>(grid->columns) + 1) * sizeof(float); // products below 2^64
-    std::uint64_t const end = record * (static_cast<std::uint64_t>(grid->rows) + 1);
-    if (end > file.size())
-        return GridProblem{path + ", at byte " + std::to_string(file.size()) + ": the file ends before its row " +
-                           std::to_string(file.size() / record) + " of " + std::to_string(grid->rows)};
-    NadconFile result{*grid, std::vector<float>((end - record) / sizeof(float))};
-    if (!file.read(record, result.values.data(), end - record))
-        return GridProblem{path + " cannot be read"};
-    return result;
-}
-
-/// The nodes as a set of grids has them: rows from the south, nodes from the east, shifts to the north and the west.
-void arrange(NadconFile const& north, NadconFile const& lon, float westward, std::vector<std::uint64_t>& words) {
-    auto const columns = static_cast<std::size_t>(north.grid.columns), rows = static_cast<std::size_t>(north.grid.rows);
-    words.assign(2 * columns * rows, 0);
-    for (std::size_t row = 0; row < rows; ++row)
-        for (std::size_t i = 0; i < columns; ++i) {
-            std::size_t const column = columns - 1 - i;
-            float const node[] = {north.value(row, column), westward * lon.value(row, column)};
-            std::memcpy(&words[2 * (row * columns + i)], node, sizeof node);
-        }
-}
-
-GridSet setOf(NadconGrid const& grid, std::vector<std::uint64_t> const& words) {
-    double const width = (grid.columns - 1.0) * grid.dx;
-    GridSet set;
-    set.rows.push_back({.east = std::remainder(grid.xmin + width, 360.0),
-                        .south = grid.ymin,
-                        .width = width,
-                        .height = (grid.rows - 1.0) * grid.dy,
-                        .perDx = 1 / grid.dx,
-                        .perDy = 1 / grid.dy,
-                        .columns = static_cast<double>(grid.columns),
-                        .rows = static_cast<double>(grid.rows),
-                        .reach = 1e-5 * (grid.dx + grid.dy),
-                        .firstWord = 0,
-                        .parent = -1,
-                        .depth = 0,
-                        .end = 1});
-    set.words = words.data();
-    set.unit = std::numbers::pi / 180 / 3600;
-    return set;
-}
-
-} // namespace
-
-std::variant<GridSet, GridProblem> readNadconPair(std::string const& lasPath, std::string const& losPath,
-                                                  std::vector<std::uint64_t>& words) {
-    auto lasRead = readNadconFile(lasPath), losRead = readNadconFile(losPath);
-    for (auto* const read : {&lasRead, &losRead})
-        if (auto* const problem = std::get_if<GridProblem>(read))
-            return std::move(*problem);
-    auto const &las = std::get<NadconFile>(lasRead), &los = std::get<NadconFile>(losRead);
-    if (las.grid != los.grid)
-        return GridProblem{"the headers of " + lasPath + " and " + losPath + " differ; they are no pair"};
-    auto const ofLas = las.convention(), ofLos = los.convention();
-    auto const convention = ofLas == Convention::unknown ? ofLos : ofLas;
-    if (convention == Convention::unknown || (ofLos != Convention::unknown && ofLos != convention))
-        return GridProblem{
-            lasPath + " and " + losPath +
-            " do not tell which of them has the longitudes; \"zrproj grid import\" makes a pair that does"};
-    if (convention == Convention::own)
-        arrange(los, las, -1, words);
-    else
-        arrange(las, los, 1, words);
-    return setOf(las.grid, words);
+std::string writeNadconPair(std::string const& name, NadconGrid const& grid, std::string_view identification,
+                            std::span<float const> las, std::span<float const> los) {
+    auto const header = headerRecord(grid, identification);
+    std::string const pathOfLas = name + ".LAS", pathOfLos = name + ".LOS";
+    ReplacementFile newLas(pathOfLas), newLos(pathOfLos);
+    if (auto const why = fill(newLas, header, las); !why.empty())
+        return cannotWrite(pathOfLas, why);
+    if (auto const why = fill(newLos, header, los); !why.empty())
+        return cannotWrite(pathOfLos, why);
+    if (!newLas.commit())
+        return cannotWrite(pathOfLas, newLas.reason());
+    return newLos.commit() ? "" : cannotWrite(pathOfLos, newLos.reason());
 }
 
 } // namespace ZrProj

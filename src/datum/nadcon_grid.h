@@ -1,17 +1,16 @@
-// NADCON grids: what one covers, and a pair of them as a whole.
+// The layout of a NADCON grid's files: records of `columns` + 1 four-byte words, little-endian. The first record is the
+// header: 64 bytes of text, then columns, rows and values a point as integers, then xmin, dx, ymin and dy. Each next
+// one holds a leading word and the values of a row in arcseconds, south to north, west to east.
 #pragma once
 
-#include "datum/grid_problem.h"
-#include "datum/grid_set.h"
 #include "host/platform.h"
 
 #include <zrproj/datum.h>
 
 #include <cstdint>
 #include <optional>
+#include <span>
 #include <string>
-#include <variant>
-#include <vector>
 
 namespace ZrProj {
 
@@ -28,16 +27,27 @@ struct NadconGrid {
 
     /// Nothing outside the grid, and for a marked point.
     std::optional<NadconCell> locate(DATUMPOINT const& point) const;
-
     bool operator==(NadconGrid const&) const = default;
+
+    /// The offset of a value in the grid's files, in words: below 2^62.
+    std::uint64_t wordOf(std::int64_t row, std::int64_t column) const {
+        return static_cast<std::uint64_t>(row * (std::int64_t{columns} + 1) + column);
+    }
 };
 
 /// Nothing where the header cannot be read or is absurd.
 std::optional<NadconGrid> readNadconHeader(PlainFile const& file);
 
-/// A grid, or why there is none.
+/// Reads the values of a row, counted from 1. False where the file ends before.
+bool readNadconRow(PlainFile const& file, NadconGrid const& grid, int row, std::span<float> values);
+
+/// Whether shifts can be relied on in files of such a header: with few columns, it lies over the first rows.
+bool isReliable(NadconGrid const& grid);
+
+/// A grid that can be relied on, or why there is none.
 struct NadconSearch {
     std::optional<NadconGrid> grid;
+    std::string path, identification; // of the file that was found; its text without what cannot be printed
     std::string reason;
 };
 
@@ -45,11 +55,10 @@ struct NadconSearch {
 /// running program.
 NadconSearch findNadconGrid(std::string const& name);
 
-/// A pair as one grid, its nodes in `words`, which must live as long. Unlike convertNadcon it shifts points between the
-/// nodes only, and takes both conventions: in a pair of this library's (longitudes in .LAS, east positive) the leading
-/// word of each row is the row's first value, as `zrproj grid import` makes it; all others are as they are published
-/// (latitudes in .las, longitudes in .los, west positive). Refused are files that are no pair or cut short.
-std::variant<datum::GridSet, datum::GridProblem> readNadconPair(std::string const& lasPath, std::string const& losPath,
-                                                                std::vector<std::uint64_t>& words);
+/// Writes a pair of grids, the values of all rows each. The leading word of a row, which counts as the value west of
+/// it, is its first value. Both files are whole before either takes its place. Returns why that failed, "" where it did
+/// not.
+std::string writeNadconPair(std::string const& name, NadconGrid const& grid, std::string_view identification,
+                            std::span<float const> las, std::span<float const> los);
 
 } // namespace ZrProj

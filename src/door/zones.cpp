@@ -1,5 +1,4 @@
-// UTM zones, angles as text, and what grids cover.
-#include "datum/nadcon_grid.h"
+// UTM zones, and angles as text.
 #include "door/answer.h"
 #include "host/text.h"
 
@@ -81,29 +80,5 @@ zrproj_status zrproj_angle_write(double degrees, int parts, int decimals, char* 
                                                              static_cast<AngleTextFormat>(parts - 1), decimals, 'd');
         return isWritten ? giveText(text.data(), buffer, size, length)
                          : badArgument("the angle is not finite, or not 1 to 3 parts, or not 0 to 12 decimals");
-    });
-}
-
-zrproj_status zrproj_grid_read(char const* name, zrproj_grid* grid) {
-    return answer([&]() -> Answer {
-        if (!name || !*name || !hasKnownSize(grid))
-            return badArgument("no name, or no grid of a known size");
-        auto const found = findNadconGrid(name);
-        if (!found.grid)
-            return fileFailure(found.reason);
-        auto const& [columns, rows, xmin, dx, ymin, dy] = *found.grid;
-        *grid = {sizeof *grid, columns, rows, xmin, ymin, xmin + (columns - 1.0) * dx, ymin + (rows - 1.0) * dy,
-                 dx,           dy};
-        return {};
-    });
-}
-
-zrproj_status zrproj_grid_covers(zrproj_grid const* grid, double longitude, double latitude, int* covers) {
-    return answer([&]() -> Answer {
-        if (!hasKnownSize(grid) || !covers || !std::isfinite(longitude) || !std::isfinite(latitude))
-            return badArgument("no grid of a known size, or no place");
-        NadconGrid const known{grid->columns, grid->rows, grid->west, grid->dx, grid->south, grid->dy};
-        *covers = known.locate({longitude, latitude}) ? 1 : 0;
-        return {};
     });
 }

@@ -19,7 +19,7 @@ grid -1.75 >"$work/download/conus.los"
 missing="\"NAD 1927 - CONUS (NADCON)\" needs a grid that is not there: $work/bin/conus.LAS"
 refused 'no grid' "$missing" datum --from 232 --to wgs84
 refused 'no grid beside a projection' "$missing" inverse --datum 232 --to-datum wgs84 --utm 17N
-refused 'no source' "cannot open $work/nothing.LAS: No such file or directory" grid import "$work/nothing.las"
+refused 'no source' "there is no grid $work/nothing.LAS: *" grid import "$work/nothing.las"
 
 for ending in las los; do cp "$work/download/conus.$ending" "$work/download/usual.${ending^^}"; done
 "$zrproj" grid check "$work/download/usual" >/dev/null 2>"$work/err"

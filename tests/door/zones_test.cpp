@@ -1,5 +1,4 @@
 #include "door/handles.h"
-#include "support/grid_files.h"
 #include "support/temporary_directory.h"
 
 #include <cmath>
@@ -66,35 +65,4 @@ TEST(DoorZones, ReadAndWriteAngles) {
     EXPECT_EQ(zrproj_angle_write(1, 0, 0, text, sizeof text, nullptr), ZRPROJ_BAD_ARGUMENT);
     EXPECT_EQ(zrproj_angle_write(1, 1, 13, text, sizeof text, nullptr), ZRPROJ_BAD_ARGUMENT);
     EXPECT_EQ(zrproj_angle_write(HUGE_VAL, 1, 0, text, sizeof text, nullptr), ZRPROJ_BAD_ARGUMENT);
-}
-
-TEST(DoorGrids, TellWhatTheyCover) {
-    GridFiles const files;
-    files.write(".LAS", {30, 20, 1, -100, 0.25F, 40, 0.5F}, [](int, int) { return 1; });
-    zrproj_grid grid{};
-    grid.size = sizeof grid;
-    for (std::string const& name : {std::string(files.name()), files.path(".LAS"), files.path("")}) {
-        ASSERT_EQ(zrproj_grid_read(name.c_str(), &grid), ZRPROJ_OK) << zrproj_message();
-        EXPECT_EQ(grid.columns, 30);
-        EXPECT_EQ(grid.west, -100);
-        EXPECT_EQ(grid.east, -92.75);
-        EXPECT_EQ(grid.north, 49.5);
-    }
-    int covers = -1;
-    auto const isCovered = [&](double longitude, double latitude) {
-        EXPECT_EQ(zrproj_grid_covers(&grid, longitude, latitude, &covers), ZRPROJ_OK);
-        return covers == 1;
-    };
-    EXPECT_TRUE(isCovered(-95, 45));
-    EXPECT_TRUE(isCovered(-100.4, 40));
-    EXPECT_FALSE(isCovered(-100.6, 40));
-    EXPECT_FALSE(isCovered(-95, 39.999));
-    EXPECT_FALSE(isCovered(-95, 49.5));
-    EXPECT_EQ(zrproj_grid_covers(&grid, HUGE_VAL, 0, &covers), ZRPROJ_BAD_ARGUMENT);
-    files.writeBytes(".LAS", std::vector<char>(80));
-    EXPECT_EQ(zrproj_grid_read(files.name(), &grid), ZRPROJ_FILE);
-    EXPECT_EQ(zrproj_grid_read("no such grid", &grid), ZRPROJ_FILE);
-    EXPECT_EQ(zrproj_grid_read("", &grid), ZRPROJ_BAD_ARGUMENT);
-    grid.size = 0;
-    EXPECT_EQ(zrproj_grid_read(files.name(), &grid), ZRPROJ_BAD_ARGUMENT);
 }

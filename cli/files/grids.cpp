@@ -1,6 +1,5 @@
-#include "cli/files/grid_import.h"
+#include "cli/files/grids.h"
 
-#include "cli/files/plain_file.h"
 #include "cli/text/numbers.h"
 #include "cli/text/output.h"
 #include "cli/text/text.h"
@@ -8,15 +7,34 @@
 
 #include <algorithm>
 #include <array>
-#include <cerrno>
 #include <cmath>
 #include <filesystem>
-#include <fstream>
 #include <stdexcept>
 #include <system_error>
+#include <tuple>
+#include <utility>
 
 namespace ZrProj::Command {
+
+GridFile::GridFile(std::string name) : path(std::move(name)), header{} {
+    header.size = sizeof header;
+    if (zrproj_grid_read(path.c_str(), &header) != ZRPROJ_OK)
+        throw UsageError(zrproj_message());
+}
+
+std::vector<float> GridFile::row(int number) const {
+    std::vector<float> shifts(static_cast<std::size_t>(header.columns));
+    if (zrproj_grid_row(path.c_str(), number, shifts.data(), shifts.size()) != ZRPROJ_OK)
+        throw std::runtime_error(zrproj_message());
+    return shifts;
+}
+
 namespace {
+
+bool haveOneGrid(GridFile const& one, GridFile const& other) {
+    auto const shape = [](zrproj_grid const& g) { return std::tuple(g.columns, g.rows, g.west, g.south, g.dx, g.dy); };
+    return shape(one.header) == shape(other.header);
+}
 
 constexpr std::array arrangements{own, Arrangement{false, true, "one with longitude shifts in .LAS and west positive"},
                                   Arrangement{true, false, "one with latitude shifts in .LAS and east positive"},
@@ -25,10 +43,10 @@ constexpr std::array arrangements{own, Arrangement{false, true, "one with longit
 using Misfits = std::array<double, arrangements.size()>; // arcseconds, summed up
 
 /// The three shifts that a grid is compared with; user defined where they are not known well enough.
-DatumType shiftsOf(GridHeader const& grid) {
-    if (grid.xmin >= -75 && grid.east() <= -60 && grid.ymin >= 15 && grid.north() <= 21)
+DatumType shiftsOf(zrproj_grid const& grid) {
+    if (grid.west >= -75 && grid.east <= -60 && grid.south >= 15 && grid.north <= 21)
         return DatumTypePuertoRico;
-    bool const isNorthAmerican = grid.xmin >= -140 && grid.east() <= -50 && grid.ymin >= 10 && grid.north() <= 60;
+    bool const isNorthAmerican = grid.west >= -140 && grid.east <= -50 && grid.south >= 10 && grid.north <= 60;
     return isNorthAmerican ? DatumTypeNad1927Conus : DatumTypeUserDefined;
 }
 
@@ -39,20 +57,20 @@ void add(Misfits& misfits, double las, double los, double east, double north) {
     }
 }
 
-Misfits misfitsOf(GridFile& las, GridFile& los, DatumType shifts) {
+Misfits misfitsOf(GridFile const& las, GridFile const& los, DatumType shifts) {
     DATUMXFORM const request{shifts, DatumTypeWorldGeodeticSystem1984, false, {}, {}};
     CDatumTransform transform(&request);
-    GridHeader const& grid = las.header();
+    zrproj_grid const& grid = las.header;
     int const rowStep = std::max(1, grid.rows / 16), columnStep = std::max(1, grid.columns / 16);
     Misfits misfits{};
     for (int row = 1; row <= grid.rows; row += rowStep) {
-        std::vector<float> const &x = las.record(row), &y = los.record(row);
+        std::vector<float> const x = las.row(row), y = los.row(row);
         for (int column = 1; column <= grid.columns; column += columnStep) {
-            DATUMPOINT const from{grid.xmin + (column - 1.0) * grid.dx, grid.ymin + (row - 1.0) * grid.dy};
+            DATUMPOINT const from{grid.west + (column - 1.0) * grid.dx, grid.south + (row - 1.0) * grid.dy};
             DATUMPOINT to = from;
             transform.Convert(&to, 1);
-            auto const place = static_cast<std::size_t>(column);
-            add(misfits, x[place], y[place], 3600 * (to.x - from.x), 3600 * (to.y - from.y));
+            auto const index = static_cast<std::size_t>(column) - 1;
+            add(misfits, x[index], y[index], 3600 * (to.x - from.x), 3600 * (to.y - from.y));
         }
     }
     return misfits;
@@ -60,8 +78,8 @@ Misfits misfitsOf(GridFile& las, GridFile& los, DatumType shifts) {
 
 } // namespace
 
-Arrangement arrangementOf(GridFile& las, GridFile& los, Arrangement const& supposed) {
-    DatumType const shifts = shiftsOf(las.header());
+Arrangement arrangementOf(GridFile const& las, GridFile const& los, Arrangement const& supposed) {
+    DatumType const shifts = shiftsOf(las.header);
     if (shifts == DatumTypeUserDefined)
         return supposed;
     Misfits const misfits = misfitsOf(las, los, shifts);
@@ -94,22 +112,21 @@ struct Range {
     }
 };
 
-Range rangeOf(GridFile& file) {
+Range rangeOf(GridFile const& file) {
     Range range;
-    for (int row = 1; row <= file.header().rows; ++row) {
-        std::vector<float> const& record = file.record(row);
-        std::for_each(record.begin() + 1, record.end(), [&](float value) { range.add(value); });
-    }
+    for (int row = 1; row <= file.header.rows; ++row)
+        for (float const value : file.row(row))
+            range.add(value);
     return range;
 }
 
-std::string extent(double first, double last, float step) {
+std::string extent(double first, double last, double step) {
     return numberText(first) + " to " + numberText(last) + " degrees, every " + numberText(step);
 }
 
-std::string faultOf(GridFile& las, GridFile& los, Range const& x, Range const& y) {
-    if (!(las.header() == los.header()))
-        return "the two files have different headers; the library takes that of " + las.path();
+std::string faultOf(GridFile const& las, GridFile const& los, Range const& x, Range const& y) {
+    if (!haveOneGrid(las, los))
+        return "the two files have different headers; the library takes that of " + las.path;
     if (x.bad + y.bad > 0)
         return std::to_string(x.bad + y.bad) + " values are no numbers; points in their cells come out marked";
     Arrangement const found = arrangementOf(las, los, own);
@@ -123,15 +140,15 @@ std::string faultOf(GridFile& las, GridFile& los, Range const& x, Range const& y
 
 void checkGrids(std::string const& path, Output& output) {
     GridFile las(path + ".LAS"), los(path + ".LOS");
-    GridHeader const& grid = las.header();
+    zrproj_grid const& grid = las.header;
     Range const x = rangeOf(las), y = rangeOf(los);
     Table table{{}, "ll", {}};
-    table.rows = {{"Files", las.path()},
-                  {"", los.path()},
-                  {"Identification", las.identification()},
+    table.rows = {{"Files", las.path},
+                  {"", los.path},
+                  {"Identification", grid.identification},
                   {"Grid", std::to_string(grid.columns) + " columns, " + std::to_string(grid.rows) + " rows"},
-                  {"Longitudes", extent(grid.xmin, grid.east(), grid.dx)},
-                  {"Latitudes", extent(grid.ymin, grid.north(), grid.dy)},
+                  {"Longitudes", extent(grid.west, grid.east, grid.dx)},
+                  {"Latitudes", extent(grid.south, grid.north, grid.dy)},
                   {"Added to longitudes (.LAS)", x.text() + ", east positive"},
                   {"Added to latitudes (.LOS)", y.text() + ", north positive"}};
     table.write(output);
@@ -150,38 +167,27 @@ std::string findFile(std::string const& path, std::string_view small, std::strin
     return std::filesystem::exists(name) ? name : path + std::string(capital);
 }
 
-void write(std::ofstream& out, std::vector<float> const& words) {
-    out.write(reinterpret_cast<char const*>(words.data()), static_cast<std::streamsize>(words.size() * sizeof(float)));
-}
-
-/// Copies a grid, its values multiplied by `sign`.
-void copyGrid(GridFile& from, std::string const& to, float sign) {
-    std::ofstream out(to, std::ios::binary);
-    write(out, from.record(0));
-    for (int row = 1; row <= from.header().rows; ++row) {
-        std::vector<float> values = from.record(row);
-        for (float& value : values)
-            value *= sign;
-        values[0] = values[1];
-        write(out, values);
-    }
-    if (!out.flush())
-        throw std::runtime_error("cannot write " + inQuotes(to) + ": " + systemMessage(errno));
+/// All shifts of a file, multiplied by `sign`.
+std::vector<float> shiftsIn(GridFile const& file, float sign) {
+    std::vector<float> shifts;
+    for (int row = 1; row <= file.header.rows; ++row)
+        for (float const value : file.row(row))
+            shifts.push_back(sign * value);
+    return shifts;
 }
 
 /// Refuses files that would be overwritten by what is made of them, and those that are no pair to be imported.
-void checkPair(GridFile& latitudes, GridFile& longitudes, std::array<std::string, 2> const& destinations) {
+void checkPair(GridFile const& latitudes, GridFile const& longitudes, std::array<std::string, 2> const& destinations) {
     std::error_code error; // what is not there is no file's equal
     for (GridFile const* source : {&latitudes, &longitudes})
         for (std::string const& name : destinations)
-            if (std::filesystem::equivalent(source->path(), name, error))
-                throw UsageError(source->path() + " is itself what would be written; give another --to or --name");
-    if (!(latitudes.header() == longitudes.header()))
-        throw UsageError("the headers of " + latitudes.path() + " and " + longitudes.path() +
-                         " differ; they are no pair");
+            if (std::filesystem::equivalent(source->path, name, error))
+                throw UsageError(source->path + " is itself what would be written; give another --to or --name");
+    if (!haveOneGrid(latitudes, longitudes))
+        throw UsageError("the headers of " + latitudes.path + " and " + longitudes.path + " differ; they are no pair");
     Arrangement const found = arrangementOf(latitudes, longitudes, usual);
     if (!(found == usual))
-        throw UsageError(latitudes.path() + " and " + longitudes.path() + " look like " + std::string(found.words) +
+        throw UsageError(latitudes.path + " and " + longitudes.path + " look like " + std::string(found.words) +
                          (found == own ? "; copy them as they are" : ", which cannot be imported"));
 }
 
@@ -194,11 +200,14 @@ void importGrids(GridImport const& job) {
     for (std::string const& name : {las, los})
         if (!job.replace && std::filesystem::exists(name))
             throw UsageError(name + " is there already; --replace replaces it");
-    ReplacementFile newLas(las), newLos(los);
-    copyGrid(longitudes, newLas.name(), -1);
-    copyGrid(latitudes, newLos.name(), 1);
-    newLas.commit();
-    newLos.commit();
+    auto const east = shiftsIn(longitudes, -1), north = shiftsIn(latitudes, 1);
+    if (zrproj_grid_write(job.destination.c_str(), &latitudes.header, east.data(), north.data(), east.size()) !=
+        ZRPROJ_OK)
+        throw std::runtime_error(zrproj_message());
+}
+
+std::string gridDirectory() {
+    return std::filesystem::read_symlink("/proc/self/exe").parent_path().string() + '/';
 }
 
 } // namespace ZrProj::Command

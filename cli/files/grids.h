@@ -1,13 +1,26 @@
 // What is in a pair of grids, which convention it follows, and pairs of other makers made into this library's.
 #pragma once
 
-#include "cli/files/grid_file.h"
 #include "cli/text/output.h"
+
+#include <zrproj/c.h>
 
 #include <string>
 #include <string_view>
+#include <vector>
 
 namespace ZrProj::Command {
+
+/// A file of a pair, and what its header says.
+struct GridFile {
+    std::string path;
+    zrproj_grid header;
+
+    /// Throws UsageError when there is none, or its header cannot be relied on.
+    explicit GridFile(std::string name);
+    /// The shifts of a row, counted from 1. Throws std::runtime_error when they are not there.
+    std::vector<float> row(int number) const;
+};
 
 /// What the files of a pair hold.
 struct Arrangement {
@@ -25,7 +38,7 @@ inline constexpr Arrangement usual{true, true,
 
 /// The arrangement by which a pair with one header agrees with three shifts of NAD 1927 at least twice as well as by
 /// `supposed`; `supposed` where there is none, and for grids elsewhere than in North America and the Caribbean.
-Arrangement arrangementOf(GridFile& las, GridFile& los, Arrangement const& supposed);
+Arrangement arrangementOf(GridFile const& las, GridFile const& los, Arrangement const& supposed);
 
 /// Writes a pair's header, extent and value ranges. Throws std::runtime_error, after that, when something is wrong with
 /// the pair, and UsageError when it cannot be opened.
@@ -44,5 +57,8 @@ struct GridImport {
 /// the library takes as the value west of it, becomes its first value. Each file appears when it is whole. Throws
 /// UsageError or std::runtime_error.
 void importGrids(GridImport const& job);
+
+/// Where the library looks for grids: the directory of this program, with its closing separator.
+std::string gridDirectory();
 
 } // namespace ZrProj::Command
