@@ -176,8 +176,9 @@ void ProjectionOptions::startFrom(ProjectionChoice& choice, std::optional<int> y
     StatePlaneZone const zone = statePlane ? findStatePlaneZone(m_statePlane, zoneYear ? zoneYear : yearOfDatum)
                                            : findStatePlaneZone(value(ProjParamZone).text, impliedYear);
     if (yearOfDatum && (zone.type == ProjTypeStatePlane1927) != (yearOfDatum == 1927))
-        throw UsageError("the zone is defined on the North American Datum 1" +
-                         std::string(zone.type == ProjTypeStatePlane1927 ? "927" : "983") + ", and --datum says " +
+        throw UsageError(std::string(statePlane ? "--state-plane" : "--state-zone") +
+                         ": the zone is defined on the North American Datum 1" +
+                         (zone.type == ProjTypeStatePlane1927 ? "927" : "983") + ", and --datum says " +
                          std::to_string(*yearOfDatum));
     choice.record.Type = zone.type;
     choice.record.Zone = zone.zone;
@@ -248,7 +249,7 @@ ProjectionChoice choiceOf(SystemPointer system) {
 ProjectionChoice ProjectionOptions::choiceOfSystem(MapDatum const& datum) const {
     refuseOthers(m_crsOption);
     if (datum.isGiven)
-        throw UsageError("a datum has no place beside --crs, which tells it");
+        throw UsageError("--datum has no place beside --crs, which tells it");
     return choiceOf(systemNamed(m_crs));
 }
 

@@ -91,8 +91,9 @@ bool isTiffFile(std::string const& name) {
     if (!std::filesystem::is_regular_file(name, error)) // a pipe's writer may never come
         return false;
     std::array<char, 4> start = {};
-    std::ifstream(name, std::ios::binary).read(start.data(), start.size());
-    std::string_view const bytes(start.data(), start.size());
+    std::ifstream file(name, std::ios::binary);
+    file.read(start.data(), start.size());
+    std::string_view const bytes(start.data(), static_cast<std::size_t>(file.gcount()));
     using namespace std::string_view_literals;
     return bytes == "II*\0"sv || bytes == "MM\0*"sv || bytes == "II+\0"sv || bytes == "MM\0+"sv;
 }

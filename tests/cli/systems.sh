@@ -31,17 +31,11 @@ failed 'unknown' 'the register has no system "Amersfort RD"; near it are "Amersf
 failed 'no definition' 'line 1, column *' show --crs 'PROJCS["a",'
 refused 'no such form' '--as: "wkt" is none of wkt2,*' show --crs 28992 --as wkt
 refused 'nothing to convert' 'WGS 84 has longitudes and latitudes already*' forward --crs 4326
-refused 'two' '--utm has no place beside --crs*' forward --crs 2229 --utm 17N
-refused 'a parameter' '--lon0 has no place beside --crs*' forward --crs 2229 --lon0 3
-refused 'a datum' 'a datum has no place beside --crs*' forward --crs 2229 --datum nad27
+refused 'a datum' '--datum has no place beside --crs*' forward --crs 2229 --datum nad27
 
 # Zones on the datum that is told.
 check 'of 1927' 0 '2560292.091,249259.300' '' \
     forward --state-plane 'california i' --datum nad27 --units us-ft <<<'-120,40'
-refused '1983 on 1927' 'the zone is defined on the North American Datum 1983*' \
-    forward --state-plane 'california i' --year 1983 --datum nad27
-refused '1927 on 1983' 'the zone is defined on the North American Datum 1927*' \
-    forward -p 'state plane 1927' --state-zone 'california i' --datum nad83
 
 check 'list by words' 0 ' Code  Kind       System
 28992  projected  Amersfoort / RD New' '' list systems 'rd new'

@@ -108,6 +108,39 @@ TEST(ProjectionOptions, WhatMakesNoProjection) {
     }
 }
 
+TEST(ProjectionOptions, ThatContradictEachOtherAreBothNamed) {
+    for (std::vector<std::string> const& words : {std::vector<std::string>{"--projection", "mercator"},
+                                                  {"--utm", "17N"},
+                                                  {"--state-plane", "wyoming east"},
+                                                  {"--year", "1927"},
+                                                  {"--like", "map.tif"},
+                                                  {"--ellipsoid", "airy 1830"},
+                                                  {"--radius", "6370000"},
+                                                  {"--lon0", "3"},
+                                                  {"--south"}}) {
+        std::vector<std::string> all{"--crs", "EPSG:28992"};
+        all.insert(all.end(), words.begin(), words.end());
+        std::string const option = words[0] == "--projection" ? "-p" : words[0];
+        std::string const said = messageOf<UsageError>([&] { choice(all); });
+        EXPECT_TRUE(said.find(words[0]) == 0 || said.find(option) == 0) << said;
+        EXPECT_NE(said.find(" has no place beside --crs, which tells it"), said.npos) << said;
+    }
+    MapDatum const nad27 = mapDatumOf(findDatum("nad27", {})), nad83 = mapDatumOf(findDatum("nad83", {}));
+    EXPECT_EQ(messageOf<UsageError>([&] {
+                  choice({"--crs", "28992"}, nad27);
+              }),
+              "--datum has no place beside --crs, which tells it");
+    EXPECT_EQ(messageOf<UsageError>([&] {
+                  choice({"--state-plane", "wyoming east", "--year", "1983"}, nad27);
+              }),
+              "--state-plane: the zone is defined on the North American Datum 1983, and --datum says 1927");
+    EXPECT_EQ(messageOf<UsageError>([&] {
+                  choice({"-p", "state plane 1927", "--state-zone", "wyoming east"}, nad83);
+              }),
+              "--state-zone: the zone is defined on the North American Datum 1927, and --datum says 1983");
+    EXPECT_EQ(choice({"--state-plane", "wyoming east"}, nad27).record.Type, ProjTypeStatePlane1927);
+}
+
 std::optional<DatumShift> shift(Direction direction, std::vector<std::string> const& words) {
     return Given<DatumOptions>(words, direction).options.shift();
 }

@@ -2,10 +2,12 @@
 
 #include "cli/model/zones.h"
 #include "cli/text/usage_error.h"
+#include "tests/cli/support.h"
 
 #include <gtest/gtest.h>
 
 #include <array>
+#include <cfloat>
 
 namespace ZrProj::Command {
 namespace {
@@ -66,6 +68,32 @@ TEST(PointConverter, CoordinatesThatBelongToNoPointHaveNoLongitude) {
 
 TEST(PointConverter, UnprojectedPointsAreNotConverted) {
     EXPECT_THROW(PointConverter{systemOfDefinition("EPSG:4326")}, UsageError);
+}
+
+Datum datumNamed(char const* name) {
+    return findDatum(name, {});
+}
+
+TEST(DatumConverter, TellsWhatBecameOfEachPoint) {
+    DatumConverter converter({datumNamed("227"), datumNamed("wgs84")}); // Brazil's east, by equations
+    std::array<PROJPOINT, 4> points{{{-40, -20}, {-67, -1}, {-40, -20}, {-40, -20}}};
+    std::array<PointState, 4> states{PointState::Good, PointState::Good, PointState::Outside, PointState::Far};
+    converter.convert(points, states);
+    EXPECT_EQ(states, (std::array{PointState::Good, PointState::OffArea, PointState::Outside, PointState::Far}));
+    EXPECT_NEAR(points[0].x, -40, 0.01);
+    EXPECT_NE(points[0].x, -40);
+    EXPECT_EQ(points[2].x, DBL_MAX); // had no result before
+    EXPECT_EQ(points[3].x, points[0].x);
+    converter.convert({}, {});
+}
+
+TEST(DatumConverter, RefusesDatumsThatPointsOnlyComeFrom) {
+    std::string const said = messageOf<UsageError>([] { DatumConverter({datumNamed("nad27"), datumNamed("227")}); });
+    EXPECT_NE(said.find(", not to it: regression works one way only"), said.npos) << said;
+    std::array<PROJPOINT, 1> point{{{-40, -20}}};
+    std::array<PointState, 1> state{};
+    DatumConverter({datumNamed("227"), datumNamed("227")}).convert(point, state);
+    EXPECT_EQ(point[0].x, -40);
 }
 
 } // namespace
