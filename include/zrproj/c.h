@@ -42,7 +42,7 @@ typedef enum zrproj_status {
     ZRPROJ_BAD_DEFINITION, ///< the definition makes no sense; the message says where it stops making sense
     ZRPROJ_UNKNOWN,        ///< well formed, but not in the list or register; the message suggests what is near
     ZRPROJ_UNSUPPORTED,    ///< known, but cannot be computed or said; the message says which part of it and why
-    ZRPROJ_NO_PATH,        ///< no way from one datum to the other; the message says why
+    ZRPROJ_NO_PATH,        ///< no way from one datum to the other; the message says why, and which grid would help
     ZRPROJ_FILE,           ///< could not be read or written, or is damaged; the message says where
     ZRPROJ_NOT_SOLVABLE,   ///< too few control points, collinear, alike
     ZRPROJ_NO_MEMORY
@@ -262,24 +262,35 @@ typedef struct zrproj_transform zrproj_transform;
 /// How a transform works; all zero but `size`: the defaults.
 typedef struct zrproj_options {
     size_t size;       ///< sizeof(zrproj_options)
-    char const* grids; ///< folders to look for grids in, ':' between them (';' on Windows); may be null
-    int threads;       ///< 0 or 1: the calling thread only; n: up to n; -1: as many as there are processors
-    int refuse_rough;  ///< not 0: ZRPROJ_NO_PATH instead of a way that loses more than 1 m
+    char const* grids; ///< folders to look for grids in, ':' between them (';' on Windows); may be null. Then come
+                       ///< those of the environment's ZRPROJ_GRIDS, and PROJ's
+    int threads;      ///< 0 or 1: the calling thread only; n: up to n; -1: as many as there are processors
+    int refuse_rough; ///< not 0: ZRPROJ_NO_PATH instead of a way that loses more than 1 m, or nobody knows how much
 } zrproj_options;
 
 /// Makes the way from one system to another; both may be destroyed afterwards. `options` may be null for the defaults.
-/// ZRPROJ_BAD_ARGUMENT for options of no known size or threads below -1. ZRPROJ_NO_PATH where the systems lie on
-/// different datums or figures. Realizations of one datum are taken as one, which zrproj_transform_describe tells.
+///
+/// Between datums it goes by what the definitions themselves say, else by the operations that the register ranks first
+/// for the area of the systems, of those whose grids are there; zrproj_transform_describe tells which. Backwards it is
+/// the exact inverse in two dimensions: heights are 0 on the side of `from`. Realizations of one datum are taken as
+/// one, which is told as well.
+///
+/// ZRPROJ_BAD_ARGUMENT for options of no known size or threads below -1. ZRPROJ_NO_PATH where no way is known, or none
+/// without a grid, which the message names. ZRPROJ_FILE for a grid's file that is damaged or cannot be read, with the
+/// place. ZRPROJ_UNSUPPORTED for shifts of a definition that are too large for datums of one body.
 ZRPROJ_API zrproj_status zrproj_transform_create(zrproj_system const* from, zrproj_system const* to,
                                                  zrproj_options const* options, zrproj_transform** transform);
 
 /// Frees a transform.
 ZRPROJ_API void zrproj_transform_destroy(zrproj_transform* transform);
 
-/// What the transform does, one line a step, and the accuracy of the datum's step in metres: NaN where nobody states
-/// one, 0 where there is no such step. Up to `size` bytes are written with the final null; `*length` is what the whole
-/// text takes without it. Too short a buffer: cut, ZRPROJ_BAD_ARGUMENT. `buffer` may be null where `size` is 0, and
-/// `length` and `accuracy` may be null.
+/// What the transform does, one line a step, each operation between datums with its name, code, accuracy and area; what
+/// else is to be told of it, such as the epoch that a moving datum is taken at; and which grid, if it were there, would
+/// make it better. `*accuracy` is that of all the operations together in metres: NaN where nobody states one, 0 where
+/// there are none.
+///
+/// Up to `size` bytes are written with the final null; `*length` is what the whole text takes without it. Too short a
+/// buffer: cut, ZRPROJ_BAD_ARGUMENT. `buffer` may be null where `size` is 0, and `length` and `accuracy` may be null.
 ZRPROJ_API zrproj_status zrproj_transform_describe(zrproj_transform const* transform, char* buffer, size_t size,
                                                    size_t* length, double* accuracy);
 
@@ -289,7 +300,7 @@ typedef enum zrproj_reason {
     ZRPROJ_FAR = 1,         ///< computed, but farther out than the method's accuracy is stated for: Transverse Mercator
                             ///< of a definition more than 3900 km from its central meridian, and by parameters (types
                             ///< 4, 17, 18) on an ellipsoid more than 10 degrees
-    ZRPROJ_OUT_OF_AREA = 2, ///< computed, but outside the datum shift's area
+    ZRPROJ_OUT_OF_AREA = 2, ///< computed, but outside the area that the way between the datums is stated for
     ZRPROJ_NOT_FINITE = 16, ///< came in infinite, NaN or already marked (DBL_MAX)
     ZRPROJ_BEYOND_POLE = 17, ///< a latitude above 90 degrees either way
     ZRPROJ_NOT_SHOWN = 18,   ///< a place that the projection does not show

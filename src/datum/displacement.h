@@ -13,6 +13,8 @@ struct Displacement {
     std::array<Vector, 3> linear{}; // rows
     Vector constant{};              // metres
 
+    bool operator==(Displacement const&) const = default;
+
     Vector of(Vector const& place) const;
 
     /// The displacement that takes it back.

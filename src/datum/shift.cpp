@@ -74,10 +74,4 @@ Shift Shift::offset(double longitude, double latitude) {
     return {shifts().offset, OffsetShift{longitude, latitude}};
 }
 
-Shift Shift::reversed() const {
-    Shift other = *this;
-    std::swap(other.code_.forward, other.code_.inverse);
-    return other;
-}
-
 } // namespace ZrProj::datum

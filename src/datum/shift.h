@@ -17,14 +17,12 @@ public:
     /// Nothing where the displacement and the difference of the figures are no step from one datum of a body to another
     /// one: more than a hundredth of the radius.
     static std::optional<Shift> geocentric(Figure const& from, Figure const& to, Displacement const& displacement);
-    /// Three translations by formulas of longitude and latitude, in full or abridged. What is translated lies on `from`.
+    /// Three translations by formulas of longitude and latitude, in full or abridged. What is translated lies on
+    /// `from`.
     static Shift molodensky(Figure const& from, Figure const& to, Vector const& translation);
     static Shift abridgedMolodensky(Figure const& from, Figure const& to, Vector const& translation);
     /// Degrees that are added.
     static Shift offset(double longitude, double latitude);
-
-    /// The same the other way.
-    Shift reversed() const;
 
     /// They live no longer than the shift, and only while that stays where it is.
     levels::Stage forward() const { return {code_.forward, constants_}; }

@@ -1,15 +1,19 @@
 #include "door/points.h"
 #include "door/system.h"
-#include "systems/datum_link.h"
-#include "systems/text/number.h"
+#include "systems/datum_path.h"
+#include "systems/route_text.h"
+
+#include <cfloat>
 
 using namespace ZrProj;
 using namespace ZrProj::Door;
 
-/// From one system's coordinates to degrees from Greenwich, and on to the other's.
+/// From one system's coordinates to degrees from Greenwich, from one datum to the other, and on to the other system's
+/// coordinates.
 struct zrproj_transform {
     zrproj_system from, to;
-    systems::DatumLink link;
+    systems::Route route;
+    systems::DatumPath path;
     int threads = 0;
 };
 
@@ -18,37 +22,69 @@ namespace {
 constexpr std::array reasonNames{"converted", "far", "out of area"};
 constexpr std::array failureNames{"not finite", "beyond pole", "not shown", "off the map", "off the grid"};
 
-/// Why no way is known from one system to the other.
-std::string separation(systems::Datum const& from, systems::Datum const& to) {
-    if (from.name == to.name)
-        return "the systems lie on different ellipsoids or shifts of the datum " + from.name;
-    return "the systems lie on different datums: " + from.name + " and " + to.name;
-}
+constexpr PROJPOINT mark{DBL_MAX, DBL_MAX};
 
 Answer make(zrproj_transform& transform, zrproj_system const& from, zrproj_system const& to,
             zrproj_options const& options) {
     if (options.threads < -1)
         return badArgument("threads below -1");
-    auto link = systems::linkBetween(from.definition.datum, to.definition.datum);
-    if (!link)
-        return {ZRPROJ_NO_PATH, separation(from.definition.datum, to.definition.datum)};
-    if (options.refuse_rough && link->accuracy > 1)
-        return {ZRPROJ_NO_PATH, link->told + " to no more than " + systems::numberText(link->accuracy) + " m"};
+    datum::GridFolders const folders(options.grids ? options.grids : "");
+    auto const isThere = [&folders](std::string_view name) { return folders.find(name).has_value(); };
+    auto route = systems::routeBetween(from.definition, to.definition, isThere, options.refuse_rough != 0);
+    if (auto* const none = std::get_if<systems::NoRoute>(&route))
+        return {ZRPROJ_NO_PATH, std::move(none->reason)};
+    transform.route = std::get<systems::Route>(std::move(route));
+    auto path = systems::DatumPath::make(transform.route, folders);
+    if (auto* const problem = std::get_if<systems::PathProblem>(&path))
+        return {problem->isOfFile ? ZRPROJ_FILE : ZRPROJ_UNSUPPORTED, std::move(problem->reason)};
+    transform.path = std::get<systems::DatumPath>(std::move(path));
     transform.from = from;
     transform.to = to;
-    transform.link = *std::move(link);
     transform.threads = options.threads;
     return {};
+}
+
+/// What to think of places on the datum that a transform starts from, where its shift is stated for an area.
+void tellOutOfArea(systems::Route const& route, std::span<PROJPOINT const> places, std::span<Reason> reasons) {
+    if (!route.area)
+        return;
+    for (std::size_t i = 0; i < places.size(); ++i)
+        if (hasResult(reasons[i]) && !route.area->contains(places[i].x, places[i].y))
+            reasons[i] = std::max<Reason>(reasons[i], ZRPROJ_OUT_OF_AREA);
+}
+
+/// From datum to datum.
+void carry(systems::DatumPath const& path, bool backwards, std::span<PROJPOINT> places, std::span<Reason> reasons) {
+    std::array<systems::Fate, blockPoints> fates;
+    for (std::size_t i = 0; i < places.size(); ++i)
+        if (!hasResult(reasons[i]))
+            places[i] = mark;
+    auto const used = std::span(fates).first(places.size());
+    backwards ? path.inverse(places, used) : path.forward(places, used);
+    for (std::size_t i = 0; i < places.size(); ++i)
+        if (hasResult(reasons[i]) && used[i] != systems::Fate::carried)
+            reasons[i] = used[i] == systems::Fate::offGrid ? ZRPROJ_OFF_THE_GRID : ZRPROJ_NOT_SHOWN;
+}
+
+/// A place out of the shift's area is told on the same datum both ways.
+void convertBlock(zrproj_transform const& transform, bool backwards, std::span<PROJPOINT> block,
+                  std::span<Reason> reasons) {
+    bool const isShifted = !transform.path.isEmpty();
+    (backwards ? transform.to : transform.from).projection->inverse(block, reasons);
+    if (isShifted && !backwards)
+        tellOutOfArea(transform.route, block, reasons);
+    if (isShifted)
+        carry(transform.path, backwards, block, reasons);
+    if (isShifted && backwards)
+        tellOutOfArea(transform.route, block, reasons);
+    (backwards ? transform.from : transform.to).projection->forward(block, reasons);
 }
 
 Answer convert(zrproj_transform const& transform, bool backwards, PointArray const& points) {
     if (Answer checked = check(points); !checked.isGood())
         return checked;
-    zrproj_system const& from = backwards ? transform.to : transform.from;
-    zrproj_system const& to = backwards ? transform.from : transform.to;
     convertArray(points, transform.threads, [&](std::span<PROJPOINT> block, std::span<Reason> reasons) {
-        from.projection->inverse(block, reasons);
-        to.projection->forward(block, reasons);
+        convertBlock(transform, backwards, block, reasons);
     });
     return {};
 }
@@ -64,8 +100,8 @@ std::string endText(std::string const& way, zrproj_system const& system) {
 
 std::string description(zrproj_transform const& transform) {
     std::string text = endText("from", transform.from);
-    if (!transform.link.told.empty())
-        text += transform.link.told + '\n';
+    for (std::string const& line : systems::linesOf(transform.route))
+        text += line + '\n';
     text += endText("to", transform.to);
     if (text.empty())
         return "longitudes and latitudes as they are";
@@ -95,7 +131,7 @@ zrproj_status zrproj_transform_describe(zrproj_transform const* transform, char*
     return answer([&] {
         if (!transform)
             return badArgument("null pointer to a transform");
-        give(accuracy, transform->link.accuracy);
+        give(accuracy, transform->route.accuracy);
         return giveText(description(*transform), buffer, size, length);
     });
 }

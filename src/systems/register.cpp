@@ -175,7 +175,8 @@ Code ellipsoidWith(Ellipsoid const& figure) {
 
 bool Area::contains(double longitude, double latitude) const {
     double const width = west <= east ? east - west : east - west + 360;
-    double const fromWest = std::fmod(std::remainder(longitude, 360) - west + 720, 360);
+    double fromWest = (std::fabs(longitude) <= 180 ? longitude : std::remainder(longitude, 360)) - west;
+    fromWest += fromWest < 0 ? 360 : fromWest >= 360 ? -360 : 0;
     return fromWest <= width && south <= latitude && latitude <= north;
 }
 

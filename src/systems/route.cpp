@@ -373,6 +373,8 @@ std::variant<Route, NoRoute> routeBetween(Definition const& from, Definition con
     auto const link = linkBetween(from.datum, to.datum);
     if (link && link->told.empty())
         return Route{};
+    if (from.datum.code == 0 || to.datum.code == 0)
+        return NoRoute{"no shift " + between(from, to) + " is known"};
     return registerRoute(from, to, gridIsThere, refuseRough);
 }
 

@@ -200,7 +200,7 @@ TEST(Shift, ByOffsetsEndsAtThePoles) {
     EXPECT_DOUBLE_EQ(points[0].x, 9.5);
     EXPECT_DOUBLE_EQ(points[0].y, 20.25);
     EXPECT_EQ(points[1].x, DBL_MAX);
-    run(shift.reversed().forward(), points);
+    run(shift.inverse(), points);
     EXPECT_DOUBLE_EQ(points[0].x, 10);
     EXPECT_DOUBLE_EQ(points[0].y, 20);
 }

@@ -227,8 +227,7 @@ TEST(Door, KnowsNoWayBetweenDatumsOrFigures) {
     zrproj_parameters wgs84{};
     wgs84.size = sizeof wgs84;
     wgs84.datum = 3;
-    auto nad27 = wgs84, told = wgs84, sphere = wgs84, own = wgs84;
-    nad27.datum = 2;
+    auto told = wgs84, sphere = wgs84, own = wgs84;
     told.datum = 237;
     told.ellipsoid = 47;
     sphere.ellipsoid = 48;
@@ -241,7 +240,7 @@ TEST(Door, KnowsNoWayBetweenDatumsOrFigures) {
     EXPECT_EQ(status(wgs84, wgs84), ZRPROJ_OK);
     EXPECT_EQ(status(own, own), ZRPROJ_OK);
     EXPECT_EQ(status(told, told), ZRPROJ_OK);
-    for (auto const& other : {nad27, told, sphere, own}) {
+    for (auto const& other : {told, sphere, own}) {
         EXPECT_EQ(status(wgs84, other), ZRPROJ_NO_PATH);
         EXPECT_STRNE(zrproj_message(), "");
     }
