@@ -42,7 +42,7 @@ std::optional<std::pair<std::size_t, std::size_t>> findTwins(std::span<GEOREFPOI
 std::size_t countPlaces(std::span<GEOREFPOINT const> points) {
     std::vector<GEOREFPOINT> places(points.begin(), points.end());
     std::ranges::sort(places, {}, [](GEOREFPOINT const& p) { return std::pair(p.x, p.y); });
-    places.erase(std::ranges::unique(places, areInOnePlace).begin(), places.end());
+    places.erase(std::unique(places.begin(), places.end(), areInOnePlace), places.end());
     return places.size();
 }
 
