@@ -8,9 +8,9 @@
 
 namespace ZrProj {
 
-inline void checkDefinition(systems::Outcome<systems::Definition> const& outcome) {
+inline void checkDefinition(systems::OrProblem<systems::Definition> const& result) {
     using namespace systems;
-    auto const* const definition = std::get_if<Definition>(&outcome);
+    auto const* const definition = std::get_if<Definition>(&result);
     if (!definition)
         return;
     for (auto const write : {writeWkt1, writeEsriWkt, writeWkt2, writeProjJson, writeProjString}) {

@@ -148,7 +148,7 @@ Definition registered(zrproj_system const& system) {
     return system.parameters ? systems::reconcile(system.definition).definition : system.definition;
 }
 
-systems::Outcome<std::string> textOf(Definition const& definition, zrproj_format format) {
+systems::OrProblem<std::string> textOf(Definition const& definition, zrproj_format format) {
     switch (format) {
     case ZRPROJ_NAME:
         return definition.name;

@@ -76,7 +76,7 @@ std::string projectionText(Definition const& definition, WrittenMethod const& me
 
 } // namespace
 
-Outcome<std::string> writeEsriWkt(Definition const& definition) {
+OrProblem<std::string> writeEsriWkt(Definition const& definition) {
     if (definition.datum.toWgs84 || !definition.datum.grids.empty())
         return cannotSay("ESRI's WKT", "a way to WGS 84");
     if (!definition.isProjected())

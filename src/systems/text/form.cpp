@@ -89,7 +89,7 @@ Form formOf(std::string_view text) {
     return isProjString(text) ? Form::projString : Form::name;
 }
 
-Outcome<Definition> readDefinition(std::string_view text) {
+OrProblem<Definition> readDefinition(std::string_view text) {
     switch (formOf(text)) {
     case Form::wkt1:
         return readWkt1(text);

@@ -24,6 +24,6 @@ Form formOf(std::string_view text);
 std::optional<Code> codeIn(std::string_view text);
 
 /// Reads a definition that is neither a code nor a name.
-Outcome<Definition> readDefinition(std::string_view text);
+OrProblem<Definition> readDefinition(std::string_view text);
 
 } // namespace ZrProj::systems

@@ -24,7 +24,7 @@ struct Problem {
 };
 
 /// What was asked for, or why there is none.
-template <class T> using Outcome = std::variant<T, Problem>;
+template <class T> using OrProblem = std::variant<T, Problem>;
 
 /// The first problem that a reader met. Readers go on with harmless values after it, and tell it at their end.
 class Complaint {
@@ -38,7 +38,7 @@ public:
     bool made() const { return problem_.has_value(); }
 
     /// The value, or the problem where there was one.
-    template <class T> Outcome<T> outcome(T value) && {
+    template <class T> OrProblem<T> orProblem(T value) && {
         if (problem_)
             return *std::move(problem_);
         return value;

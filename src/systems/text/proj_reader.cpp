@@ -72,7 +72,7 @@ public:
             options_ = optionsOf(text);
     }
 
-    Outcome<Definition> read() {
+    OrProblem<Definition> read() {
         if (Option const* init = find("init"))
             return byCode(*init);
         Option const* const proj = find("proj");
@@ -85,7 +85,7 @@ public:
         if (!complaint_.made())
             system(*proj);
         checkNumbers(made_, complaint_);
-        return std::move(complaint_).outcome(std::move(made_));
+        return std::move(complaint_).orProblem(std::move(made_));
     }
 
 private:
@@ -112,7 +112,7 @@ private:
     }
 
     /// A code of the register, with a way to WGS 84 of the text's own.
-    Outcome<Definition> byCode(Option const& init) {
+    OrProblem<Definition> byCode(Option const& init) {
         constexpr std::string_view beginning = "epsg:";
         constexpr std::string_view beside[] = {"init", "towgs84", "nadgrids"};
         bool const epsg = equalIgnoringCase(init.value.substr(0, beginning.size()), beginning);
@@ -125,7 +125,7 @@ private:
             complaint_.unknown(init.offset, "the register has no system " + std::string(init.value));
         made_ = found.value_or(Definition());
         ownWay();
-        return std::move(complaint_).outcome(std::move(made_));
+        return std::move(complaint_).orProblem(std::move(made_));
     }
 
     void system(Option const& proj) {
@@ -280,7 +280,7 @@ private:
         made_.parameters[Parameter::latitudeOfOrigin] = 0;
         for (Parameter const p : {Parameter::longitudeOfOrigin, Parameter::falseEasting, Parameter::falseNorthing})
             made_.parameters[p] = stated[p];
-        Outcome<Definition> const wgs84 = readProjString("+proj=longlat +datum=WGS84");
+        OrProblem<Definition> const wgs84 = readProjString("+proj=longlat +datum=WGS84");
         datum = std::get<Definition>(wgs84).datum;
         made_.baseName = std::get<Definition>(wgs84).name;
         made_.baseCode = std::get<Definition>(wgs84).code;
@@ -391,7 +391,7 @@ private:
 
 } // namespace
 
-Outcome<Definition> readProjString(std::string_view text) {
+OrProblem<Definition> readProjString(std::string_view text) {
     return ProjStringReader(text).read();
 }
 

@@ -91,7 +91,7 @@ std::string utmText(Definition const& definition) {
 }
 
 /// The sphere without a shift by which Mercator's projection of WGS 84's latitudes is told.
-Outcome<std::string> webMercatorText(Definition const& definition) {
+OrProblem<std::string> webMercatorText(Definition const& definition) {
     ParameterValues const& values = definition.parameters;
     double const radius = definition.datum.ellipsoid.semiMajor;
     if (radius != 6378137 || values[Parameter::latitudeOfOrigin] != 0 || definition.datum.meridian.longitude != 0)
@@ -104,7 +104,7 @@ Outcome<std::string> webMercatorText(Definition const& definition) {
 
 } // namespace
 
-Outcome<std::string> writeProjString(Definition const& definition) {
+OrProblem<std::string> writeProjString(Definition const& definition) {
     if (definition.datum.grids.find(' ') != std::string::npos)
         return cannotSay("a PROJ string", "the name of a grid that has a blank");
     if (!definition.isProjected())

@@ -18,11 +18,11 @@ class ProjJsonReader {
 public:
     explicit ProjJsonReader(std::string_view text) : complaint_(text), root_(readJsonTree(text, complaint_)) {}
 
-    Outcome<Definition> read() {
+    OrProblem<Definition> read() {
         if (!complaint_.made())
             system(root_);
         checkNumbers(made_, complaint_);
-        return std::move(complaint_).outcome(std::move(made_));
+        return std::move(complaint_).orProblem(std::move(made_));
     }
 
 private:
@@ -258,7 +258,7 @@ private:
 
 } // namespace
 
-Outcome<Definition> readProjJson(std::string_view text) {
+OrProblem<Definition> readProjJson(std::string_view text) {
     return ProjJsonReader(text).read();
 }
 

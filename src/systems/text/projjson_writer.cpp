@@ -139,7 +139,7 @@ std::string gridsText(std::string_view grids) {
 
 } // namespace
 
-Outcome<std::string> writeProjJson(Definition const& definition) {
+OrProblem<std::string> writeProjJson(Definition const& definition) {
     Datum const& datum = definition.datum;
     if (!datum.toWgs84 && datum.grids.empty())
         return "{" + std::string(schema) + systemText(definition) + "}";

@@ -9,16 +9,16 @@
 namespace ZrProj::systems {
 
 /// Well-known text of the first generation, as GDAL or as ESRI writes it.
-Outcome<Definition> readWkt1(std::string_view text);
+OrProblem<Definition> readWkt1(std::string_view text);
 
 /// Well-known text of the second generation, of 2015 or 2019. Of a compound system the horizontal part, of a bound one
 /// the source with its way to WGS 84.
-Outcome<Definition> readWkt2(std::string_view text);
+OrProblem<Definition> readWkt2(std::string_view text);
 
 /// PROJJSON. What it says besides the system goes as with well-known text.
-Outcome<Definition> readProjJson(std::string_view text);
+OrProblem<Definition> readProjJson(std::string_view text);
 
 /// A PROJ string, with or without +type=crs.
-Outcome<Definition> readProjString(std::string_view text);
+OrProblem<Definition> readProjString(std::string_view text);
 
 } // namespace ZrProj::systems

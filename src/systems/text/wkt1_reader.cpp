@@ -14,11 +14,11 @@ class Wkt1Reader {
 public:
     explicit Wkt1Reader(std::string_view text) : complaint_(text), root_(readWktTree(text, complaint_)) {}
 
-    Outcome<Definition> read() {
+    OrProblem<Definition> read() {
         if (!complaint_.made())
             system(root_);
         checkNumbers(made_, complaint_);
-        return std::move(complaint_).outcome(std::move(made_));
+        return std::move(complaint_).orProblem(std::move(made_));
     }
 
 private:
@@ -124,8 +124,8 @@ private:
         WktNode const* const extension = node.child({"EXTENSION"});
         if (!extension || wktText(*extension, 0, complaint_) != "PROJ4")
             return false;
-        auto const outcome = readProjString(wktText(*extension, 1, complaint_));
-        auto const* const said = std::get_if<Definition>(&outcome);
+        auto const result = readProjString(wktText(*extension, 1, complaint_));
+        auto const* const said = std::get_if<Definition>(&result);
         if (!said || !said->isProjected())
             return false;
         made_.method = said->method;
@@ -174,7 +174,7 @@ private:
 
 } // namespace
 
-Outcome<Definition> readWkt1(std::string_view text) {
+OrProblem<Definition> readWkt1(std::string_view text) {
     return Wkt1Reader(text).read();
 }
 

@@ -84,18 +84,18 @@ std::string projectionText(Definition const& definition, WrittenMethod const& me
 }
 
 /// The PROJ string that tells a web map's projection from Mercator's; "" for all others.
-Outcome<std::string> extensionText(Definition const& definition) {
+OrProblem<std::string> extensionText(Definition const& definition) {
     if (definition.method != Method::pseudoMercator)
         return std::string();
-    auto outcome = writeProjString(definition);
-    if (auto const* text = std::get_if<std::string>(&outcome))
+    auto result = writeProjString(definition);
+    if (auto const* text = std::get_if<std::string>(&result))
         return ",EXTENSION[\"PROJ4\"," + wktQuoted(text->substr(0, text->find(" +type"))) + "]";
-    return outcome;
+    return result;
 }
 
 } // namespace
 
-Outcome<std::string> writeWkt1(Definition const& definition) {
+OrProblem<std::string> writeWkt1(Definition const& definition) {
     std::string const name = systemName(definition);
     if (!definition.isProjected())
         return "GEOGCS[" + name + geographicText(definition) + axesText(definition) + authority(definition.code) + "]";

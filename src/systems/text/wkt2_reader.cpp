@@ -13,11 +13,11 @@ class Wkt2Reader {
 public:
     explicit Wkt2Reader(std::string_view text) : complaint_(text), root_(readWktTree(text, complaint_)) {}
 
-    Outcome<Definition> read() {
+    OrProblem<Definition> read() {
         if (!complaint_.made())
             system(root_);
         checkNumbers(made_, complaint_);
-        return std::move(complaint_).outcome(std::move(made_));
+        return std::move(complaint_).orProblem(std::move(made_));
     }
 
 private:
@@ -201,7 +201,7 @@ private:
 
 } // namespace
 
-Outcome<Definition> readWkt2(std::string_view text) {
+OrProblem<Definition> readWkt2(std::string_view text) {
     return Wkt2Reader(text).read();
 }
 

@@ -107,7 +107,7 @@ std::string gridsText(std::string_view grids) {
 
 } // namespace
 
-Outcome<std::string> writeWkt2(Definition const& definition) {
+OrProblem<std::string> writeWkt2(Definition const& definition) {
     Datum const& datum = definition.datum;
     if (!datum.toWgs84 && datum.grids.empty())
         return systemText(definition);

@@ -10,18 +10,18 @@
 namespace ZrProj::systems {
 
 /// Well-known text of the first generation as GDAL writes it.
-Outcome<std::string> writeWkt1(Definition const& definition);
+OrProblem<std::string> writeWkt1(Definition const& definition);
 
 /// Well-known text of the first generation as ESRI writes it, for .prj files. A way to WGS 84 cannot be said.
-Outcome<std::string> writeEsriWkt(Definition const& definition);
+OrProblem<std::string> writeEsriWkt(Definition const& definition);
 
 /// Well-known text of the second generation (ISO 19162:2019).
-Outcome<std::string> writeWkt2(Definition const& definition);
+OrProblem<std::string> writeWkt2(Definition const& definition);
 
 /// PROJJSON, version 0.5.
-Outcome<std::string> writeProjJson(Definition const& definition);
+OrProblem<std::string> writeProjJson(Definition const& definition);
 
 /// A PROJ string with +type=crs. It names few datums; of all others it says the ellipsoid alone.
-Outcome<std::string> writeProjString(Definition const& definition);
+OrProblem<std::string> writeProjString(Definition const& definition);
 
 } // namespace ZrProj::systems

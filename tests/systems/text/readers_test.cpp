@@ -18,8 +18,8 @@ std::string const geographic = R"(GEOGCRS["a",DATUM["b",ELLIPSOID["c",6378137,29
                                R"(AXIS["lat",north],AXIS["lon",east],ANGLEUNIT["degree",0.0174532925199433]])";
 
 Problem problemIn(std::string_view text) {
-    auto const outcome = readDefinition(text);
-    auto const* problem = std::get_if<Problem>(&outcome);
+    auto const result = readDefinition(text);
+    auto const* problem = std::get_if<Problem>(&result);
     return problem ? *problem : Problem{Fault::unknown, "none"};
 }
 
@@ -39,9 +39,9 @@ TEST(Readers, WhatProjWritesIsTheRegistersSystem) {
             continue;
         ++count;
         Definition const wanted = definitionOf(std::stoi(line)).value();
-        auto const outcome = readDefinition(std::string_view(line).substr(line.find('\t') + 1));
-        auto const* const read = std::get_if<Definition>(&outcome);
-        ASSERT_TRUE(read) << line << '\n' << std::get<Problem>(outcome).message;
+        auto const result = readDefinition(std::string_view(line).substr(line.find('\t') + 1));
+        auto const* const read = std::get_if<Definition>(&result);
+        ASSERT_TRUE(read) << line << '\n' << std::get<Problem>(result).message;
         EXPECT_EQ(contentDifference(*read, wanted), "") << line;
     }
     EXPECT_GE(count, 87);
@@ -119,9 +119,9 @@ TEST(Readers, NamesThatSeveralMethodsShareAreToldByTheParameters) {
         {"Bonne_(South_Orientated)", R"(PARAMETER["Latitude of natural origin",39],)", Method::bonneSouth},
     };
     for (Case const& each : cases) {
-        auto const outcome = readWkt1(projected(each.name, each.parameters));
-        auto const* const read = std::get_if<Definition>(&outcome);
-        ASSERT_TRUE(read) << each.name << std::get<Problem>(outcome).message;
+        auto const result = readWkt1(projected(each.name, each.parameters));
+        auto const* const read = std::get_if<Definition>(&result);
+        ASSERT_TRUE(read) << each.name << std::get<Problem>(result).message;
         EXPECT_EQ(read->method, each.method) << each.name << each.parameters;
     }
 }
@@ -140,7 +140,7 @@ TEST(Readers, HeightsAreLeftOut) {
 }
 
 TEST(Readers, WaysToWgs84) {
-    auto const datum = [](Outcome<Definition> const& outcome) { return std::get<Definition>(outcome).datum; };
+    auto const datum = [](OrProblem<Definition> const& result) { return std::get<Definition>(result).datum; };
     ToWgs84 const wanted = {598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7};
     std::string const head =
         "BOUNDCRS[SOURCECRS[" + geographic + "],TARGETCRS[GEOGCRS[\"WGS 84\"]],ABRIDGEDTRANSFORMATION[\"t\",";

@@ -14,7 +14,7 @@ using namespace ZrProj::test;
 
 namespace {
 
-using Writer = Outcome<std::string> (*)(Definition const&);
+using Writer = OrProblem<std::string> (*)(Definition const&);
 
 struct NamedWriter {
     std::string_view name;
@@ -22,9 +22,9 @@ struct NamedWriter {
     std::size_t refused; // of the register's systems
 };
 
-std::string text(Outcome<std::string> const& outcome) {
-    auto const* const problem = std::get_if<Problem>(&outcome);
-    return problem ? problem->message : std::get<std::string>(outcome);
+std::string text(OrProblem<std::string> const& result) {
+    auto const* const problem = std::get_if<Problem>(&result);
+    return problem ? problem->message : std::get<std::string>(result);
 }
 
 } // namespace
