@@ -3,7 +3,6 @@
 #include "levels/level.h"
 
 #include <algorithm>
-#include <ranges>
 #include <utility>
 
 namespace ZrProj::systems {
@@ -49,8 +48,8 @@ DatumPath::DatumPath(std::vector<Step>&& steps) : m_steps(std::move(steps)) {
     };
     for (Step const& step : m_steps)
         append(m_forward, step, false);
-    for (Step const& step : m_steps | std::views::reverse)
-        append(m_inverse, step, true);
+    for (auto step = m_steps.rbegin(); step != m_steps.rend(); ++step)
+        append(m_inverse, *step, true);
 }
 
 /// One step of those that begin here, all that move geocentric coordinates.
