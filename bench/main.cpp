@@ -3,6 +3,7 @@
 // Rows called preclip/ cut a line first.
 #include "creation.h"
 #include "georef.h"
+#include "grid_shift.h"
 #include "nadcon.h"
 #include "preclip_rows.h"
 #include "table.h"
@@ -149,6 +150,7 @@ int main(int argc, char** argv) {
         groups.push_back({datum.definition, contendersFor(datum)});
     for (auto const& systems : systemCases())
         groups.push_back({systems.definition, contendersFor(systems)});
+    groups.push_back(gridShiftGroup());
     for (auto const& group : groups) {
         compareResults(group);
         registerRows(group);

@@ -1,5 +1,6 @@
 // zrproj grid: the grids that NADCON datums need.
 #include "cli/commands/commands.h"
+#include "cli/files/ctable_file.h"
 #include "cli/files/grids.h"
 #include "cli/text/text.h"
 #include "cli/text/usage_error.h"
@@ -24,11 +25,14 @@ private:
 
 GridCommand::GridCommand(CommandLine line)
     : m_check(line.subcommand("check", "Show header, extent and value ranges of a pair")),
-      m_import(line.subcommand("import", "Make a pair of the usual convention into one for this library")) {
+      m_import(line.subcommand("import",
+                               "Make a pair of the usual convention, or a CTABLE V2.0, into one for this library")) {
     line.requireSubcommand();
     m_check.argument("NAME", m_checked, "A grid beside this program, as \"conus\", or a path, as \"grids/conus\"")
         .require();
-    m_import.argument("SOURCE", m_imported, "Path of the pair, as \"download/conus\" for conus.las and conus.los")
+    m_import
+        .argument("SOURCE", m_imported,
+                  "Path of the pair, as \"download/conus\" for conus.las and conus.los, or of a CTABLE V2.0")
         .require();
     m_import.option("--name", m_name, "NAME", "Name of the new pair; that of the source where not given");
     m_import.option("--to", m_directory, "DIRECTORY", "Directory of the new pair; this program's where not given");
@@ -42,13 +46,14 @@ std::filesystem::path withoutEnding(std::filesystem::path path) {
 }
 
 int GridCommand::import(Output& output) const {
-    std::filesystem::path const source = withoutEnding(m_imported);
+    bool const isTable = isCtable(m_imported);
+    std::filesystem::path const source = isTable ? std::filesystem::path(m_imported) : withoutEnding(m_imported);
     std::string const name = m_name.empty() ? source.filename().string() : m_name;
     if (name.find('/') != std::string::npos)
         throw UsageError("--name: " + inQuotes(name) + " is no name of files; --to tells their directory");
     std::filesystem::path const directory = m_directory.empty() ? gridDirectory() : m_directory;
     std::string const destination = (directory / name).string();
-    importGrids({source.string(), destination, m_replace});
+    (isTable ? importCtable : importGrids)({source.string(), destination, m_replace});
     checkGrids(destination, output);
     return 0;
 }
@@ -71,7 +76,7 @@ links the library beside that one. No other place is looked at.
 
 CAUTION: grids as they are published keep LATITUDE shifts in .las and LONGITUDE shifts in .los, WEST positive. This
 library adds the values of .LAS to LONGITUDES, EAST positive, and those of .LOS to latitudes. Published grids must be
-imported first.
+imported first. Grids in the format "CTABLE V2.0" are imported, too.
 
 Example: published grids in the directory download
   zrproj grid import download/conus

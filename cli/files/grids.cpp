@@ -1,5 +1,6 @@
 #include "cli/files/grids.h"
 
+#include "cli/files/ctable_file.h"
 #include "cli/text/numbers.h"
 #include "cli/text/output.h"
 #include "cli/text/text.h"
@@ -191,19 +192,31 @@ void checkPair(GridFile const& latitudes, GridFile const& longitudes, std::array
                          (found == own ? "; copy them as they are" : ", which cannot be imported"));
 }
 
+void refuseWhatIsThere(GridImport const& job) {
+    for (std::string const& name : {job.destination + ".LAS", job.destination + ".LOS"})
+        if (!job.replace && std::filesystem::exists(name))
+            throw UsageError(name + " is there already; --replace replaces it");
+}
+
+void writePair(std::string const& path, zrproj_grid const& header, std::vector<float> const& east,
+               std::vector<float> const& north) {
+    if (zrproj_grid_write(path.c_str(), &header, east.data(), north.data(), east.size()) != ZRPROJ_OK)
+        throw std::runtime_error(zrproj_message());
+}
+
 } // namespace
 
 void importGrids(GridImport const& job) {
     GridFile latitudes(findFile(job.source, ".las", ".LAS")), longitudes(findFile(job.source, ".los", ".LOS"));
-    std::string const las = job.destination + ".LAS", los = job.destination + ".LOS";
-    checkPair(latitudes, longitudes, {las, los});
-    for (std::string const& name : {las, los})
-        if (!job.replace && std::filesystem::exists(name))
-            throw UsageError(name + " is there already; --replace replaces it");
-    auto const east = shiftsIn(longitudes, -1), north = shiftsIn(latitudes, 1);
-    if (zrproj_grid_write(job.destination.c_str(), &latitudes.header, east.data(), north.data(), east.size()) !=
-        ZRPROJ_OK)
-        throw std::runtime_error(zrproj_message());
+    checkPair(latitudes, longitudes, {job.destination + ".LAS", job.destination + ".LOS"});
+    refuseWhatIsThere(job);
+    writePair(job.destination, latitudes.header, shiftsIn(longitudes, -1), shiftsIn(latitudes, 1));
+}
+
+void importCtable(GridImport const& job) {
+    refuseWhatIsThere(job);
+    CtableFile const table(job.source);
+    writePair(job.destination, table.header, table.east, table.north);
 }
 
 std::string gridDirectory() {

@@ -46,7 +46,7 @@ Arrangement arrangementOf(GridFile const& las, GridFile const& los, Arrangement 
 void checkGrids(std::string const& path, Output& output);
 
 struct GridImport {
-    std::string source;      // path of the pair, without ".las" and ".los" (in either case)
+    std::string source;      // path of the pair, without ".las" and ".los" (in either case), or of a CTABLE
     std::string destination; // path of the new pair, without ".LAS" and ".LOS"
     bool replace = false;    // files that are there
 };
@@ -57,6 +57,9 @@ struct GridImport {
 /// the library takes as the value west of it, becomes its first value. Each file appears when it is whole. Throws
 /// UsageError or std::runtime_error.
 void importGrids(GridImport const& job);
+
+/// Makes such a pair of a file in the format "CTABLE V2.0". Throws UsageError or std::runtime_error.
+void importCtable(GridImport const& job);
 
 /// Where the library looks for grids: the directory of this program, with its closing separator.
 std::string gridDirectory();

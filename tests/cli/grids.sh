@@ -45,6 +45,25 @@ refused 'converted' "*conus.LOS look like one of this library's, *; copy them as
     grid import --to "$work/other" "$work/bin/conus"
 refused 'a name of a path' '--name: "../x" is no name of files;*' grid import --name ../x "$work/download/conus"
 [[ $(ls "$work/bin" "$work/other" | wc -l) == 6 ]] || fail 'nothing is written' "$(ls "$work/bin" "$work/other")"
+# The same shifts as a "CTABLE V2.0": radians from the south-west, pairs of a longitude's, west positive, and a latitude's.
+ctable() {
+    perl -e 'my $r = atan2(1, 1) / 45; my $s = $r / 3600;
+             print pack("a16 a80 d<4 l<2 x24", "CTABLE V2.0", "Test\n", -80 * $r, 38 * $r, 0.5 * $r, 0.5 * $r, 30, 12),
+                   pack("f<*", (-1.75 * $s, 0.125 * $s) x 360)'
+}
+ctable >"$work/download/table"
+check 'imported from a table' 0 "${report//bin/other}" '' grid import --to "$work/other" --name conus "$work/download/table" </dev/null
+for ending in LAS LOS; do
+    cmp <(tail -c +125 "$work/bin/conus.$ending") <(tail -c +125 "$work/other/conus.$ending") || fail 'two ways' "$ending"
+done
+refused 'there already' "$work/other/conus.LAS is there already;*" \
+    grid import --to "$work/other" --name conus "$work/download/table"
+rm "$work/other/conus".*
+for length in 100 170 3000; do
+    head -c $length <(ctable) >"$work/download/short"
+    refused "cut at $length" "$work/download/short *" grid import --to "$work/other" "$work/download/short"
+done
+
 # The last point is west of the grid, in the column of the leading word.
 check 'shifted' 0 $'-74.999513889 40.000034722\n285.000486111 40.000034722\n-80.249513889 40.000034722' '' \
     datum --from 232 --to wgs84 <<<$'-75 40\n285 40\n-80.25 40'
