@@ -72,11 +72,14 @@ std::string codeText(systems::Code code) {
     return "EPSG:" + std::to_string(code);
 }
 
+std::string replacementOf(Definition const& definition) {
+    return definition.replacement == 0 ? "" : "; " + codeText(definition.replacement) + " replaces it";
+}
+
 std::string deprecationOf(Definition const& definition) {
     if (!definition.deprecated)
         return {};
-    std::string const text = definition.name + " (" + codeText(definition.code) + ") is deprecated";
-    return definition.replacement == 0 ? text : text + "; " + codeText(definition.replacement) + " replaces it";
+    return definition.name + " (" + codeText(definition.code) + ") is deprecated" + replacementOf(definition);
 }
 
 std::string suggestionsFor(std::string_view name) {
@@ -89,7 +92,7 @@ std::string suggestionsFor(std::string_view name) {
 Answer makeFromDefinition(zrproj_system& system, Definition definition, std::string noticed) {
     auto const conversion = systems::conversionOf(definition);
     if (auto const* const why = std::get_if<Unsupported>(&conversion))
-        return unsupported(definition.name + ": " + why->reason);
+        return unsupported(definition.name + ": " + why->reason + replacementOf(definition));
     if (noticed.empty())
         noticed = deprecationOf(definition);
     system.definition = std::move(definition);

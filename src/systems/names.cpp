@@ -144,6 +144,12 @@ std::string_view beginningOf(Thing thing, std::string_view key) {
     }
 }
 
+/// Without what ESRI puts in front of a name, of its own or of another's.
+std::string_view withoutEsriBeginning(Thing thing, std::string_view name) {
+    std::string_view const beginning = thing == Thing::system ? "GCS_" : thing == Thing::datum ? "D_" : "";
+    return name.starts_with(beginning) ? name.substr(beginning.size()) : name;
+}
+
 /// A pair of code and longitude order that the Open Geospatial Consortium names; here x is the longitude anyway.
 Code codeOfOgc(std::string_view key) {
     if (key.starts_with("ogc"))
@@ -199,6 +205,8 @@ Code codeNamed(Thing thing, std::string_view name) {
     auto const beginning = beginningOf(thing, key);
     if (Code const code = beginning.empty() ? 0 : search.best(std::string(beginning) + key))
         return code;
+    if (auto const rest = withoutEsriBeginning(thing, name); rest.size() < name.size())
+        return codeNamed(thing, rest);
     return thing == Thing::system ? codeOfParts(name, key) : 0;
 }
 

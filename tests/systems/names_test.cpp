@@ -42,6 +42,7 @@ TEST(Names, CaseMarksAndShortForms) {
     EXPECT_EQ(coded("ETRS89 / UTM 32N"), 25832);
     EXPECT_EQ(coded("Web Mercator"), 3857);
     EXPECT_EQ(coded("Google Maps Global Mercator"), 3857);
+    EXPECT_EQ(coded("GCS_ECML14_NB_IRF"), 9758); // as ESRI would call it
     // What marks tell apart stays apart.
     EXPECT_EQ(coded("CH1903"), 4149);
     EXPECT_EQ(coded("CH1903+"), 4150);
@@ -59,6 +60,7 @@ TEST(Names, OtherThings) {
     EXPECT_EQ(codeNamed(Thing::datum, "World Geodetic System 1984"), 6326);
     EXPECT_EQ(codeNamed(Thing::datum, "WGS_1984"), 6326);
     EXPECT_EQ(codeNamed(Thing::datum, "D_North_American_1927"), 6267);
+    EXPECT_EQ(codeNamed(Thing::datum, "D_ECML14_NB_Intermediate_Reference_Frame"), 1310);
     EXPECT_EQ(codeNamed(Thing::datum, "European_Terrestrial_Reference_System_1989"), 6258);
     EXPECT_EQ(codeNamed(Thing::ellipsoid, "GRS_1980"), 7019);
     EXPECT_EQ(codeNamed(Thing::ellipsoid, "Clarke 1880 (IGN)"), 7011);
