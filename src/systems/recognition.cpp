@@ -4,6 +4,7 @@
 #include "systems/method_table.h"
 #include "systems/names.h"
 
+#include <algorithm>
 #include <cmath>
 #include <cstdio>
 #include <initializer_list>
@@ -65,12 +66,9 @@ std::vector<Code> datumsMeant(Definition const& definition) {
     return codes;
 }
 
-/// A datum that the register does not know by any name is no contradiction.
-bool mayBeOn(std::vector<Code> const& datums, Datum const& datum) {
-    for (Code const code : datums)
-        if (code == datum.code)
-            return true;
-    return datums.empty();
+/// A datum that the register does not know by any name is no contradiction; several of its datums may have one name.
+bool mayBeOn(std::vector<Code> const& meant, Datum const& said, Datum const& registered) {
+    return meant.empty() || said.name == registered.name || std::ranges::find(meant, registered.code) != meant.end();
 }
 
 std::string datumDifference(Definition const& said, std::vector<Code> const& meant, Definition const& registered) {
@@ -80,7 +78,7 @@ std::string datumDifference(Definition const& said, std::vector<Code> const& mea
     double const meridian = said.datum.meridian.longitude, other = registered.datum.meridian.longitude;
     if (!sameAngle(meridian, other, meridianTolerance))
         return told("the prime meridian", meridian, other, " degrees");
-    if (!mayBeOn(meant, registered.datum))
+    if (!mayBeOn(meant, said.datum, registered.datum))
         return "the datum " + said.datum.name + " instead of " + registered.datum.name;
     return {};
 }

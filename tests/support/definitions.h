@@ -18,6 +18,20 @@ inline systems::Method onSphere(systems::Method method) {
         return systems::Method::equidistantCylindricalSphere;
     case systems::Method::cylindricalEqualArea:
         return systems::Method::cylindricalEqualAreaSphere;
+    case systems::Method::mercatorA:
+        return systems::Method::mercatorSphere;
+    default:
+        return method;
+    }
+}
+
+/// The method that a form without a name for one of the same numbers says instead.
+inline systems::Method saidFor(systems::Method method) {
+    switch (method) {
+    case systems::Method::transverseMercator3D:
+        return systems::Method::transverseMercator;
+    case systems::Method::modifiedAzimuthalEquidistant:
+        return systems::Method::azimuthalEquidistant;
     default:
         return method;
     }
@@ -35,7 +49,7 @@ inline std::string contentDifference(systems::Definition const& a, systems::Defi
             told << what << ' ' << x << " is not " << y << "; ";
     };
     bool const sphere = a.datum.ellipsoid.inverseFlattening == 0;
-    if (a.method != b.method && !(sphere && onSphere(a.method) == onSphere(b.method)))
+    if (a.method != b.method && a.method != saidFor(b.method) && !(sphere && onSphere(a.method) == onSphere(b.method)))
         told << systems::rowOf(a.method).name << " is not " << systems::rowOf(b.method).name << "; ";
     else
         for (std::size_t i = 0; i < systems::parameterCount; ++i)

@@ -88,6 +88,16 @@ TEST(Recognition, ADatumOfAnotherNameOnTheSameFigure) {
     EXPECT_EQ(recognise(system), 0);
 }
 
+TEST(Recognition, SeveralDatumsOfOneName) {
+    // The datum's name alone leads to the one in force, whose figure is another; the system's code tells.
+    for (Code const code : {4234, 4640, 2989, 23433}) {
+        Definition system = withoutCodes(code);
+        system.code = code;
+        EXPECT_EQ(recognise(system), code);
+        EXPECT_EQ(reconcile(system).noticed, "");
+    }
+}
+
 TEST(Recognition, WhatIsRecognisedIsTheRegistersButForItsShift) {
     Definition system = withoutCodes(31467);
     system.datum.toWgs84 = ToWgs84{598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7};

@@ -115,6 +115,20 @@ Method onEllipsoid(Method method, Ellipsoid const& ellipsoid) {
         return Method::cylindricalEqualAreaSphere;
     case Method::equidistantCylindrical:
         return Method::equidistantCylindricalSphere;
+    case Method::mercatorSphere: // here it is the other way round
+        return Method::mercatorA;
+    default:
+        return method;
+    }
+}
+
+/// The method that a PROJ string has a name for and that comes to the same numbers.
+Method namedInProj(Method method) {
+    switch (method) {
+    case Method::transverseMercator3D:
+        return Method::transverseMercator;
+    case Method::modifiedAzimuthalEquidistant:
+        return Method::azimuthalEquidistant;
     default:
         return method;
     }
@@ -489,7 +503,7 @@ WrittenMethod registerMethod(Definition const& definition) {
 
 std::optional<WrittenMethod> projMethod(Definition const& stated) {
     Definition definition = stated;
-    definition.method = onEllipsoid(stated.method, stated.datum.ellipsoid);
+    definition.method = namedInProj(onEllipsoid(stated.method, stated.datum.ellipsoid));
     return firstThatReadsBack(definition, projSpellings, {projSpellings});
 }
 
