@@ -239,7 +239,8 @@ std::optional<SideFileKind> sideFileKind(std::string const& name) {
 
 std::vector<SideFile> sideFilesOf(std::string const& image) {
     std::vector<SideFile> found;
-    for (SideFileKind const kind : {SideFileKind::reference, SideFileKind::rsf, SideFileKind::world}) {
+    for (std::size_t i = 0; i < sideFileKinds; ++i) {
+        auto const kind = static_cast<SideFileKind>(i);
         auto const names = namesToRead(image, kind);
         for (std::string const& name : names)
             if (isThere(name))

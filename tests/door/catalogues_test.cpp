@@ -19,7 +19,9 @@ template <class Entry> std::size_t countOf(Entry const& entry) {
 } // namespace
 
 TEST(DoorCatalogues, ListAll) {
-    EXPECT_EQ(countOf([](size_t n) { return zrproj_projection_entry(n, nullptr, nullptr, nullptr); }), 29U);
+    int const projections = ZrProj::ProjNumProjections();
+    EXPECT_EQ(countOf([](size_t n) { return zrproj_projection_entry(n, nullptr, nullptr, nullptr); }),
+              static_cast<std::size_t>(projections));
     EXPECT_EQ(countOf([](size_t n) { return zrproj_parameter_entry(n, nullptr, nullptr, nullptr, nullptr); }), 22U);
     EXPECT_EQ(countOf([](size_t n) { return zrproj_ellipsoid_entry(n, nullptr, nullptr, nullptr, nullptr); }), 50U);
     EXPECT_EQ(countOf([](size_t n) { return zrproj_datum_entry(n, nullptr, nullptr, nullptr, nullptr); }), 236U);
@@ -27,7 +29,7 @@ TEST(DoorCatalogues, ListAll) {
     EXPECT_EQ(countOf([](size_t n) { return zrproj_fit_method_entry(n, nullptr, nullptr, nullptr, nullptr); }), 12U);
     EXPECT_EQ(countOf([](size_t n) { return zrproj_projection_parameter(5, n, nullptr); }), 8U);
     EXPECT_EQ(countOf([](size_t n) { return zrproj_projection_parameter(0, n, nullptr); }), 0U);
-    for (int const none : {-1, 29, 999}) {
+    for (int const none : {-1, projections, 999}) {
         EXPECT_EQ(zrproj_projection_parameter(none, 0, nullptr), ZRPROJ_UNKNOWN);
         EXPECT_EQ(zrproj_projection_picture(none, 0, nullptr, nullptr), ZRPROJ_UNKNOWN);
     }
@@ -74,12 +76,12 @@ TEST(DoorCatalogues, SayWhatEntriesAre) {
               ZRPROJ_OK);
     EXPECT_STREQ(method, "regression");
     EXPECT_EQ(ellipsoid, ZrProj::EllipsoidTypeInternational1924); // which its record does not name
-    std::vector<std::string> methods;
+    std::set<std::string> methods;
     int numbers = 0, inverts = 0;
     for (size_t n = 0; zrproj_datum_method_entry(n, nullptr, &name, &numbers, &inverts) == ZRPROJ_OK; ++n)
-        methods.push_back(std::string(name) + ' ' + std::to_string(numbers) + ' ' + std::to_string(inverts));
-    EXPECT_EQ(methods, (std::vector<std::string>{"none 0 1", "NADCON -1 0", "Bursa-Wolf 7 1", "Molodensky 3 1",
-                                                 "regression -1 0"}));
+        methods.insert(std::string(name) + ' ' + std::to_string(numbers) + ' ' + std::to_string(inverts));
+    for (char const* const known : {"none 0 1", "NADCON -1 0", "Bursa-Wolf 7 1", "Molodensky 3 1", "regression -1 0"})
+        EXPECT_TRUE(methods.contains(known)) << known;
     double radius = 0, flattening = 0;
     ASSERT_EQ(zrproj_ellipsoid_entry(15, nullptr, &name, &radius, &flattening), ZRPROJ_OK);
     EXPECT_EQ(radius, 6378206.4);
@@ -97,7 +99,7 @@ TEST(DoorCatalogues, SayWhatEntriesAre) {
 
 // Every type's picture is a system; each of its parameters is one that the type uses.
 TEST(DoorCatalogues, GivePicturesOfEveryProjection) {
-    for (int type = 1; type < 29; ++type) {
+    for (int type = 1; type < ZrProj::ProjNumProjections(); ++type) {
         zrproj_parameters parameters{};
         parameters.size = sizeof parameters;
         parameters.type = type;

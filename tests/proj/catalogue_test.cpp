@@ -23,22 +23,22 @@ std::string nameOf(int type, unsigned* bits = nullptr) {
 
 TEST(Catalogue, NamesProjections) {
     unsigned bits = 0;
-    EXPECT_EQ(ProjNumProjections(), 29);
+    int const count = ProjNumProjections();
     EXPECT_EQ(nameOf(4, &bits), "Universal Transverse Mercator (UTM)");
     EXPECT_EQ(bits, 0x1Bu);
     EXPECT_EQ(nameOf(28, &bits), "Azimuthal Equidistant");
     EXPECT_EQ(bits, 0x3Fu);
     EXPECT_EQ(nameOf(999, &bits), "undefined");
     EXPECT_EQ(bits, 0u);
-    for (int const other : {-1, 29, 998, 1000}) {
+    for (int const other : {-1, count, 998, 1000}) {
         EXPECT_EQ(nameOf(other, &bits), "");
         EXPECT_EQ(bits, 0u);
     }
     EXPECT_EQ(ProjGetProjectionInfo(ProjTypeMercator, nullptr), 0x2Fu);
     std::set<std::string> names;
-    for (int type = 0; type < 29; ++type)
+    for (int type = 0; type < count; ++type)
         names.insert(nameOf(type));
-    EXPECT_EQ(names.size(), 29u);
+    EXPECT_EQ(std::ssize(names), count);
 }
 
 TEST(Catalogue, RowsAreToldApart) {
@@ -56,8 +56,9 @@ TEST(Catalogue, RowsAreToldApart) {
 
 TEST(Catalogue, ListsTheParametersOfAType) {
     EXPECT_EQ(ProjNumParams(ProjTypeUnprojectedLatLong), 0);
-    EXPECT_EQ(ProjNumParams(static_cast<ProjType>(29)), -1);
-    EXPECT_EQ(ProjEnumParam(static_cast<ProjType>(29), 0), ProjParamNone);
+    auto const none = static_cast<ProjType>(ProjNumProjections());
+    EXPECT_EQ(ProjNumParams(none), -1);
+    EXPECT_EQ(ProjEnumParam(none, 0), ProjParamNone);
     EXPECT_EQ(ProjNumParams(ProjTypeHotineObliqueMercator), 15);
     EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, 14), ProjParamUOffset);
     EXPECT_EQ(ProjEnumParam(ProjTypeHotineObliqueMercator, 15), ProjParamNone);

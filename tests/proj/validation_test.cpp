@@ -34,7 +34,7 @@ constexpr double tooFar = 1.7014117331926443e38;
 constexpr double notANumber = std::numeric_limits<double>::quiet_NaN();
 
 Case const cases[] = {
-    {static_cast<ProjType>(29), [](PROJDATA&) {}, 20230, ProjParamType},
+    {static_cast<ProjType>(ProjNumProjections()), [](PROJDATA&) {}, 20230, ProjParamType},
     {static_cast<ProjType>(-1), [](PROJDATA&) {}, 20230, ProjParamType},
     {ProjTypeUndefined, [](PROJDATA& r) { r.Scale = -1, r.Lat0 = notANumber, r.Ellipsoid = EllipsoidTypeNone; }, 0,
      ProjParamNone},
