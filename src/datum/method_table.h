@@ -13,8 +13,8 @@ namespace ZrProj {
 /// What a method goes by, beside the points.
 enum class DatumNeeds {
     Nothing,
-    Shifts,    // dX, dY, dZ, the prime meridian and the ellipsoid
-    Rotations, // those, and rX, rY, rZ and the scale
+    Shifts,    // dX, dY, dZ, geocentric and in metres, the prime meridian and the ellipsoid
+    Rotations, // those, and rX, rY, rZ, in arcseconds, and the scale
     Equations, // the library's own, one set a datum
     Grid,      // files beside the host's executable
 };
