@@ -7,6 +7,10 @@
 namespace ZrProj::systems {
 namespace {
 
+bool goesRound(Area const& area) {
+    return area.east - area.west >= 360;
+}
+
 double eastOf(Area const& area) {
     return area.west <= area.east ? area.east : area.east + 360;
 }
@@ -21,8 +25,10 @@ std::string nameOfCommon(Area const& common, Area const& a, Area const& b) {
     return haveOneOutline(common, b) ? b.name : a.name + ", as far as in " + b.name;
 }
 
+/// Within half a turn, on the register's hundredths again, so that equal areas compare equal.
 double wrapped(double longitude) {
-    return longitude > 180 ? longitude - 360 : longitude < -180 ? longitude + 360 : longitude;
+    double const within = longitude > 180 ? longitude - 360 : longitude < -180 ? longitude + 360 : longitude;
+    return std::round(within * 100) / 100;
 }
 
 } // namespace
@@ -31,11 +37,17 @@ CommonArea commonArea(std::optional<Area> const& a, std::optional<Area> const& b
     if (!a || !b)
         return {a ? a : b};
     double west = 0, east = 0;
+    if (goesRound(*a) || goesRound(*b)) {
+        Area const& narrower = goesRound(*a) ? *b : *a;
+        west = narrower.west, east = eastOf(narrower);
+    }
     for (double turn : {0.0, -360.0, 360.0}) {
         double const w = std::max(a->west, b->west + turn), e = std::min(eastOf(*a), eastOf(*b) + turn);
         if (e - w > east - west)
             west = w, east = e;
     }
+    if (west >= 180)
+        west -= 360, east -= 360;
     Area common{wrapped(west), std::max(a->south, b->south), wrapped(east), std::min(a->north, b->north), ""};
     if (!(west < east && common.south < common.north))
         return {{}, true};

@@ -502,11 +502,12 @@ class Register:
                 for code, head, _ in self.operations_of("concatenated_operation", "0", ()) if all(step in known for step in steps[code])}
 
     def superseded_operations(self):
-        """Those that the register replaces by others in force between the same systems."""
+        """Those that the register replaces by others in force between the same systems, which need no file that may be missing."""
         return {code for code, in self.ask(f"""SELECT s.superseded_code FROM supersession s JOIN coordinate_operation_view o
             ON o.table_name = s.replacement_table_name AND o.auth_name = 'EPSG' AND o.code = s.replacement_code AND o.deprecated = 0
             WHERE s.superseded_auth_name = 'EPSG' AND s.replacement_auth_name = 'EPSG' AND s.same_source_target_crs = 1
-            AND s.superseded_table_name IN {OPERATION_TABLES}""")}
+            AND s.superseded_table_name IN {OPERATION_TABLES} AND (s.replacement_table_name <> 'grid_transformation'
+                                                           OR s.superseded_table_name = 'grid_transformation')""")}
 
     def write_operations(self, rows):
         shifts = sorted({value for _, _, method, given in rows.values() if method in ("geocentric", "offsets") for value in given})

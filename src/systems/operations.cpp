@@ -81,6 +81,24 @@ Operation realization(Code ensemble, Code member) {
     return operation;
 }
 
+/// The other ends of the operations that are meant and of the ensembles, in the order of codes.
+std::vector<Code> otherEnds(Code datum, bool (*isMeant)(OperationRow const&)) {
+    std::set<Code> ends;
+    auto const join = [&](Code start, Code end) {
+        if (start == datum)
+            ends.insert(end);
+        if (end == datum)
+            ends.insert(start);
+    };
+    for (OperationRow const& row : operations)
+        if (isMeant(row))
+            join(datumAt(row.from), datumAt(row.to));
+    for (RealizationRow const& row : realizations)
+        join(row.code, row.ensemble);
+    ends.erase(datum);
+    return {ends.begin(), ends.end()};
+}
+
 } // namespace
 
 std::optional<Operation> operationOf(Code code) {
@@ -105,22 +123,11 @@ std::vector<DirectedOperation> operationsBetween(Code from, Code to) {
 }
 
 std::vector<Code> datumsBeside(Code datum) {
-    std::set<Code> beside;
-    for (OperationRow const& row : operations) {
-        Code const start = datumAt(row.from), end = datumAt(row.to);
-        if (start == datum)
-            beside.insert(end);
-        if (end == datum)
-            beside.insert(start);
-    }
-    for (RealizationRow const& row : realizations) {
-        if (row.code == datum)
-            beside.insert(row.ensemble);
-        if (row.ensemble == datum)
-            beside.insert(row.code);
-    }
-    beside.erase(datum);
-    return {beside.begin(), beside.end()};
+    return otherEnds(datum, [](OperationRow const&) { return true; });
+}
+
+std::vector<Code> datumsTakenFor(Code datum) {
+    return otherEnds(datum, [](OperationRow const& row) { return row.method == OperationMethod::null; });
 }
 
 } // namespace ZrProj::systems

@@ -46,7 +46,7 @@ struct Operation {
     std::optional<Area> area;
     double epoch = 0; // the year for which an operation that depends on time is taken; 0 where none does
     bool deprecated = false;
-    bool superseded = false; // by one in force between the same systems
+    bool superseded = false; // by one in force between the same systems, not by a grid unless it is one
     bool flat = true;        // said between systems of two dimensions, not geocentric ones or with heights
 };
 
@@ -65,5 +65,8 @@ std::vector<DirectedOperation> operationsBetween(Code from, Code to);
 
 /// The datums that operations lead to from a datum, either way round, in the order of codes.
 std::vector<Code> datumsBeside(Code datum);
+
+/// Those of them on which positions are the same: on another meridian, an ensemble or its realizations.
+std::vector<Code> datumsTakenFor(Code datum);
 
 } // namespace ZrProj::systems

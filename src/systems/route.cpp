@@ -1,305 +1,46 @@
 #include "systems/route.h"
 
-#include "systems/area.h"
 #include "systems/datum_link.h"
 #include "systems/register.h"
+#include "systems/ways.h"
 
 #include <algorithm>
 #include <cmath>
 #include <cstdio>
-#include <deque>
-#include <iterator>
 #include <limits>
-#include <set>
+#include <utility>
 
 namespace ZrProj::systems {
 namespace {
 
+using Answer = std::variant<Route, NoRoute>;
+
 constexpr Code wgs84 = 6326;
 constexpr double rough = 1;      // metres: what is worse is refused on request
 constexpr double unstated = 999; // metres: what the register says where it does not know
+constexpr double unknown = std::numeric_limits<double>::quiet_NaN();
 
-/// An operation as part of a way: a concatenated one's steps, and what keeps it from being used.
-struct Link {
-    DirectedOperation whole;
-    std::vector<DirectedOperation> steps;
-    std::vector<std::string> missing; // grid files
-    bool computed = true;             // its methods are known here
-};
-
-/// Links one after the other from datum to datum.
-struct Way {
-    std::vector<Link const*> links;
-    double accuracy = 0; // metres, NaN where unknown
-    std::optional<Area> area;
-    double extent = 0; // of what it has of the two systems' areas
-
-    std::string name() const;
-    std::size_t stepCount() const;
-    bool isComputed() const;
-    bool needsGrid() const;
-    std::vector<std::string> missing() const;
-    bool isUsable() const { return isComputed() && missing().empty(); }
-};
-
-bool isOfGrid(Operation const& operation) {
-    return !operation.grids[0].empty();
-}
-
-std::string Way::name() const {
-    std::string name;
-    for (Link const* link : links)
-        name += (name.empty() ? "" : " + ") + std::string(link->whole.reversed ? "Inverse of " : "") +
-                link->whole.operation.name;
-    return name;
-}
-
-std::size_t Way::stepCount() const {
-    std::size_t count = 0;
-    for (Link const* link : links)
-        count += link->steps.size();
-    return count;
-}
-
-bool Way::isComputed() const {
-    return std::ranges::all_of(links, [](Link const* link) { return link->computed; });
-}
-
-bool Way::needsGrid() const {
-    return std::ranges::any_of(links, [](Link const* link) {
-        return std::ranges::any_of(link->steps, [](auto const& step) { return isOfGrid(step.operation); });
-    });
-}
-
-std::vector<std::string> Way::missing() const {
-    std::vector<std::string> files;
-    for (Link const* link : links)
-        files.insert(files.end(), link->missing.begin(), link->missing.end());
-    return files;
-}
-
-/// The better one first: stated accuracy before unknown, then where more of the systems' areas is served, then what is
-/// more exact, needs no grid, has fewer steps; the rest only makes an order of it.
-bool isBetter(Way const& a, Way const& b) {
-    if (std::isnan(a.accuracy) != std::isnan(b.accuracy))
-        return std::isnan(b.accuracy);
-    if (std::isnan(a.accuracy) && a.needsGrid() != b.needsGrid())
-        return a.needsGrid();
-    if (a.extent != b.extent)
-        return a.extent > b.extent;
-    if (!std::isnan(a.accuracy) && a.accuracy != b.accuracy)
-        return a.accuracy < b.accuracy;
-    if (a.needsGrid() != b.needsGrid())
-        return b.needsGrid();
-    if (a.stepCount() != b.stepCount())
-        return a.stepCount() < b.stepCount();
-    std::string const one = a.name(), other = b.name();
-    return one.size() != other.size() ? one.size() < other.size() : one < other;
-}
-
-/// The steps of an operation in the order and sense in which a way uses it.
-std::vector<DirectedOperation> stepsOf(DirectedOperation const& whole) {
-    if (whole.operation.method != OperationMethod::concatenated)
-        return {whole};
-    std::vector<DirectedOperation> steps;
-    Code here = whole.operation.from;
-    for (Code code : whole.operation.steps) {
-        Operation const step = *operationOf(code);
-        bool const reversed = step.from != here;
-        here = reversed ? step.from : step.to;
-        steps.push_back({step, reversed != whole.reversed});
-    }
-    if (whole.reversed)
-        std::ranges::reverse(steps);
-    return steps;
-}
-
-/// Takes the copy of a grid where that is at hand and the register's own file is not.
-void chooseGrid(Operation& operation, GridIsThere const& isThere, Link& link) {
-    auto const there = [&](std::string const& file) { return file.empty() || isThere(file); };
-    if (there(operation.grids[0]) && there(operation.grids[1]))
-        return;
-    if (!operation.gridCopy.empty() && isThere(operation.gridCopy)) {
-        operation.method = OperationMethod::ntv2;
-        operation.grids = {operation.gridCopy, ""};
-        operation.gridIsReversed = operation.copyIsReversed;
-        return;
-    }
-    std::ranges::copy_if(operation.grids, std::back_inserter(link.missing),
-                         [&](auto const& file) { return !there(file); });
-}
-
-Link linkOf(DirectedOperation const& whole, GridIsThere const& isThere) {
-    Link link{whole, stepsOf(whole), {}, true};
-    for (auto& [operation, reversed] : link.steps) {
-        link.computed = link.computed && operation.method != OperationMethod::unsupported;
-        if (operation.method == OperationMethod::nadcon || operation.method == OperationMethod::ntv2)
-            chooseGrid(operation, isThere, link);
-    }
-    return link;
-}
-
-/// The datums that one is taken for as it stands: on another meridian, or the ensemble that it belongs to.
-std::vector<Code> takenFor(Code datum) {
-    std::vector<Code> others;
-    for (Code beside : datumsBeside(datum))
-        for (auto const& [operation, reversed] : operationsBetween(datum, beside))
-            if (operation.method == OperationMethod::null)
-                others.push_back(beside);
-    return others;
-}
-
-/// The register's ways between two of its datums.
-class Search {
-public:
-    Search(Definition const& start, Definition const& end, GridIsThere const& grids)
-        : from(start), to(end), isThere(grids) {}
-
-    /// Direct ones; where the register has none, those over one datum; else over one more, which is the same by another
-    /// name.
-    std::vector<Way> ways();
-
-    bool foundAny = false; // even such as serve no area of the two
-
-private:
-    using Chain = std::vector<Link const*>;
-
-    std::vector<Link> const& linksBetween(Code a, Code b);
-    std::vector<Chain> direct(Code a, Code b);
-    std::vector<Chain> overHub(Code a, Code b);
-    std::vector<Chain> overTaken(Code a, Code b);
-    static std::vector<Chain> joined(std::vector<Chain> const& first, std::vector<Chain> const& second);
-    std::vector<Way> served(std::vector<Chain> const& chains);
-    std::optional<Way> wayOf(Chain const& chain) const;
-
-    Definition const &from, &to;
-    GridIsThere const& isThere;
-    std::deque<std::vector<Link>> links; // whose addresses ways have
-};
-
-/// Those in force; where some are said between systems of two dimensions, only these.
-std::vector<Link> const& Search::linksBetween(Code a, Code b) {
-    auto operations = operationsBetween(a, b);
-    std::erase_if(operations, [](auto const& o) { return o.operation.deprecated || o.operation.superseded; });
-    if (std::ranges::any_of(operations, [](auto const& o) { return o.operation.flat; }))
-        std::erase_if(operations, [](auto const& o) { return !o.operation.flat; });
-    auto& found = links.emplace_back();
-    for (auto const& operation : operations)
-        found.push_back(linkOf(operation, isThere));
-    return found;
-}
-
-std::vector<Search::Chain> Search::direct(Code a, Code b) {
-    std::vector<Chain> chains;
-    for (Link const& link : linksBetween(a, b))
-        chains.push_back({&link});
-    return chains;
-}
-
-std::vector<Search::Chain> Search::joined(std::vector<Chain> const& first, std::vector<Chain> const& second) {
-    std::vector<Chain> chains;
-    for (Chain const& one : first)
-        for (Chain const& other : second) {
-            chains.push_back(one);
-            chains.back().insert(chains.back().end(), other.begin(), other.end());
-        }
-    return chains;
-}
-
-std::vector<Search::Chain> Search::overHub(Code a, Code b) {
-    std::vector<Code> const besideA = datumsBeside(a), besideB = datumsBeside(b);
-    std::vector<Code> hubs;
-    std::ranges::set_intersection(besideA, besideB, std::back_inserter(hubs));
-    std::vector<Chain> chains;
-    for (Code hub : hubs)
-        std::ranges::move(joined(direct(a, hub), direct(hub, b)), std::back_inserter(chains));
-    return chains;
-}
-
-std::vector<Search::Chain> Search::overTaken(Code a, Code b) {
-    std::vector<Chain> chains;
-    for (Code other : takenFor(a))
-        if (other != b)
-            std::ranges::move(joined(direct(a, other), overHub(other, b)), std::back_inserter(chains));
-    for (Code other : takenFor(b))
-        if (other != a)
-            std::ranges::move(joined(overHub(a, other), direct(other, b)), std::back_inserter(chains));
-    return chains;
-}
-
-std::optional<Way> Search::wayOf(Chain const& chain) const {
-    Way way{chain, 0, {}, 0};
-    for (Link const* link : chain) {
-        way.accuracy += link->whole.operation.accuracy;
-        auto const common = commonArea(way.area, link->whole.operation.area);
-        if (common.empty)
-            return {};
-        way.area = common.area;
-    }
-    Definition const& smaller = extentOf(to.area) < extentOf(from.area) ? to : from;
-    auto const served = commonArea(way.area, smaller.area);
-    if (served.empty)
-        return {};
-    way.extent = extentOf(served.area);
-    return way;
-}
-
-std::vector<Way> Search::served(std::vector<Chain> const& chains) {
-    std::vector<Way> ways;
-    foundAny = foundAny || !chains.empty();
-    for (Chain const& chain : chains)
-        if (auto way = wayOf(chain))
-            ways.push_back(std::move(*way));
-    return ways;
-}
-
-std::vector<Way> Search::ways() {
-    Code const a = from.datum.code, b = to.datum.code;
-    using Look = std::vector<Chain> (Search::*)(Code, Code);
-    std::vector<Way> found;
-    for (Look look : {&Search::direct, &Search::overHub, &Search::overTaken}) {
-        auto const ways = served((this->*look)(a, b));
-        found.insert(found.end(), ways.begin(), ways.end());
-        std::ranges::sort(found, isBetter);
-        if (std::ranges::any_of(found, [](Way const& way) { return way.isUsable(); }))
-            break;
-    }
-    return found;
-}
-
-// What is said of a way
+// Words
 
 std::string metres(double accuracy) {
-    if (!(accuracy < unstated))
-        return "unknown accuracy";
     char text[32];
     std::snprintf(text, sizeof text, "%.3g m", accuracy);
-    return text;
+    return accuracy < unstated ? text : "nobody knows what";
 }
 
-std::string fileWithAccuracy(std::vector<std::string> const& files, double accuracy) {
-    std::string text;
-    for (auto const& file : files)
-        text += (text.empty() ? "" : " and ") + file;
-    return text + " (" + metres(accuracy) + ")";
+std::string listed(std::vector<std::string> const& texts, char const* between) {
+    std::string list;
+    for (auto const& text : texts)
+        list += (list.empty() ? "" : between) + text;
+    return list;
 }
 
-/// The grids of ways that would be more exact than the one chosen.
-std::vector<std::string> betterGrids(std::vector<Way> const& ways, double accuracy) {
-    std::vector<std::string> better;
-    for (Way const& way : ways) {
-        bool const worse = way.accuracy >= accuracy || std::isnan(way.accuracy);
-        if (worse || !way.isComputed() || way.missing().empty())
-            continue;
-        auto const said = fileWithAccuracy(way.missing(), way.accuracy);
-        if (std::ranges::find(better, said) == better.end())
-            better.push_back(said);
-    }
-    return better;
+std::string fromTo(Definition const& from, Definition const& to) {
+    return "from " + from.datum.name + " to " + to.datum.name;
 }
 
-void tell(Route& route, Operation const& operation) {
-    if (operation.code == 0 && operation.method == OperationMethod::null)
+void tellOf(Route& route, Operation const& operation) {
+    if (operation.code == 0 && operation.method == OperationMethod::null && ensembleOf(operation.to) == operation.from)
         route.told.push_back(datumOf(operation.to)->name + " is taken as " + datumOf(operation.from)->name +
                              ", of which it is a realization, to " + metres(operation.accuracy));
     if (operation.epoch != 0) {
@@ -310,13 +51,50 @@ void tell(Route& route, Operation const& operation) {
     }
 }
 
+/// An ensemble at an end is no more exact than its realizations lie together, whatever the way states.
+void tellOfEnsemble(Route& route, Datum const& datum) {
+    if (route.accuracy < datum.ensembleAccuracy)
+        route.told.push_back(datum.name + " stands for realizations that agree to " + metres(datum.ensembleAccuracy));
+}
+
+// What the register knows
+
+/// The ways that would be more exact than an accuracy if they could be used: direct ones, else the shortest.
+std::vector<Way const*> betterWays(std::vector<Way> const& ways, double accuracy) {
+    std::vector<Way const*> better;
+    for (Way const& way : ways)
+        if (!way.isUsable() && !(way.accuracy >= accuracy) && way.accuracy < unstated)
+            better.push_back(&way);
+    auto const shortest = std::ranges::min_element(better, {}, [](Way const* way) { return way->links.size(); });
+    std::size_t const links = better.empty() ? 0 : (*shortest)->links.size();
+    std::erase_if(better, [links](Way const* way) { return way->links.size() > links; });
+    return better;
+}
+
+std::vector<std::string> betterGrids(std::vector<Way> const& ways, double accuracy) {
+    std::vector<std::string> better;
+    for (Way const* way : betterWays(ways, accuracy)) {
+        auto said = listed(way->missing(), " and ") + " (" + metres(way->accuracy) + ")";
+        if (way->isComputed() && std::ranges::find(better, said) == better.end())
+            better.push_back(std::move(said));
+    }
+    return better;
+}
+
+/// The first way that would be more exact if its method were computed here.
+std::string betterMethod(std::vector<Way> const& ways, double accuracy) {
+    auto const better = betterWays(ways, accuracy);
+    auto const first = std::ranges::find_if(better, [](Way const* way) { return !way->isComputed(); });
+    return first == better.end() ? "" : (*first)->name() + " (" + metres((*first)->accuracy) + ")";
+}
+
 void append(Route& route, Link const& link) {
+    bool const isPart = link.whole.operation.method == OperationMethod::concatenated;
     for (auto const& [operation, reversed] : link.steps) {
         Datum const start = *datumOf(reversed ? operation.to : operation.from);
         Datum const end = *datumOf(reversed ? operation.from : operation.to);
-        bool const part = link.whole.operation.method == OperationMethod::concatenated;
-        route.steps.push_back({operation, reversed, start, end, part ? link.whole.operation.code : 0});
-        tell(route, operation);
+        route.steps.push_back({operation, reversed, start, end, isPart ? link.whole.operation.code : 0});
+        tellOf(route, operation);
     }
 }
 
@@ -324,58 +102,161 @@ Route routeOf(Way const& way, std::vector<Way> const& all) {
     Route route;
     for (Link const* link : way.links)
         append(route, *link);
-    route.accuracy = way.accuracy < unstated ? way.accuracy : std::numeric_limits<double>::quiet_NaN();
+    route.accuracy = way.accuracy < unstated ? way.accuracy : unknown;
     route.area = way.area;
-    route.missingGrids = betterGrids(all, way.accuracy < unstated ? way.accuracy : unstated);
+    route.missingGrids = betterGrids(all, route.accuracy);
+    if (auto const method = betterMethod(all, route.accuracy); !method.empty())
+        route.told.push_back(method + " would be more exact, but its method is not computed here");
     return route;
 }
 
-std::string listed(std::vector<std::string> const& texts) {
-    std::string list;
-    for (auto const& text : texts)
-        list += (list.empty() ? "" : ", ") + text;
-    return list;
+std::string whatWouldHelp(std::vector<Way> const& ways, double accuracy) {
+    auto const grids = betterGrids(ways, accuracy);
+    return grids.empty() ? "" : "; a grid would help: " + listed(grids, ", ");
 }
 
-std::string between(Definition const& from, Definition const& to) {
-    return "from " + from.datum.name + " to " + to.datum.name;
+NoRoute noneServes(Definition const& from, Definition const& to, Ways const& found) {
+    auto const way = "no way " + fromTo(from, to);
+    if (!found.foundAny)
+        return {way + " is known, neither a direct one nor one over another datum"};
+    if (found.ways.empty())
+        return {way + " is known where both " + from.name + " and " + to.name + " are used"};
+    if (auto const help = whatWouldHelp(found.ways, unknown); !help.empty())
+        return {way + " does without a grid" + help};
+    return {way + " is by methods that are computed here, only " + found.ways.front().name()};
 }
 
-NoRoute noneServes(Definition const& from, Definition const& to, std::vector<Way> const& ways, bool foundAny) {
-    if (!ways.empty()) {
-        auto const grids = betterGrids(ways, unstated);
-        return {"the way " + between(from, to) + " needs a grid that is not there: " + listed(grids)};
+Answer registerRoute(Definition const& from, Definition const& to, GridIsThere const& gridIsThere, bool refuseRough) {
+    auto const found = waysBetween(from, to, gridIsThere);
+    auto const isUsable = [](Way const& way) { return way.isUsable(); };
+    auto const isFine = [&](Way const& way) { return way.isUsable() && (!refuseRough || way.accuracy <= rough); };
+    auto const best = std::ranges::find_if(found.ways, isUsable), chosen = std::ranges::find_if(found.ways, isFine);
+    if (chosen != found.ways.end())
+        return routeOf(*chosen, found.ways);
+    if (best == found.ways.end())
+        return noneServes(from, to, found);
+    return NoRoute{"the best way " + fromTo(from, to) + " is good to " + metres(best->accuracy) + " only" +
+                   whatWouldHelp(found.ways, best->accuracy)};
+}
+
+/// Whether a datum is one of the register's; else what is to be said.
+std::optional<NoRoute> strangerAmong(Definition const& from, Definition const& to) {
+    Datum const& stranger = from.datum.code == 0 ? from.datum : to.datum;
+    if (stranger.code != 0)
+        return {};
+    return NoRoute{"no way " + fromTo(from, to) + " is known: " + stranger.name +
+                   " is no datum of the register, and its definition does not say how it lies to WGS 84"};
+}
+
+Answer betweenRegistered(Definition const& from, Definition const& to, GridIsThere const& gridIsThere,
+                         bool refuseRough) {
+    auto const link = linkBetween(from.datum, to.datum);
+    if (link && link->told.empty())
+        return Route{};
+    if (auto stranger = strangerAmong(from, to))
+        return std::move(*stranger);
+    auto answer = registerRoute(from, to, gridIsThere, refuseRough);
+    bool const isThere = std::holds_alternative<Route>(answer);
+    if (!isThere && link && !(refuseRough && link->accuracy > rough))
+        return Route{{}, link->accuracy, {}, {link->told}, {}};
+    return answer;
+}
+
+// What definitions say themselves
+
+bool saysItself(Definition const& definition) {
+    return definition.datum.toWgs84 || !definition.datum.grids.empty();
+}
+
+/// The first file of a definition's list that is there; "null" is always: it is no shift. "@" only marks files that may
+/// be missing.
+std::optional<std::string> firstThere(std::string_view list, GridIsThere const& gridIsThere) {
+    while (!list.empty()) {
+        auto const comma = std::min(list.find(','), list.size());
+        auto name = list.substr(0, comma);
+        list.remove_prefix(std::min(comma + 1, list.size()));
+        name.remove_prefix(name.starts_with('@') ? 1 : 0);
+        if (name == "null" || gridIsThere(name))
+            return std::string(name);
     }
-    if (foundAny)
-        return {"no shift " + between(from, to) + " is known for an area that both have"};
-    return {"no shift " + between(from, to) + " is known"};
+    return {};
 }
 
-std::variant<Route, NoRoute> registerRoute(Definition const& from, Definition const& to, GridIsThere const& isThere,
-                                           bool refuseRough) {
-    Search search(from, to, isThere);
-    auto const ways = search.ways();
-    auto const usable = [](Way const& way) { return way.isUsable(); };
-    auto const fine = [&](Way const& way) { return usable(way) && (!refuseRough || way.accuracy <= rough); };
-    auto const chosen = std::ranges::find_if(ways, fine);
-    if (chosen != ways.end())
-        return routeOf(*chosen, ways);
-    auto const best = std::ranges::find_if(ways, usable);
-    if (best == ways.end())
-        return noneServes(from, to, ways, search.foundAny);
-    return NoRoute{"the best way " + between(from, to) + " is good to " + metres(best->accuracy) + " only"};
+/// How the definition's datum becomes WGS 84.
+std::variant<RouteStep, NoRoute> ownStep(Definition const& definition, GridIsThere const& gridIsThere) {
+    Datum const& datum = definition.datum;
+    RouteStep step{{}, false, datum, *datumOf(wgs84), 0};
+    step.operation.name = datum.name + " to WGS 84, as the definition says";
+    step.operation.from = datum.code;
+    step.operation.to = wgs84;
+    step.operation.accuracy = unknown;
+    if (datum.toWgs84) {
+        step.operation.method = OperationMethod::geocentric;
+        std::ranges::copy(*datum.toWgs84, step.operation.parameters.begin());
+        return step;
+    }
+    auto const file = firstThere(datum.grids, gridIsThere);
+    if (!file)
+        return NoRoute{"the definition of " + datum.name + " shifts by a grid that is not there: " + datum.grids};
+    if (*file != "null") {
+        step.operation.method = OperationMethod::ntv2;
+        step.operation.grids[0] = *file;
+    }
+    return step;
+}
+
+/// The other way round.
+RouteStep reversedStep(RouteStep step) {
+    std::swap(step.from, step.to);
+    step.reversed = !step.reversed;
+    return step;
+}
+
+/// A system on WGS 84 for the same area.
+Definition onWgs84(Definition const& definition) {
+    Definition other;
+    other.name = definition.name;
+    other.datum = *datumOf(wgs84);
+    other.area = definition.area;
+    return other;
+}
+
+/// Over WGS 84, to which one of the definitions or both lead by themselves.
+Answer ownRoute(Definition const& from, Definition const& to, GridIsThere const& gridIsThere) {
+    auto const registered = [](Definition const& end) { return saysItself(end) ? onWgs84(end) : end; };
+    auto rest = betweenRegistered(registered(from), registered(to), gridIsThere, false);
+    if (std::holds_alternative<NoRoute>(rest))
+        return rest;
+    Route route = std::get<Route>(std::move(rest));
+    for (bool atEnd : {false, true}) {
+        Definition const& definition = atEnd ? to : from;
+        if (!saysItself(definition))
+            continue;
+        auto own = ownStep(definition, gridIsThere);
+        if (auto* const none = std::get_if<NoRoute>(&own))
+            return std::move(*none);
+        auto const& step = std::get<RouteStep>(own);
+        route.steps.insert(atEnd ? route.steps.end() : route.steps.begin(), atEnd ? reversedStep(step) : step);
+    }
+    route.accuracy = unknown;
+    return route;
 }
 
 } // namespace
 
-std::variant<Route, NoRoute> routeBetween(Definition const& from, Definition const& to, GridIsThere const& gridIsThere,
-                                          bool refuseRough) {
+Answer routeBetween(Definition const& from, Definition const& to, GridIsThere const& gridIsThere, bool refuseRough) {
     auto const link = linkBetween(from.datum, to.datum);
-    if (link && link->told.empty())
-        return Route{};
-    if (from.datum.code == 0 || to.datum.code == 0)
-        return NoRoute{"no shift " + between(from, to) + " is known"};
-    return registerRoute(from, to, gridIsThere, refuseRough);
+    bool const areOne = link && link->told.empty();
+    if (areOne || !(saysItself(from) || saysItself(to))) {
+        auto answer = betweenRegistered(from, to, gridIsThere, refuseRough);
+        if (auto* const route = std::get_if<Route>(&answer); route && !route->steps.empty())
+            for (Datum const* end : {&from.datum, &to.datum})
+                tellOfEnsemble(*route, *end);
+        return answer;
+    }
+    if (refuseRough)
+        return NoRoute{"the way " + fromTo(from, to) + " is what a definition says, which states no accuracy"};
+    return ownRoute(from, to, gridIsThere);
 }
 
 } // namespace ZrProj::systems

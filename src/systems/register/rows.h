@@ -104,7 +104,7 @@ inline constexpr std::uint32_t numbered = 1U << 23;
 
 enum OperationMark : std::uint8_t {
     deprecated = 1,
-    superseded = 2, // by one in force between the same systems
+    superseded = 2, // by one in force between the same systems, which needs no grid unless this one does
     flat = 4,       // said between systems of two dimensions
 };
 
