@@ -46,7 +46,8 @@ zrproj_grid headerOf(Layout const& layout) {
     header.dx = degrees(layout.dx), header.dy = degrees(layout.dy);
     std::copy_n(layout.name, std::min<std::size_t>(sizeof layout.name, 56), header.identification);
     std::string_view const program = "zrproj";
-    std::replace(header.identification, header.identification + 56, '\0', ' ');
+    std::replace_if(
+        header.identification, header.identification + 56, [](char c) { return c < ' '; }, ' ');
     std::copy(program.begin(), program.end(), header.identification + 56);
     return header;
 }

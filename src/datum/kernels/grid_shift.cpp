@@ -53,6 +53,9 @@ template <class R> struct Patch {
     Condition<R> good;
     Shifts<R> one, u, v, uv;
 
+    /// At the nearest place of the cell: beside a grid's edge the shifts are those on it.
+    Shifts<R> within(R x, R y) const { return at(clamped(x, R(0.0), R(1.0)), clamped(y, R(0.0), R(1.0))); }
+
     Shifts<R> at(R x, R y) const {
         return {one.west + u.west * x + (v.west + uv.west * x) * y,
                 one.north + u.north * x + (v.north + uv.north * x) * y};
@@ -107,7 +110,7 @@ struct Grids {
     template <class R> Pair<R> shifted(Pair<R> p) const {
         Cell<R> const cell = locate(p, set.depth, 1);
         Patch<R> const patch = patchOf(cell);
-        Shifts<R> const shift = patch.at(cell.u, cell.v);
+        Shifts<R> const shift = patch.within(cell.u, cell.v);
         auto const good = cell.found & patch.good;
         return {select(good, p.x - shift.west, R(notANumber)), select(good, p.y + shift.north, R(notANumber))};
     }
@@ -209,8 +212,11 @@ private:
             v = select(moving, clamped(v - dv, R(-16.0), R(16.0)), v);
             moving = moving & ((abs(du) > tolerance * cell.perDx) | (abs(dv) > tolerance * cell.perDy));
         }
-        solved = solved & !moving;
-        Shifts<R> const shift = patch.at(u, v);
+        // What lies beside the cell is no solution, but the way to one; unless the grid ends there.
+        Shifts<R> const shift = patch.within(u, v);
+        Shifts<R> const there = patch.within(x - shift.west * cell.perDx, y - shift.north * cell.perDy);
+        solved = solved & !moving & (abs(there.west - shift.west) < 5 * tolerance) &
+                 (abs(there.north - shift.north) < 5 * tolerance);
         return {target.x + shift.west, target.y - shift.north};
     }
 };
