@@ -30,7 +30,7 @@ struct Converter {
     levels::Stage stageOf(Direction direction) const { return {this->*direction, this}; }
 
     /// Where there is a map.
-    levels::Outcome convert(Direction direction, levels::Points const& points, levels::Marking const& marking) const {
+    levels::Outcome convert(Direction direction, levels::Points points, levels::Marking const& marking) const {
         auto const stage = stageOf(direction);
         return driver(&stage, 1, points, marking);
     }

@@ -12,7 +12,7 @@
 #include "formulas/converter.h"
 #include "formulas/degrees.h"
 #include "formulas/points.h"
-#include "levels/driver.h"
+#include "levels/stage_code.h"
 
 #include <cstring>
 #include <new>

@@ -98,9 +98,9 @@ Grid expanded(georef::Polynomial const& map, double const (&coefficients)[10]) {
 void GeorefMap::map(std::span<GEOREFPOINT> points) const noexcept {
     auto const& kernels = georef::kernels();
     if (auto const* const fitted = polynomial())
-        kernels.mapByPolynomial(*fitted, levels::pointsOf(points.data(), points.size()), {});
+        kernels.mapByPolynomial(*fitted, levels::pointsOf(points.data(), points.size()));
     else
-        kernels.mapByWarp(std::get<FittedWarp>(m_map).warp, levels::pointsOf(points.data(), points.size()), {});
+        kernels.mapByWarp(std::get<FittedWarp>(m_map).warp, levels::pointsOf(points.data(), points.size()));
 }
 
 bool areTooMany(TransformMethod method, std::size_t controls) {

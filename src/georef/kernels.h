@@ -40,10 +40,8 @@ struct SymmetricMatrix {
 };
 
 struct KernelSet {
-    levels::Outcome (*mapByPolynomial)(Polynomial const& map, levels::Points const& points,
-                                       levels::Marking const& marking) noexcept;
-    levels::Outcome (*mapByWarp)(Warp const& map, levels::Points const& points,
-                                 levels::Marking const& marking) noexcept;
+    void (*mapByPolynomial)(Polynomial const& map, levels::Points points) noexcept;
+    void (*mapByWarp)(Warp const& map, levels::Points points) noexcept;
     /// basis(r) for every control, r its distance from control `i`; not for inverse distances.
     void (*basisRow)(Warp const& map, std::size_t i, double* row) noexcept;
     /// Cholesky's factor L, in place on and below the diagonal. False where a pivot is not above `leastPivot`.

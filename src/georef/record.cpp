@@ -79,7 +79,7 @@ bool RefCoeffToControls(GEOREF* georef, int width, int height) {
     FloatingPointScope const scope;
     for (int i = 0; i < 4; ++i)
         georef->pSource[i] = georef->pTarget[i] = corners[i];
-    georef::kernels().mapByPolynomial(coefficientMap(*georef), levels::pointsOf(georef->pTarget, 4), {});
+    georef::kernels().mapByPolynomial(coefficientMap(*georef), levels::pointsOf(georef->pTarget, 4));
     georef->Method = TransformMethodAffinePolynomial;
     return true;
 }

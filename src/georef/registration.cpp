@@ -66,7 +66,7 @@ bool CImageRegistration::Transform(GEOREFPOINT* points, int count) const {
     if (!m_fitted || !points || count < 1)
         return false;
     FloatingPointScope const scope;
-    georef::kernels().mapByWarp(m_fitted->map.warp, levels::pointsOf(points, static_cast<std::size_t>(count)), {});
+    georef::kernels().mapByWarp(m_fitted->map.warp, levels::pointsOf(points, static_cast<std::size_t>(count)));
     return true;
 }
 

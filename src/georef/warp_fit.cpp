@@ -95,7 +95,7 @@ struct Residuals {
 
 Residuals residualsOf(georef::Warp const& warp, Controls const& controls) {
     std::vector<GEOREFPOINT> mapped(controls.source.begin(), controls.source.end());
-    georef::kernels().mapByWarp(warp, levels::pointsOf(mapped.data(), mapped.size()), {});
+    georef::kernels().mapByWarp(warp, levels::pointsOf(mapped.data(), mapped.size()));
     Residuals residuals{std::vector<double>(mapped.size()), std::vector<double>(mapped.size())};
     for (std::size_t i = 0; i < mapped.size(); ++i) {
         residuals.x[i] = controls.target[i].x - mapped[i].x;

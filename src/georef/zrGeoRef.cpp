@@ -75,7 +75,7 @@ void map(GeorefBlock const& block, std::span<GEOREFPOINT> points) {
     if (isWarp(block.record.Method))
         block.registration.Transform(points.data(), static_cast<int>(points.size()));
     else
-        georef::kernels().mapByPolynomial(block.polynomial, levels::pointsOf(points.data(), points.size()), {});
+        georef::kernels().mapByPolynomial(block.polynomial, levels::pointsOf(points.data(), points.size()));
 }
 
 /// The number as callers are given it: DBL_MAX where it is infinite or NaN.

@@ -7,18 +7,16 @@
 
 namespace ZrProj::levels {
 
-/// A caller's points, which are converted in place: pairs, two arrays, or whatever else lies at a stride.
+/// A caller's points, which are converted in place: x and y in turn.
 struct Points {
-    std::byte *x, *y;      // a `double` each, aligned or not: the first point's
-    std::ptrdiff_t stride; // bytes from a point's numbers to those of the next one
+    double* numbers;
     std::size_t count;
 };
 
-/// The same of an array of records that are an x and a y.
+/// An array of records that are an x and a y each.
 template <class Record> Points pointsOf(Record* records, std::size_t count) noexcept {
     static_assert(sizeof(Record) == 2 * sizeof(double));
-    auto* const first = reinterpret_cast<std::byte*>(records);
-    return {first, first + sizeof(double), sizeof(Record), count};
+    return {reinterpret_cast<double*>(records), count};
 }
 
 inline constexpr int blockPoints = 256;
@@ -63,9 +61,9 @@ template <class Point> [[gnu::always_inline]] constexpr bool isMarked(Point cons
     return point.x == DBL_MAX || point.y == DBL_MAX;
 }
 
-/// How a computation says what it could not compute. A marked point may come in, too.
+/// What is asked of a computation besides its results. A point that cannot be computed is lost: both of its coordinates
+/// become DBL_MAX. A marked point may come in, too.
 struct Marking {
-    double marker = DBL_MAX;        // both coordinates of what is lost become this
     bool keepsMarked = false;       // what came in marked and finite stays as it is, and does not count
     unsigned char* fates = nullptr; // where a point's place is given and holds cameOut: what became of it
 };
@@ -77,7 +75,6 @@ struct Outcome {
 };
 
 /// A level's driver. Stages must be of the same level.
-using Convert = Outcome(Stage const* stages, std::size_t stageCount, Points const& points,
-                        Marking const& marking) noexcept;
+using Convert = Outcome(Stage const* stages, std::size_t stageCount, Points points, Marking const& marking) noexcept;
 
 } // namespace ZrProj::levels

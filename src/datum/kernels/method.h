@@ -8,7 +8,7 @@
 #include "datum/step.h"
 #include "formulas/degrees.h"
 #include "formulas/parameters.h"
-#include "levels/driver.h"
+#include "levels/stage_code.h"
 
 #include <cmath>
 #include <cstring>

@@ -2,15 +2,14 @@
 #pragma once
 
 #include "georef/kernels.h"
-#include "levels/driver.h"
+#include "levels/stage_code.h"
 
 namespace ZrProj::georef::ZRPROJ_LEVEL {
 
 using namespace levels::ZRPROJ_LEVEL;
 
-levels::Outcome mapByPolynomial(Polynomial const& map, levels::Points const& points,
-                                levels::Marking const& marking) noexcept;
-levels::Outcome mapByWarp(Warp const& map, levels::Points const& points, levels::Marking const& marking) noexcept;
+void mapByPolynomial(Polynomial const& map, levels::Points points) noexcept;
+void mapByWarp(Warp const& map, levels::Points points) noexcept;
 void basisRow(Warp const& map, std::size_t i, double* row) noexcept;
 bool factorise(SymmetricMatrix const& matrix, double leastPivot) noexcept;
 

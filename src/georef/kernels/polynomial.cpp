@@ -1,4 +1,5 @@
 #include "georef/kernels/kernels.h"
+#include "levels/driver.h"
 
 namespace ZrProj::georef::ZRPROJ_LEVEL {
 namespace {
@@ -25,24 +26,23 @@ template <int terms> struct Terms {
     }
 };
 
-template <int terms>
-levels::Outcome mapBy(Polynomial const& map, levels::Points const& points, levels::Marking const& marking) {
-    return convertPoints<Direct<Terms<terms>>>(points, marking, Terms<terms>{map});
+template <int terms> void mapBy(Polynomial const& map, levels::Points points) {
+    Direct<Terms<terms>> const work{{map}};
+    convertPoints(work, points, {});
 }
 
 } // namespace
 
-levels::Outcome mapByPolynomial(Polynomial const& map, levels::Points const& points,
-                                levels::Marking const& marking) noexcept {
+void mapByPolynomial(Polynomial const& map, levels::Points points) noexcept {
     switch (map.terms) {
     case 3:
-        return mapBy<3>(map, points, marking);
+        return mapBy<3>(map, points);
     case 4:
-        return mapBy<4>(map, points, marking);
+        return mapBy<4>(map, points);
     case 6:
-        return mapBy<6>(map, points, marking);
+        return mapBy<6>(map, points);
     default:
-        return mapBy<10>(map, points, marking);
+        return mapBy<10>(map, points);
     }
 }
 

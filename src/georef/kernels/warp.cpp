@@ -117,9 +117,9 @@ template <class Basis> void fillRow(Warp const& map, std::size_t i, double* row)
 
 } // namespace
 
-levels::Outcome mapByWarp(Warp const& map, levels::Points const& points, levels::Marking const& marking) noexcept {
+void mapByWarp(Warp const& map, levels::Points points) noexcept {
     levels::Stage const stage{stageCodeOf(map.method), &map};
-    return convert(&stage, 1, points, marking);
+    convert(&stage, 1, points, {});
 }
 
 void basisRow(Warp const& map, std::size_t i, double* row) noexcept {
