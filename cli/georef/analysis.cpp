@@ -68,7 +68,7 @@ GeorefFit::GeorefFit(GeorefMethod const& method, std::vector<ControlPoint> const
 void GeorefFit::map(std::span<GEOREFPOINT> points) const {
     if (points.empty())
         return;
-    zrproj_fit_points(m_fit.get(), &points[0].x, &points[0].y, sizeof(GEOREFPOINT), points.size(), nullptr);
+    zrproj_fit_points(m_fit.get(), &points[0].x, &points[0].y, sizeof(GEOREFPOINT), points.size(), nullptr, 0);
     for (GEOREFPOINT& point : points)
         if (std::isnan(point.x))
             point = {DBL_MAX, DBL_MAX};

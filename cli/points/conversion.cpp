@@ -57,7 +57,7 @@ void Transform::fromImage(PointBlock& block) const {
     std::vector<PROJPOINT>& points = block.points;
     if (points.empty())
         return;
-    zrproj_fit_points(m_choice.image.get(), &points[0].x, &points[0].y, sizeof(PROJPOINT), points.size(), nullptr);
+    zrproj_fit_points(m_choice.image.get(), &points[0].x, &points[0].y, sizeof(PROJPOINT), points.size(), nullptr, 0);
     for (std::size_t i = 0; i < points.size(); ++i)
         if (std::isnan(points[i].x)) {
             points[i] = {DBL_MAX, DBL_MAX};

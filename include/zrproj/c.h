@@ -371,11 +371,12 @@ ZRPROJ_API zrproj_status zrproj_fit_create_affine(double const coefficients[6], 
 /// Frees a fit. Its analyses stay good.
 ZRPROJ_API void zrproj_fit_destroy(zrproj_fit* fit);
 
-/// Maps `count` points in place from source to target coordinates. Layout, NaN, reasons and failures as for
-/// zrproj_transform_points; the reasons are ZRPROJ_CONVERTED, ZRPROJ_NOT_FINITE, and ZRPROJ_OFF_THE_MAP where the
-/// result is not finite.
+/// Maps `count` points in place from source to target coordinates, on as many threads as zrproj_options::threads says.
+/// Layout, NaN, reasons and failures as for zrproj_transform_points; the reasons are ZRPROJ_CONVERTED,
+/// ZRPROJ_NOT_FINITE, and ZRPROJ_OFF_THE_MAP where the result is not finite. ZRPROJ_BAD_ARGUMENT for threads below -1,
+/// too.
 ZRPROJ_API zrproj_status zrproj_fit_points(zrproj_fit const* fit, double* x, double* y, ptrdiff_t stride, size_t count,
-                                           unsigned char* reasons);
+                                           unsigned char* reasons, int threads);
 
 /// The n-th term of a similarity, a polynomial or six coefficients, "x^2 y" say, and its coefficients for X and for Y
 /// in source coordinates as they are. Methods that meet every control point have no terms. Outputs may be null; `term`

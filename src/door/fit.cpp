@@ -143,15 +143,14 @@ void zrproj_fit_destroy(zrproj_fit* fit) {
 }
 
 zrproj_status zrproj_fit_points(zrproj_fit const* fit, double* x, double* y, ptrdiff_t stride, size_t count,
-                                unsigned char* reasons) {
+                                unsigned char* reasons, int threads) {
     return answer([&] {
         if (!fit)
             return badArgument("null pointer to a fit");
-        PointArray const points{x, y, stride, count, reasons};
-        Answer checked = check(points);
-        if (checked.isGood())
-            convertRange(points, 0, count, [&](auto block, auto why) { mapBlock(*fit->map, block, why); });
-        return checked;
+        if (Answer checked = checkThreads(threads); !checked.isGood())
+            return checked;
+        return convertArray({x, y, stride, count, reasons}, threads,
+                            [&](auto block, auto why) { mapBlock(*fit->map, block, why); });
     });
 }
 

@@ -32,6 +32,10 @@ Answer check(PointArray const& points) {
     return {};
 }
 
+Answer checkThreads(int threads) {
+    return threads < -1 ? badArgument("threads below -1") : Answer{};
+}
+
 void share(std::size_t count, int threads, void (*work)(void const*, std::size_t, std::size_t),
            void const* context) noexcept {
     std::size_t const workers = workersFor(count, threads), part = count / workers;

@@ -36,8 +36,9 @@ private:
     }
 };
 
-/// What is wrong with a caller's array, if anything.
+/// What is wrong with a caller's array or number of threads, if anything.
 Answer check(PointArray const& points);
+Answer checkThreads(int threads);
 
 /// The smallest reason that keeps a point from having a result, of what came in.
 inline Reason reasonOfInput(PROJPOINT const& point) {
@@ -71,8 +72,10 @@ void convertRange(PointArray const& points, std::size_t begin, std::size_t end, 
 void share(std::size_t count, int threads, void (*work)(void const* context, std::size_t begin, std::size_t end),
            void const* context) noexcept;
 
-/// convertRange for all points.
-template <class Convert> void convertArray(PointArray const& points, int threads, Convert const& convert) {
+/// convertRange for all points of a caller's array with which nothing is wrong.
+template <class Convert> Answer convertArray(PointArray const& points, int threads, Convert const& convert) {
+    if (Answer checked = check(points); !checked.isGood())
+        return checked;
     struct Context {
         PointArray const& points;
         Convert const& convert;
@@ -85,6 +88,7 @@ template <class Convert> void convertArray(PointArray const& points, int threads
             convertRange(array, begin, end, converter);
         },
         &context);
+    return {};
 }
 
 } // namespace ZrProj::Door

@@ -26,8 +26,8 @@ constexpr PROJPOINT mark{DBL_MAX, DBL_MAX};
 
 Answer make(zrproj_transform& transform, zrproj_system const& from, zrproj_system const& to,
             zrproj_options const& options) {
-    if (options.threads < -1)
-        return badArgument("threads below -1");
+    if (Answer checked = checkThreads(options.threads); !checked.isGood())
+        return checked;
     datum::GridFolders const folders(options.grids ? options.grids : "");
     auto const isThere = [&folders](std::string_view name) { return folders.find(name).has_value(); };
     auto route = systems::routeBetween(from.definition, to.definition, isThere, options.refuse_rough != 0);
@@ -81,12 +81,9 @@ void convertBlock(zrproj_transform const& transform, bool backwards, std::span<P
 }
 
 Answer convert(zrproj_transform const& transform, bool backwards, PointArray const& points) {
-    if (Answer checked = check(points); !checked.isGood())
-        return checked;
-    convertArray(points, transform.threads, [&](std::span<PROJPOINT> block, std::span<Reason> reasons) {
+    return convertArray(points, transform.threads, [&](std::span<PROJPOINT> block, std::span<Reason> reasons) {
         convertBlock(transform, backwards, block, reasons);
     });
-    return {};
 }
 
 /// A line for an end of the way; none for a geographic one without a name.

@@ -119,7 +119,7 @@ TEST(DoorDescription, WritesWhatItReads) {
     EXPECT_EQ(georeferenceOf(back).count, 4U);
     Fit const fit = made<Fit>([&](zrproj_fit** f) { return zrproj_description_fit(back.get(), f); });
     double pixel[] = {250, 100};
-    ASSERT_EQ(zrproj_fit_points(fit.get(), pixel, pixel + 1, 16, 1, nullptr), ZRPROJ_OK);
+    ASSERT_EQ(zrproj_fit_points(fit.get(), pixel, pixel + 1, 16, 1, nullptr, 0), ZRPROJ_OK);
     EXPECT_NEAR(pixel[0], 500500, 1e-6);
     EXPECT_NEAR(pixel[1], 4649800, 1e-6);
 

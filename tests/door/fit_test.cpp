@@ -54,8 +54,8 @@ TEST(DoorFit, MapsPointsInAnyLayout) {
     Fit const fit = ScannedMap(12).fit(affine);
     double pairs[] = {10, 20, HUGE_VAL, 1, 1e308, 1e308, 990, 500}, x[] = {10, 990}, y[] = {20, 500};
     unsigned char reasons[4];
-    ASSERT_EQ(zrproj_fit_points(fit.get(), pairs, pairs + 1, 16, 4, reasons), ZRPROJ_OK);
-    ASSERT_EQ(zrproj_fit_points(fit.get(), x, y, 8, 2, nullptr), ZRPROJ_OK);
+    ASSERT_EQ(zrproj_fit_points(fit.get(), pairs, pairs + 1, 16, 4, reasons, 0), ZRPROJ_OK);
+    ASSERT_EQ(zrproj_fit_points(fit.get(), x, y, 8, 2, nullptr, 0), ZRPROJ_OK);
     EXPECT_EQ(reasons[0], ZRPROJ_CONVERTED);
     EXPECT_EQ(reasons[1], ZRPROJ_NOT_FINITE);
     EXPECT_EQ(reasons[2], ZRPROJ_OFF_THE_MAP);
@@ -63,7 +63,24 @@ TEST(DoorFit, MapsPointsInAnyLayout) {
     EXPECT_EQ(pairs[0], x[0]);
     EXPECT_EQ(pairs[7], y[1]);
     EXPECT_NEAR(x[0], 5e5 + 20, 2);
-    EXPECT_EQ(zrproj_fit_points(fit.get(), x, y, 4, 2, nullptr), ZRPROJ_BAD_ARGUMENT);
+    EXPECT_EQ(zrproj_fit_points(fit.get(), x, y, 4, 2, nullptr, 0), ZRPROJ_BAD_ARGUMENT);
+}
+
+TEST(DoorFit, MapsTheSameOnSeveralThreads) {
+    constexpr std::size_t count = 75001;
+    for (int const method : {third, thinPlate}) {
+        Fit const fit = ScannedMap(12).fit(method);
+        std::vector<double> alone;
+        for (std::size_t i = 0; i < 2 * count; ++i)
+            alone.push_back(i % 777 == 5 ? HUGE_VAL : std::fmod(0.37 * static_cast<double>(i), 1000));
+        auto together = alone;
+        std::vector<unsigned char> reasons(count), others(count);
+        ASSERT_EQ(zrproj_fit_points(fit.get(), &alone[0], &alone[1], 16, count, reasons.data(), 1), ZRPROJ_OK);
+        ASSERT_EQ(zrproj_fit_points(fit.get(), &together[0], &together[1], 16, count, others.data(), 3), ZRPROJ_OK);
+        EXPECT_EQ(std::memcmp(alone.data(), together.data(), alone.size() * sizeof alone[0]), 0);
+        EXPECT_EQ(reasons, others);
+        EXPECT_EQ(zrproj_fit_points(fit.get(), &alone[0], &alone[1], 16, 1, nullptr, -2), ZRPROJ_BAD_ARGUMENT);
+    }
 }
 
 TEST(DoorFit, TellsItsCoefficients) {
