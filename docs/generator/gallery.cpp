@@ -5,6 +5,7 @@
 #include "cli/map/drawing.h"
 #include "cli/map/sheet.h"
 #include "cli/model/parameters.h"
+#include "cli/model/system.h"
 
 #include <exception>
 #include <filesystem>
@@ -80,20 +81,58 @@ std::string section(MapView const& view) {
     return text + "    zrproj map " + options + " --tissot --size 480\n";
 }
 
+constexpr char const* systemsIntroduction = R"(
+# Systems
+
+Maps of [coordinate systems](systems.md) whose methods no projection type says, drawn as far as the method carries: a national grid
+is meant for a small part of its map.
+)";
+
+/// A system that shows a method of its own.
+struct SystemView {
+    char const *key, *code, *method;
+};
+// clang-format off
+constexpr SystemView systemViews[] = {
+    {"equal-earth",             "EPSG:8857",  "Equal Earth"},
+    {"cylindrical-equal-area",  "EPSG:6933",  "Lambert cylindrical equal area, on the ellipsoid"},
+    {"web-mercator",            "EPSG:3857",  "Mercator on the sphere of web maps"},
+    {"oblique-stereographic",   "EPSG:28992", "Oblique (double) stereographic, the Netherlands"},
+    {"swiss",                   "EPSG:2056",  "Hotine, variant B, azimuth 90 degrees, Switzerland"},
+    {"rectified-skew",          "EPSG:3375",  "Hotine, variant A, with a rectified angle of its own, Malaysia"},
+    {"krovak",                  "EPSG:5514",  "Krovak, an oblique conic, north orientated, Czechia and Slovakia"},
+    {"laborde",                 "EPSG:8441",  "Laborde, Madagascar"},
+    {"new-zealand-map-grid",    "EPSG:27200", "New Zealand Map Grid"},
+    {"polar-stereographic",     "EPSG:3031",  "Polar stereographic, variant B, Antarctica"},
+    {"south-orientated",        "EPSG:2053",  "Transverse Mercator with axes that run west and south, South Africa"},
+};
+// clang-format on
+
+std::string section(SystemView const& view, std::string const& name) {
+    std::string const code = view.code;
+    return "\n## " + name + "\n\n" + view.method + ".\n\n![" + name + "](gallery/system-" + view.key +
+           ".svg)\n\n    zrproj map --crs " + code + " --tissot --size 480\n";
+}
+
 void makeGallery(std::filesystem::path const& docs) {
     auto const land = worldLand();
     std::string page = introduction;
     std::filesystem::create_directories(docs / "gallery");
+    auto const draw = [&](ProjectionChoice const& choice, std::string const& key, std::string const& title) {
+        MapContent const content{
+            .land = &land, .graticule = 15, .ellipses = 30, .points = {}, .title = title, .bounds = {}};
+        write(docs / "gallery" / (key + ".svg"), svgFile(drawMap(choice, content, size, "")));
+    };
     for (MapView const& view : mapViews()) {
-        MapContent const content{.land = &land,
-                                 .graticule = 15,
-                                 .ellipses = 30,
-                                 .points = {},
-                                 .title = projectionName(view.record.Type),
-                                 .bounds = {}};
-        write(docs / "gallery" / (std::string(view.key) + ".svg"),
-              svgFile(drawMap({.record = view.record}, content, size, "")));
+        draw({.record = view.record}, view.key, projectionName(view.record.Type));
         page += section(view);
+    }
+    page += systemsIntroduction;
+    for (SystemView const& view : systemViews) {
+        auto const system = systemOfDefinition(view.code);
+        std::string const name = system->text(ZRPROJ_NAME);
+        draw({.system = system}, std::string("system-") + view.key, name);
+        page += section(view, name);
     }
     write(docs / "gallery.md", page);
 }

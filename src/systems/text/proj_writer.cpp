@@ -105,7 +105,7 @@ OrProblem<std::string> webMercatorText(Definition const& definition) {
 } // namespace
 
 OrProblem<std::string> writeProjString(Definition const& definition) {
-    if (definition.datum.grids.find(' ') != std::string::npos)
+    if (definition.datum.grids.find_first_of(" \t\r\n") != std::string::npos)
         return cannotSay("a PROJ string", "the name of a grid that has a blank");
     if (!definition.isProjected())
         return "+proj=longlat" + datumText(definition.datum) + " +no_defs +type=crs";

@@ -134,8 +134,12 @@ Method namedInProj(Method method) {
     }
 }
 
-/// Azimuths from 0 to 360 degrees.
-void normalise(ParameterValues& values) {
+/// Brings azimuths into 0 to 360 degrees; an angle of more than a turn is a slip.
+void normaliseAngles(Definition& definition, std::size_t offset, Complaint& complaint) {
+    ParameterValues& values = definition.parameters;
+    for (ParameterRow const& row : parametersOf(definition.method))
+        if (row.kind == Kind::angle && std::abs(values[row.parameter]) > 360)
+            complaint.malformed(offset, "the parameter " + std::string(row.name) + " is more than a turn");
     for (Parameter const p : {Parameter::azimuth, Parameter::rectifiedAngle})
         if (values[p] < 0 && values[p] >= -360)
             values[p] += 360;
@@ -462,7 +466,7 @@ bool takeMethod(Definition& definition, StatedMethod const& stated, Complaint& c
             complaint.malformed(stated.offset, "the parameter " + std::string(row.name) + " is missing");
         definition.parameters[row.parameter] = silent.value_or(0);
     }
-    normalise(definition.parameters);
+    normaliseAngles(definition, stated.offset, complaint);
     return true;
 }
 
@@ -479,7 +483,7 @@ bool takeSpelledMethod(Definition& definition, std::initializer_list<std::span<S
             if (auto const values = fit.values(definition.datum.ellipsoid)) {
                 definition.method = row.method;
                 definition.parameters = *values;
-                normalise(definition.parameters);
+                normaliseAngles(definition, stated.offset, complaint);
                 return true;
             }
             if (missing.empty())

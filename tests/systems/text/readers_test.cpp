@@ -74,6 +74,7 @@ TEST(Readers, TellWhereATextStopsMakingSense) {
         {"{\"typ", Fault::malformed, "line 1, column 2", "closing quotation mark"},
         {"+proj=utm +zone=61", Fault::malformed, "column 11", "1 to 60"},
         {"+proj=tmerc +lat_0=1x", Fault::malformed, "column 13", "angle"},
+        {"+proj=tmerc +lon_0=3600", Fault::malformed, "column 1", "more than a turn"},
         {"+proj=tmerc +elps=bessel", Fault::unknown, "column 13", "+elps"},
         {"+proj=longlat +ellps=besel", Fault::unknown, "column 15", "besel"},
         {"+proj=longlat +towgs84=1,2", Fault::malformed, "column 15", "3 or 7"},

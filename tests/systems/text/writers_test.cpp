@@ -96,7 +96,10 @@ TEST(Writers, WaysToWgs84) {
     }
     for (Writer const write : {writeWkt1, writeWkt2, writeProjJson})
         EXPECT_EQ(std::get<Definition>(readDefinition(text(write(gridded)))).datum.grids, "a b.gsb");
-    EXPECT_NE(text(writeProjString(gridded)).find("cannot say"), std::string::npos);
+    for (char const* const name : {"a b.gsb", "a\tb.gsb", "a\nb.gsb"}) {
+        gridded.datum.grids = name;
+        EXPECT_NE(text(writeProjString(gridded)).find("cannot say"), std::string::npos);
+    }
     EXPECT_EQ(text(writeEsriWkt(system)), "ESRI's WKT cannot say a way to WGS 84");
 }
 
