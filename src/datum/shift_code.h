@@ -10,8 +10,6 @@ namespace ZrProj::datum {
 struct Figure {
     double semiMajor = 0, flattening = 0;
 
-    bool operator==(Figure const&) const = default;
-
     double squaredEccentricity() const { return flattening * (2 - flattening); }
 };
 

@@ -4,6 +4,7 @@
 #include "systems/route_text.h"
 
 #include <cfloat>
+#include <cmath>
 
 using namespace ZrProj;
 using namespace ZrProj::Door;
@@ -66,18 +67,36 @@ void carry(systems::DatumPath const& path, bool backwards, std::span<PROJPOINT> 
             reasons[i] = used[i] == systems::Fate::offGrid ? ZRPROJ_OFF_THE_GRID : ZRPROJ_NOT_SHOWN;
 }
 
-/// A place out of the shift's area is told on the same datum both ways.
+/// From datum to datum, with the places that lie out of the way's area told by where they are on the datum that the
+/// transform starts from, both ways.
+void shift(zrproj_transform const& transform, bool backwards, std::span<PROJPOINT> places, std::span<Reason> reasons) {
+    if (!backwards)
+        tellOutOfArea(transform.route, places, reasons);
+    carry(transform.path, backwards, places, reasons);
+    if (backwards)
+        tellOutOfArea(transform.route, places, reasons);
+}
+
+/// Rounds what came back, to 2^-26 m or 2^-42 degrees, some hundredths of a micrometre: so much more than what rounding
+/// makes of a trip there and back that the next one ends at the very same numbers.
+void settle(zrproj_system const& system, std::span<PROJPOINT> points) {
+    int const unit = std::ilogb(system.projection->conversion().scale); // of a metre, as a power of 2
+    // Numbers of this size end where the result shall end.
+    double const magic = system.projection->isGeographic() ? 0x1.8p10 : std::ldexp(0x1.8p26, unit);
+    for (PROJPOINT& point : points)
+        point = {(point.x + magic) - magic, (point.y + magic) - magic};
+}
+
 void convertBlock(zrproj_transform const& transform, bool backwards, std::span<PROJPOINT> block,
                   std::span<Reason> reasons) {
-    bool const isShifted = !transform.path.isEmpty();
-    (backwards ? transform.to : transform.from).projection->inverse(block, reasons);
-    if (isShifted && !backwards)
-        tellOutOfArea(transform.route, block, reasons);
-    if (isShifted)
-        carry(transform.path, backwards, block, reasons);
-    if (isShifted && backwards)
-        tellOutOfArea(transform.route, block, reasons);
-    (backwards ? transform.from : transform.to).projection->forward(block, reasons);
+    zrproj_system const& from = backwards ? transform.to : transform.from;
+    zrproj_system const& to = backwards ? transform.from : transform.to;
+    from.projection->inverse(block, reasons);
+    if (!transform.path.isEmpty())
+        shift(transform, backwards, block, reasons);
+    to.projection->forward(block, reasons);
+    if (!transform.route.steps.empty() && backwards)
+        settle(to, block);
 }
 
 Answer convert(zrproj_transform const& transform, bool backwards, PointArray const& points) {

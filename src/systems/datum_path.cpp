@@ -3,6 +3,7 @@
 #include "levels/level.h"
 
 #include <algorithm>
+#include <cmath>
 #include <utility>
 
 namespace ZrProj::systems {
@@ -13,6 +14,12 @@ using datum::Displacement, datum::Figure, datum::GridFolders, datum::GridShift, 
 Figure figureOf(Datum const& datum) {
     double const inverse = datum.ellipsoid.inverseFlattening;
     return {datum.ellipsoid.semiMajor, inverse == 0 ? 0 : 1 / inverse};
+}
+
+/// GRS 1980 and the ellipsoid of WGS 84 differ by a tenth of a millimetre, and datums on them are taken as one.
+bool areAlike(Figure const& a, Figure const& b) {
+    constexpr double alike = 1e-3; // metres
+    return std::fabs(a.semiMajor - b.semiMajor) < alike && std::fabs(a.flattening - b.flattening) * a.semiMajor < alike;
 }
 
 datum::Vector vectorFrom(std::array<double, 10> const& parameters, std::size_t first) {
@@ -63,7 +70,7 @@ DatumPath::Made DatumPath::geocentricStep(std::span<RouteStep const>& rest) {
         displacement = displacement.then(displacementOf(rest.front()));
         to = figureOf(rest.front().to);
     }
-    if (from == to && displacement == Displacement{})
+    if (displacement == Displacement{} && areAlike(from, to))
         return {};
     if (auto shift = Shift::geocentric(from, to, displacement))
         return Step{*shift};

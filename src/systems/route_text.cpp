@@ -16,7 +16,7 @@ std::string kindOfShift(std::array<double, 10> const& parameters) {
         return "ten parameters";
     if (isUsed(3, 7))
         return "seven parameters";
-    return isUsed(0, 3) ? "three parameters" : "a shift of nothing";
+    return isUsed(0, 3) ? "three parameters" : "a shift of 0";
 }
 
 std::string kindOf(Operation const& operation) {
@@ -39,7 +39,7 @@ std::string kindOf(Operation const& operation) {
 }
 
 std::string accuracyText(double accuracy) {
-    return std::isnan(accuracy) ? "nobody says how exact" : "good to " + numberText(accuracy) + " m";
+    return std::isnan(accuracy) ? "accuracy unknown" : "good to " + numberText(accuracy) + " m";
 }
 
 std::string lineOf(RouteStep const& step) {
@@ -53,6 +53,18 @@ std::string lineOf(RouteStep const& step) {
     return line;
 }
 
+/// The first few that would make it better.
+std::string lineOfMissing(std::vector<std::string> const& grids) {
+    constexpr std::size_t most = 3;
+    std::size_t const shown = std::min(grids.size(), most), others = grids.size() - shown;
+    std::string line = "more exact with " + grids[0];
+    for (std::size_t i = 1; i < shown; ++i)
+        line += " or " + grids[i];
+    if (others > 0)
+        line += ", or one of " + std::to_string(others) + " more";
+    return line + (grids.size() == 1 ? ", which is not there" : ", which are not there");
+}
+
 } // namespace
 
 std::vector<std::string> linesOf(Route const& route) {
@@ -61,8 +73,8 @@ std::vector<std::string> linesOf(Route const& route) {
     if (route.steps.size() > 1)
         lines.push_back("together " + accuracyText(route.accuracy));
     lines.insert(lines.end(), route.told.begin(), route.told.end());
-    for (std::string const& grid : route.missingGrids)
-        lines.push_back("more exact with " + grid + ", which is not there");
+    if (!route.missingGrids.empty())
+        lines.push_back(lineOfMissing(route.missingGrids));
     return lines;
 }
 
