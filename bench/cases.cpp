@@ -50,6 +50,8 @@ std::vector<SystemCase> const systemTable{
     {"EPSG:4675", "EPSG:3993",  {"system/guam",                      {}, {144.6, 145, 13.2, 13.7}, "+proj=aeqd +guam +lat_0=13.4724663527778 +lon_0=144.748750705556 +x_0=50000 +y_0=50000 +ellps=clrk66"}},
     {"EPSG:4326", "EPSG:3031",  {"system/polar-stereographic",       {}, {-179, 179, -89, -60}, "+proj=stere +lat_0=-90 +lat_ts=-71 +ellps=WGS84"}},
     {"EPSG:4748", "EPSG:3139",  {"system/hyperbolic-cassini",        {}, {178.4, 179.9, -17, -16.1}, "+proj=cass +hyperbolic +lat_0=-16.25 +lon_0=179.333333333333 +x_0=251727.9155424 +y_0=334519.953768 +a=6378306.3696 +b=6356571.996 +units=link"}},
+    {"EPSG:4312", "EPSG:4326",  {"datum/seven-parameters",           {}, {9.6, 17.1, 46.5, 49}, "+proj=pipeline +step +proj=cart +ellps=bessel +step +proj=helmert +x=577.326 +y=90.129 +z=463.919 +rx=5.137 +ry=1.474 +rz=5.297 +s=2.4232 +convention=position_vector +step +inv +proj=cart +ellps=WGS84"}},
+    {"EPSG:4312", "EPSG:32633", {"datum/seven-parameters-and-map",   {}, {12, 17.1, 46.5, 49},  "+proj=pipeline +step +proj=cart +ellps=bessel +step +proj=helmert +x=577.326 +y=90.129 +z=463.919 +rx=5.137 +ry=1.474 +rz=5.297 +s=2.4232 +convention=position_vector +step +inv +proj=cart +ellps=WGS84 +step +proj=utm +zone=33 +ellps=WGS84"}},
 };
 // clang-format on
 

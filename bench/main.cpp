@@ -106,7 +106,10 @@ std::vector<Contender> contendersFor(DatumCase const& datum) {
 std::vector<Contender> contendersFor(SystemCase const& systems) {
     auto contenders = zrprojSystemContenders(systems);
 #if defined(ZRPROJ_BENCH_PROJ)
-    append(contenders, projContenders(systems.definition));
+    if (contenders.front().metres == 1)
+        append(contenders, projContenders(systems.definition));
+    else // the results are degrees
+        contenders.push_back(projDatumContender(systems.definition.proj));
 #endif
     return contenders;
 }

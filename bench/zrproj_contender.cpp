@@ -11,6 +11,8 @@
 namespace ZrProj::bench {
 namespace {
 
+constexpr double metresOfDegree = 6371000 * std::numbers::pi / 180;
+
 Contender contenderOf(Case const& definition) {
     PROJDATA record = definition.record;
     auto const projector = std::make_shared<CProjector>(&record);
@@ -31,7 +33,7 @@ Contender::Convert conversion(DatumType from, DatumType to) {
 Contender contenderOf(DatumType datum) {
     return {.name = {},
             .isOurs = true,
-            .metres = 6371000 * std::numbers::pi / 180,
+            .metres = metresOfDegree,
             .forward = conversion(datum, DatumTypeWorldGeodeticSystem1984),
             .inverse = conversion(DatumTypeWorldGeodeticSystem1984, datum)};
 }
@@ -51,7 +53,9 @@ System systemOf(char const* definition) {
 
 Contender contenderOf(SystemCase const& systems) {
     zrproj_transform* made = nullptr;
-    require(zrproj_transform_create(systemOf(systems.from).get(), systemOf(systems.to).get(), nullptr, &made));
+    System const to = systemOf(systems.to);
+    bool const endsInDegrees = zrproj_system_unit(to.get(), nullptr) == ZRPROJ_UNKNOWN;
+    require(zrproj_transform_create(systemOf(systems.from).get(), to.get(), nullptr, &made));
     std::shared_ptr<zrproj_transform const> const transform(made, [=](auto*) { zrproj_transform_destroy(made); });
     auto const convert = [=](bool backwards) {
         return [=](PROJPOINT* points, int count) {
@@ -59,7 +63,11 @@ Contender contenderOf(SystemCase const& systems) {
                                     static_cast<std::size_t>(count), nullptr);
         };
     };
-    return {.name = {}, .isOurs = true, .forward = convert(false), .inverse = convert(true)};
+    return {.name = {},
+            .isOurs = true,
+            .metres = endsInDegrees ? metresOfDegree : 1,
+            .forward = convert(false),
+            .inverse = convert(true)};
 }
 
 /// One contender for each level that this machine has.
