@@ -54,7 +54,8 @@ System systemOf(char const* definition) {
 Contender contenderOf(SystemCase const& systems) {
     zrproj_transform* made = nullptr;
     System const to = systemOf(systems.to);
-    bool const endsInDegrees = zrproj_system_unit(to.get(), nullptr) == ZRPROJ_UNKNOWN;
+    double unit = 0;
+    bool const endsInDegrees = zrproj_system_unit(to.get(), &unit) == ZRPROJ_UNKNOWN;
     require(zrproj_transform_create(systemOf(systems.from).get(), to.get(), nullptr, &made));
     std::shared_ptr<zrproj_transform const> const transform(made, [=](auto*) { zrproj_transform_destroy(made); });
     auto const convert = [=](bool backwards) {
