@@ -144,6 +144,8 @@ std::optional<NoRoute> strangerAmong(Definition const& from, Definition const& t
     Datum const& stranger = from.datum.code == 0 ? from.datum : to.datum;
     if (stranger.code != 0)
         return {};
+    if (from.datum.name == to.datum.name)
+        return NoRoute{"the systems lie on different ellipsoids or shifts of the datum " + stranger.name};
     return NoRoute{"no way " + fromTo(from, to) + " is known: " + stranger.name +
                    " is no datum of the register, and its definition does not say how it lies to WGS 84"};
 }

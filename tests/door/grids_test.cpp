@@ -90,7 +90,7 @@ TEST(DoorGrids, AreReadAsTheyAreWritten) {
     std::vector<char> const cut(bytes.begin(), bytes.end() - 1);
     files.writeBytes(".LAS", cut);
     EXPECT_EQ(zrproj_grid_row(files.name(), 2, row.data(), row.size()), ZRPROJ_OK);
-    EXPECT_EQ(zrproj_grid_row(files.name(), 3, row.data(), row.size()), ZRPROJ_FILE);
+    EXPECT_EQ(zrproj_grid_row(files.path("").c_str(), 3, row.data(), row.size()), ZRPROJ_FILE);
     EXPECT_EQ(zrproj_message(), files.path(".LAS") + " ends before its row 3 of 3");
 }
 
@@ -121,10 +121,11 @@ TEST(DoorGrids, OfUnusableHeadersAreRefused) {
     GridFiles const files;
     auto const one = [](int, int) { return 1; };
     files.write(".LAS", {21, 20, 1, -100, 0.25F, 40, 0.5F}, one);
-    EXPECT_EQ(refusal(files.name()), files.path(".LAS") + " has 21 columns and 20 rows; with less than 22 columns, the "
-                                                          "header lies over the first rows");
+    EXPECT_EQ(refusal(files.path("")), files.path(".LAS") +
+                                           " has 21 columns and 20 rows; with less than 22 columns, the "
+                                           "header lies over the first rows");
     files.write(".LAS", {30, 20, 1, -100, -0.25F, 40, 0.5F}, one);
-    EXPECT_EQ(refusal(files.name()), files.path(".LAS") + " has no grid's header: 30 columns and 20 rows");
+    EXPECT_EQ(refusal(files.path("")), files.path(".LAS") + " has no grid's header: 30 columns and 20 rows");
     files.writeBytes(".LAS", std::vector<char>(91));
-    EXPECT_EQ(refusal(files.name()), files.path(".LAS") + " is too short for a grid's header");
+    EXPECT_EQ(refusal(files.path("")), files.path(".LAS") + " is too short for a grid's header");
 }

@@ -390,15 +390,14 @@ std::optional<Sense> alongMeridian(double stated, double expected) {
 /// At the pole y grows from the far side towards the near one: southwards along Lon0 + 180 at the north pole,
 /// northwards along Lon0 at the south pole; x does so 90 degrees clockwise of it on the map.
 void takePolarAxes(Definition& definition, std::span<StatedAxis const> axes, int pole, Complaint& complaint) {
-    bool const northingFirst = axes[0].meridian && axes[1].meridian
-                                   ? alongMeridian(*axes[0].meridian, *axes[1].meridian + pole * 90) == Sense::positive
-                                   : isNorthing(axes[0]) && !isNorthing(axes[1]);
+    double const lon0 = definition.parameters.valueOr(Parameter::longitudeOfOrigin, 0);
+    bool const northingFirst = axes[0].meridian && axes[1].meridian ? alongMeridian(*axes[0].meridian, lon0).has_value()
+                                                                    : isNorthing(axes[0]) && !isNorthing(axes[1]);
     definition.northingFirst = northingFirst;
     StatedAxis const& y = axes[northingFirst ? 0 : 1];
     StatedAxis const& x = axes[northingFirst ? 1 : 0];
     if (!x.meridian || !y.meridian)
         return;
-    double const lon0 = definition.parameters.valueOr(Parameter::longitudeOfOrigin, 0);
     auto const xSense = alongMeridian(*x.meridian, lon0 + 90);
     auto const ySense = alongMeridian(*y.meridian, pole > 0 ? lon0 + 180 : lon0);
     if (!xSense || !ySense)
