@@ -25,12 +25,27 @@ struct PointArray {
         std::memcpy(&point.y, at(y, i), sizeof(double));
         return point;
     }
+    void load(std::size_t begin, std::span<PROJPOINT> points) const {
+        if (arePairs())
+            std::memcpy(points.data(), at(x, begin), points.size_bytes());
+        else
+            for (std::size_t i = 0; i < points.size(); ++i)
+                points[i] = load(begin + i);
+    }
+    void store(std::size_t begin, std::span<PROJPOINT const> points) const {
+        if (arePairs())
+            std::memcpy(at(x, begin), points.data(), points.size_bytes());
+        else
+            for (std::size_t i = 0; i < points.size(); ++i)
+                store(begin + i, points[i]);
+    }
     void store(std::size_t i, PROJPOINT const& point) const {
         std::memcpy(at(x, i), &point.x, sizeof(double));
         std::memcpy(at(y, i), &point.y, sizeof(double));
     }
 
 private:
+    bool arePairs() const { return stride == sizeof(PROJPOINT) && y == x + 1; }
     void* at(double* first, std::size_t i) const {
         return reinterpret_cast<char*>(first) + static_cast<std::ptrdiff_t>(i) * stride;
     }
@@ -46,24 +61,37 @@ inline Reason reasonOfInput(PROJPOINT const& point) {
     return std::fabs(point.x) < largest && std::fabs(point.y) < largest ? ZRPROJ_CONVERTED : ZRPROJ_NOT_FINITE;
 }
 
+/// The reasons of points as they come in; most blocks have none, and little is spent on them.
+inline void tellInput(std::span<PROJPOINT const> points, std::span<Reason> reasons) {
+    double const largest = std::numeric_limits<double>::max();
+    bool good = true;
+    for (PROJPOINT const& point : points)
+        good &= (std::fabs(point.x) < largest) & (std::fabs(point.y) < largest);
+    std::ranges::fill(reasons, Reason{ZRPROJ_CONVERTED});
+    if (!good)
+        std::ranges::transform(points, reasons.begin(), reasonOfInput);
+}
+
 /// Calls `convert(points, reasons)` for the points from `begin` to `end`, block by block; reasons of 16 and more become
 /// NaN, NaN.
 template <class Convert>
 void convertRange(PointArray const& points, std::size_t begin, std::size_t end, Convert const& convert) {
     constexpr double none = std::numeric_limits<double>::quiet_NaN();
-    std::array<PROJPOINT, blockPoints> block;
-    std::array<Reason, blockPoints> reasons;
+    std::array<PROJPOINT, blockPoints> room;
+    std::array<Reason, blockPoints> why;
     for (; begin < end; begin += blockPoints) {
-        std::size_t const count = std::min(blockPoints, end - begin);
-        for (std::size_t i = 0; i < count; ++i) {
-            block[i] = points.load(begin + i);
-            reasons[i] = reasonOfInput(block[i]);
-        }
-        convert(std::span(block).first(count), std::span(reasons).first(count));
-        for (std::size_t i = 0; i < count; ++i)
-            points.store(begin + i, hasResult(reasons[i]) ? block[i] : PROJPOINT{none, none});
+        auto const block = std::span(room).first(std::min(blockPoints, end - begin));
+        auto const reasons = std::span(why).first(block.size());
+        points.load(begin, block);
+        tellInput(block, reasons);
+        convert(block, reasons);
+        if (!allHaveResults(reasons))
+            for (std::size_t i = 0; i < block.size(); ++i)
+                if (!hasResult(reasons[i]))
+                    block[i] = {none, none};
+        points.store(begin, block);
         if (points.reasons)
-            std::memcpy(points.reasons + begin, reasons.data(), count);
+            std::ranges::copy(reasons, points.reasons + begin);
     }
 }
 

@@ -19,6 +19,23 @@ constexpr double poleTolerance = 1.6e-10, nearMiss = 5e-7, farMiss = 1 / 64.0;
 // radius times the scale there, asinh(tan(3900 km / 6378.137 km)).
 constexpr double kruegerReach = 0.6536;
 
+/// Most blocks have nothing to mark, and nothing is spent on them.
+void markLost(std::span<PROJPOINT> points, std::span<Reason const> reasons) {
+    if (allHaveResults(reasons))
+        return;
+    for (std::size_t i = 0; i < points.size(); ++i)
+        if (!hasResult(reasons[i]))
+            points[i] = mark;
+}
+
+/// Marked ones are not.
+bool areWithinPoles(std::span<PROJPOINT const> places) {
+    bool within = true;
+    for (PROJPOINT const& place : places)
+        within &= std::fabs(place.y) <= 90;
+    return within;
+}
+
 } // namespace
 
 std::variant<std::shared_ptr<Projection const>, systems::Unsupported>
@@ -75,20 +92,29 @@ Reason Projection::rangeOf(double longitude) const noexcept {
 
 /// What Krueger's series make of map coordinates.
 Reason Projection::rangeOnMap(PROJPOINT const& map) const noexcept {
+    return areWithinReach({&map, 1}) ? ZRPROJ_CONVERTED : ZRPROJ_FAR;
+}
+
+/// Whether they are all where Krueger's series are good; marked ones are not.
+bool Projection::areWithinReach(std::span<PROJPOINT const> map) const noexcept {
     double const reach = kruegerReach * m_radius * m_conversion.parameters.k0;
-    return std::fabs(map.x - m_middle) > reach ? ZRPROJ_FAR : ZRPROJ_CONVERTED;
+    bool within = true;
+    for (PROJPOINT const& point : map)
+        within &= std::fabs(point.x - m_middle) <= reach;
+    return within;
 }
 
 void Projection::forward(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept {
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        if (m_kind == Kind::series && hasResult(reasons[i])) {
-            points[i].x = beside(points[i].x);
-            reasons[i] = std::max(reasons[i], rangeOf(points[i].x));
-        }
-        if (!hasResult(reasons[i]))
-            points[i] = mark;
-    }
-    m_converter.forward(points.data(), static_cast<int>(points.size()));
+    if (m_kind == Kind::series)
+        for (std::size_t i = 0; i < points.size(); ++i)
+            if (hasResult(reasons[i])) {
+                points[i].x = beside(points[i].x);
+                reasons[i] = std::max(reasons[i], rangeOf(points[i].x));
+            }
+    markLost(points, reasons);
+    bool const lost = m_converter.forward(points.data(), static_cast<int>(points.size())).lost;
+    if (!lost && (m_kind != Kind::krueger || areWithinReach(points)))
+        return;
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (!hasResult(reasons[i]))
             continue;
@@ -128,28 +154,33 @@ Reason Projection::reasonOfPlace(PROJPOINT const& place) const noexcept {
     return isGeographic() && std::fabs(place.y) > 90 ? ZRPROJ_BEYOND_POLE : ZRPROJ_CONVERTED;
 }
 
+/// What to think of the place that map coordinates lead to, which is brought beside the meridian of a series.
+Reason Projection::reasonOfInverse(PROJPOINT const& map, PROJPOINT& place) const noexcept {
+    Reason reason = reasonOfPlace(place);
+    if (!hasResult(reason))
+        return reason;
+    if (m_kind == Kind::series) {
+        place.x = beside(place.x);
+        reason = std::max(reason, reasonOfSeries(map, place));
+        place.x = wrapped(place.x);
+    } else if (m_kind == Kind::krueger) {
+        reason = std::max(reason, rangeOnMap(map));
+    }
+    return reason;
+}
+
 void Projection::inverse(std::span<PROJPOINT> points, std::span<Reason> reasons) const noexcept {
+    markLost(points, reasons);
     std::array<PROJPOINT, blockPoints> map;
-    for (std::size_t i = 0; i < points.size(); ++i)
-        if (!hasResult(reasons[i]))
-            points[i] = mark;
     if (m_kind == Kind::series || m_kind == Kind::krueger)
         std::ranges::copy(points, map.begin());
-    m_converter.inverse(points.data(), static_cast<int>(points.size()));
-    for (std::size_t i = 0; i < points.size(); ++i) {
-        if (!hasResult(reasons[i]))
-            continue;
-        reasons[i] = std::max(reasons[i], reasonOfPlace(points[i]));
-        if (!hasResult(reasons[i]))
-            continue;
-        if (m_kind == Kind::series) {
-            points[i].x = beside(points[i].x);
-            reasons[i] = std::max(reasons[i], reasonOfSeries(map[i], points[i]));
-            points[i].x = wrapped(points[i].x);
-        } else if (m_kind == Kind::krueger) {
-            reasons[i] = std::max(reasons[i], rangeOnMap(map[i]));
-        }
-    }
+    bool const lost = m_converter.inverse(points.data(), static_cast<int>(points.size())).lost;
+    if (!lost && (m_kind == Kind::other || (m_kind == Kind::krueger && areWithinReach({map.data(), points.size()})) ||
+                  (isGeographic() && areWithinPoles(points))))
+        return;
+    for (std::size_t i = 0; i < points.size(); ++i)
+        if (hasResult(reasons[i]))
+            reasons[i] = std::max(reasons[i], reasonOfInverse(map[i], points[i]));
 }
 
 } // namespace ZrProj::Door

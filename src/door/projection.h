@@ -19,6 +19,14 @@ constexpr bool hasResult(Reason reason) {
     return reason < ZRPROJ_NOT_FINITE;
 }
 
+/// Whether each of some points has a result. Reasons below 16 have none of the bits above.
+inline bool allHaveResults(std::span<Reason const> reasons) {
+    Reason bits = 0;
+    for (Reason const reason : reasons)
+        bits |= reason;
+    return hasResult(bits);
+}
+
 /// Longitude from -180 to 180.
 inline double wrapped(double longitude) {
     return std::fabs(longitude) <= 180 ? longitude : std::remainder(longitude, 360);
@@ -58,9 +66,11 @@ private:
     double beside(double longitude) const noexcept;
     Reason rangeOf(double longitude) const noexcept;
     Reason rangeOnMap(PROJPOINT const& map) const noexcept;
+    bool areWithinReach(std::span<PROJPOINT const> map) const noexcept;
     bool isSurelyGood(PROJPOINT const& map) const noexcept;
     Reason reasonOfSeries(PROJPOINT const& map, PROJPOINT const& place) const noexcept;
     Reason reasonOfPlace(PROJPOINT const& place) const noexcept;
+    Reason reasonOfInverse(PROJPOINT const& map, PROJPOINT& place) const noexcept;
 
     systems::Conversion m_conversion;
     systems::SystemConverter m_converter;

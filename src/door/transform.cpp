@@ -57,9 +57,10 @@ void tellOutOfArea(systems::Route const& route, std::span<PROJPOINT const> place
 /// From datum to datum.
 void carry(systems::DatumPath const& path, bool backwards, std::span<PROJPOINT> places, std::span<Reason> reasons) {
     std::array<systems::Fate, blockPoints> fates;
-    for (std::size_t i = 0; i < places.size(); ++i)
-        if (!hasResult(reasons[i]))
-            places[i] = mark;
+    if (!allHaveResults(reasons))
+        for (std::size_t i = 0; i < places.size(); ++i)
+            if (!hasResult(reasons[i]))
+                places[i] = mark;
     auto const used = std::span(fates).first(places.size());
     backwards ? path.inverse(places, used) : path.forward(places, used);
     for (std::size_t i = 0; i < places.size(); ++i)
