@@ -23,6 +23,7 @@ constexpr char const* overview = R"(Examples:
   zrproj forward --crs EPSG:28992 places.csv
   zrproj forward --utm auto cities.csv > utm.csv
   zrproj inverse --utm auto utm.csv
+  zrproj transform --from EPSG:27700 --to WGS84 survey.csv
   zrproj datum --from nad27 --to wgs84 survey.csv
   zrproj list projections
   zrproj show --utm 17N
@@ -50,6 +51,7 @@ struct CommandRow {
 constexpr std::array commandRows{
     CommandRow{"forward", "Convert longitudes and latitudes to projected coordinates", makeForward},
     CommandRow{"inverse", "Convert projected coordinates to longitudes and latitudes", makeInverse},
+    CommandRow{"transform", "Convert coordinates from one system to another, whatever their datums", makeTransform},
     CommandRow{"datum", "Convert longitudes and latitudes to another datum, and keep datums of your own", makeDatum},
     CommandRow{"georef", "Fit a map to control points, and convert points by it", makeGeoref},
     CommandRow{"locate", "Convert image coordinates to longitudes and latitudes", makeLocate},

@@ -27,5 +27,6 @@ std::unique_ptr<Subcommand> makeLocate(CommandLine line);
 std::unique_ptr<Subcommand> makeList(CommandLine line);
 std::unique_ptr<Subcommand> makeMap(CommandLine line);
 std::unique_ptr<Subcommand> makeShow(CommandLine line);
+std::unique_ptr<Subcommand> makeTransform(CommandLine line);
 
 } // namespace ZrProj::Command

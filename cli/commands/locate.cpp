@@ -32,7 +32,11 @@ public:
         ColumnRequest columns{Direction::Inverse, {}, &unit, false};
         if (!m_columns.empty())
             columns.columns = parseColumns(m_columns, false);
-        ConversionJob job{choice, {}, columns, degreeDecimals, false, filesOrStandardInput(m_files)};
+        ConversionJob job;
+        job.projection = choice;
+        job.columns = columns;
+        job.decimals = degreeDecimals;
+        job.files = filesOrStandardInput(m_files);
         return convertPoints(job, output);
     }
 

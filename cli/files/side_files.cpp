@@ -43,18 +43,17 @@ void refuseWide(MapFile const& file, std::optional<ControlMiss> const& miss, std
                                  "; --accept-misfit writes it all the same");
 }
 
-/// The .prj file beside an image or a file of shapes, "" for none.
-std::string prjOf(std::string const& image) {
+} // namespace
+
+std::string prjOf(std::string const& file) {
     for (char const* extension : {".prj", ".PRJ"}) {
-        auto const prj = std::filesystem::path(image).replace_extension(extension).string();
+        auto const prj = std::filesystem::path(file).replace_extension(extension).string();
         std::error_code none;
         if (std::filesystem::is_regular_file(prj, none))
             return prj;
     }
     return "";
 }
-
-} // namespace
 
 std::vector<MapFile> sideFilesOf(std::string const& image) {
     zrproj_side_files* files = nullptr;

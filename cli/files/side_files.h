@@ -13,6 +13,9 @@ std::vector<MapFile> sideFilesOf(std::string const& image);
 MapInfo readSideFile(MapFile const& file);
 std::vector<std::string> writeSideFile(MapFile const& file, MapInfo const& info, Misfit misfit);
 
+/// The .prj file beside an image, a file of shapes or of points; "" for none.
+std::string prjOf(std::string const& file);
+
 /// Whether a file is called as a .prj file, which holds a definition.
 bool isPrjName(std::string const& name);
 std::vector<std::string> writeDefinition(std::string const& name, MapInfo const& info);

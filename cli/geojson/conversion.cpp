@@ -61,6 +61,14 @@ template <class Bad> void erasePoints(Path& path, Bad bad) {
     path.extras.resize(path.extras.empty() ? 0 : kept);
 }
 
+/// What is left to do on the datum of the map.
+ConversionJob ontoMap(ConversionJob job) {
+    job.shift.reset();
+    if (job.way)
+        job.way = job.way->ontoMap();
+    return job;
+}
+
 } // namespace
 
 bool isGeoJsonName(std::string_view name) {
@@ -72,11 +80,12 @@ bool isGeoJsonName(std::string_view name) {
 }
 
 GeoJsonConversion::GeoJsonConversion(ConversionJob job, bool clip, Output& output)
-    : m_job(std::move(job)), m_output(output),
-      m_transform(m_job.projection, m_job.columns.direction, clip ? std::nullopt : m_job.shift),
-      m_unit(m_job.unit(nullptr)), m_map(clip ? &m_transform.map() : nullptr), m_progress(totalSize(m_job.files)),
+    : m_job(std::move(job)), m_output(output), m_transform(clip ? ontoMap(m_job).transform() : m_job.transform()),
+      m_units(m_job.units(nullptr)), m_map(clip ? &m_transform.map() : nullptr), m_progress(totalSize(m_job.files)),
       m_report(m_progress, "feature") {
-    if (clip && m_job.shift)
+    if (clip && m_job.way)
+        m_shift.emplace(m_job.way->toPlaces());
+    else if (clip && m_job.shift)
         m_shift.emplace(ProjectionChoice(), Direction::Datum, m_job.shift);
 }
 
@@ -183,7 +192,7 @@ void GeoJsonConversion::convertWhole(GeoObject& geometry) {
     if (coordinates.points.empty())
         return;
     fillBlock(coordinates.points);
-    m_transform.run(m_block, m_unit);
+    m_transform.run(m_block, m_units);
     for (std::size_t i = 0; i < m_block.points.size(); ++i)
         report(i);
     if (std::all_of(m_block.states.begin(), m_block.states.end(), hasResult))
@@ -207,7 +216,7 @@ void GeoJsonConversion::shiftPoints(std::vector<PROJPOINT>& points) {
     if (!m_shift)
         return;
     fillBlock(points);
-    m_shift->run(m_block, m_unit);
+    m_shift->run(m_block, m_units);
     for (std::size_t i = 0; i < points.size(); ++i) {
         report(i);
         points[i] = hasResult(m_block.states[i]) ? m_block.points[i] : noPlace;
@@ -217,7 +226,7 @@ void GeoJsonConversion::shiftPoints(std::vector<PROJPOINT>& points) {
 void GeoJsonConversion::clipPoints(GeoObject& geometry) {
     Coordinates& coordinates = *geometry.coordinates;
     fillBlock(coordinates.points);
-    m_transform.run(m_block, m_unit);
+    m_transform.run(m_block, m_units);
     Path left{m_block.points, std::move(coordinates.extras)};
     for (std::size_t i = 0; i < m_block.states.size(); ++i)
         if (m_block.states[i] != PointState::Outside)
@@ -235,7 +244,7 @@ void GeoJsonConversion::clipPoints(GeoObject& geometry) {
 void GeoJsonConversion::project(Paths& paths) {
     for (Path& path : paths) {
         fillBlock(path.points);
-        m_transform.run(m_block, m_unit);
+        m_transform.run(m_block, m_units);
         path.points = m_block.points;
         for (std::size_t i = 0; i < m_block.states.size(); ++i)
             report(i);

@@ -16,8 +16,8 @@ bool isGeoJsonName(std::string_view name);
 
 class GeoJsonConversion : private GeoJsonSink {
 public:
-    /// job: without columns, and without a zone for each point. clip: for Direction::Forward, to cut geometries to what
-    /// the map shows. Throws UsageError when the projection or the datums cannot convert.
+    /// job: without columns, and without a zone for each point. clip: for results on a map, to cut geometries to what
+    /// it shows. Throws UsageError when the projection or the datums cannot convert.
     GeoJsonConversion(ConversionJob job, bool clip, Output& output);
 
     /// Returns the exit status.
@@ -47,7 +47,7 @@ private:
     Output& m_output;
     std::optional<Transform> m_shift; // where that comes before the cutting
     Transform m_transform;
-    LengthUnit const& m_unit;
+    Units m_units;
     System const* m_map; // to cut to; null for no cutting
     Progress m_progress;
     Report m_report;

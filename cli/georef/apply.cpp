@@ -15,31 +15,30 @@ public:
         return headerWith(line, layout, {"target_x", "target_y"});
     }
 
-    void convert(PointBlock& block, Layout const&) override {
-        m_mapped.clear();
+    void convert(PointBlock& block, Layout const&) const override {
+        std::vector<GEOREFPOINT> mapped;
         for (PROJPOINT const& point : block.points)
-            m_mapped.push_back({point.x, point.y});
-        m_map.map(m_mapped);
-        for (std::size_t i = 0; i < m_mapped.size(); ++i) {
+            mapped.push_back({point.x, point.y});
+        m_map.map(mapped);
+        for (std::size_t i = 0; i < mapped.size(); ++i) {
             if (block.states[i] != PointState::Good)
                 continue;
-            block.points[i] = {m_mapped[i].x, m_mapped[i].y};
-            if (m_mapped[i].x == DBL_MAX)
+            block.points[i] = {mapped[i].x, mapped[i].y};
+            if (mapped[i].x == DBL_MAX)
                 block.states[i] = PointState::NoResult;
         }
     }
 
 private:
     GeorefFit const& m_map;
-    std::vector<GEOREFPOINT> m_mapped;
 };
 
 } // namespace
 
 int applyGeoref(GeorefFit const& map, GeorefJob const& job, Output& output) {
-    Application application(map);
-    RowWriter const writer(output, job.decimals, false);
-    return RowStream(application, job.files, job.columns, writer, output).run(job.strict);
+    Application const application(map);
+    RowFiles const files{job.files, job.columns, 1};
+    return RowStream(application, files, RowWriter(job.decimals, false), output).run(job.strict);
 }
 
 } // namespace ZrProj::Command

@@ -40,6 +40,8 @@ Transform::Transform(ProjectionChoice choice, Direction direction, std::optional
         m_datum.emplace(*shift);
 }
 
+Transform::Transform(WayPointer way) : m_direction(directionOf(*way)), m_way(std::move(way)) {}
+
 /// Whether an image's coordinates lead to longitudes and latitudes already.
 bool Transform::isDirect() const {
     bool const isGeographic =
@@ -47,9 +49,21 @@ bool Transform::isDirect() const {
     return m_choice.image && isGeographic;
 }
 
+namespace {
+
 /// Metres a unit of the map's coordinates: those of a record are metres here, but in images.
-double Transform::unitOfMap() const {
-    return m_choice.system && !m_choice.system->isGeographic() ? m_choice.system->unit().metres : 1;
+double unitOfMap(ProjectionChoice const& choice) {
+    return choice.system && !choice.system->isGeographic() ? choice.system->unit().metres : 1;
+}
+
+} // namespace
+
+double Transform::unitRead() const {
+    return m_way ? m_way->way().from().unit().metres : unitOfMap(m_choice);
+}
+
+double Transform::unitWritten() const {
+    return m_way ? m_way->way().to().unit().metres : unitOfMap(m_choice);
 }
 
 /// Image coordinates become projected ones.
@@ -66,18 +80,18 @@ void Transform::fromImage(PointBlock& block) const {
         }
 }
 
-PointConverter& Transform::converter(UtmZone zone) {
-    auto& result = m_converters[static_cast<std::size_t>(zone)];
-    if (!result) {
+PointConverter const& Transform::converter(UtmZone zone) const {
+    Converter& converter = m_converters[static_cast<std::size_t>(zone)];
+    std::call_once(converter.once, [&] {
         ProjectionChoice choice = m_choice;
         if (choice.zonePerPoint)
             setUtmZone(choice.record, zone);
-        result = std::make_unique<PointConverter>(mapOf(choice));
-    }
-    return *result;
+        converter.made = std::make_unique<PointConverter>(mapOf(choice));
+    });
+    return *converter.made;
 }
 
-void Transform::convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states) {
+void Transform::convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states) const {
     if (points.empty())
         return;
     if (m_direction == Direction::Forward)
@@ -87,31 +101,31 @@ void Transform::convert(UtmZone zone, std::span<PROJPOINT> points, std::span<Poi
 }
 
 /// Sorts the points by zone, converts each zone's, and puts the results back in the points' order.
-void Transform::runByZone(PointBlock& block) {
+void Transform::runByZone(PointBlock& block) const {
     if (m_direction == Direction::Forward)
         std::transform(block.points.begin(), block.points.end(), block.zones.begin(), utmZoneOf);
     std::vector<std::size_t> order(block.points.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::sort(order.begin(), order.end(), [&](auto a, auto b) { return block.zones[a] < block.zones[b]; });
-    m_sorted.clear();
+    PointBlock sorted;
     for (std::size_t from : order)
-        m_sorted.add(block[from]);
+        sorted.add(block[from]);
     for (std::size_t begin = 0; begin < order.size();) {
-        UtmZone const zone = m_sorted.zones[begin];
+        UtmZone const zone = sorted.zones[begin];
         std::size_t end = begin;
-        while (end < order.size() && m_sorted.zones[end] == zone)
+        while (end < order.size() && sorted.zones[end] == zone)
             ++end;
-        convert(zone, std::span(m_sorted.points).subspan(begin, end - begin),
-                std::span(m_sorted.states).subspan(begin, end - begin));
+        convert(zone, std::span(sorted.points).subspan(begin, end - begin),
+                std::span(sorted.states).subspan(begin, end - begin));
         begin = end;
     }
     for (std::size_t i = 0; i < order.size(); ++i) {
-        block.points[order[i]] = m_sorted.points[i];
-        block.states[order[i]] = m_sorted.states[i];
+        block.points[order[i]] = sorted.points[i];
+        block.states[order[i]] = sorted.states[i];
     }
 }
 
-void Transform::project(PointBlock& block) {
+void Transform::project(PointBlock& block) const {
     if (m_choice.image)
         fromImage(block);
     if (isDirect())
@@ -122,13 +136,13 @@ void Transform::project(PointBlock& block) {
         convert(0, block.points, block.states);
 }
 
-void Transform::shiftDatum(PointBlock& block) {
+void Transform::shiftDatum(PointBlock& block) const {
     if (m_datum)
         m_datum->convert(block.points, block.states);
 }
 
 /// Points outside what their datum's grid or equations cover are projected like others, and are told of afterwards.
-void Transform::shiftAndProject(PointBlock& block) {
+void Transform::shiftAndProject(PointBlock& block) const {
     shiftDatum(block);
     std::vector<PointState> const shifted = m_datum ? block.states : std::vector<PointState>();
     auto const isOff = [](PointState state) { return state == PointState::OffGrid || state == PointState::OffArea; };
@@ -139,7 +153,7 @@ void Transform::shiftAndProject(PointBlock& block) {
             block.states[i] = shifted[i];
 }
 
-void Transform::projectAndShift(PointBlock& block) {
+void Transform::projectAndShift(PointBlock& block) const {
     project(block);
     shiftDatum(block);
     for (std::size_t i = 0; i < block.points.size() && m_datum; ++i)
@@ -147,19 +161,29 @@ void Transform::projectAndShift(PointBlock& block) {
             block.points[i].x = std::remainder(block.points[i].x, 360);
 }
 
-void Transform::run(PointBlock& block, LengthUnit const& unit) {
-    switch (m_direction) {
-    case Direction::Forward:
+void Transform::takeWay(PointBlock& block) const {
+    if (m_way)
+        m_way->forward(block.points, block.states);
+    else if (m_direction == Direction::Forward)
         shiftAndProject(block);
-        scale(block.points, unitOfMap() / unit.metres);
-        break;
-    case Direction::Inverse:
-        scale(block.points, unit.metres / unitOfMap());
+    else if (m_direction == Direction::Inverse)
         projectAndShift(block);
-        break;
-    case Direction::Datum:
+    else
         shiftDatum(block);
-    }
+}
+
+void Transform::run(PointBlock& block, Units const& units) const {
+    if (!readsAngles(m_direction))
+        scale(block.points, units.read.metres / unitRead());
+    takeWay(block);
+    if (!writesAngles(m_direction))
+        scale(block.points, unitWritten() / units.written.metres);
+}
+
+Direction directionOf(Way const& way) {
+    if (way.from().isGeographic())
+        return way.to().isGeographic() ? Direction::Datum : Direction::Forward;
+    return way.to().isGeographic() ? Direction::Inverse : Direction::MapToMap;
 }
 
 namespace {
@@ -171,13 +195,12 @@ bool writesZones(ConversionJob const& job) {
 
 class Conversion : public PointWork {
 public:
-    explicit Conversion(ConversionJob const& job)
-        : m_job(job), m_transform(job.projection, job.columns.direction, job.shift) {}
+    explicit Conversion(ConversionJob const& job) : m_job(job), m_transform(job.transform()) {}
 
     std::string header(std::string_view line, Layout const& layout) const override {
         std::vector<std::string> added{"longitude", "latitude"};
-        if (m_job.columns.direction == Direction::Forward) {
-            std::string const suffix(m_job.unit(layout.columns.unit).suffix);
+        if (!writesAngles(m_job.columns.direction)) {
+            std::string const suffix(m_job.units(layout.columns.unit).written.suffix);
             added = {"easting_" + suffix, "northing_" + suffix};
         }
         if (writesZones(m_job))
@@ -185,8 +208,8 @@ public:
         return headerWith(line, layout, added);
     }
 
-    void convert(PointBlock& block, Layout const& layout) override {
-        m_transform.run(block, m_job.unit(layout.columns.unit));
+    void convert(PointBlock& block, Layout const& layout) const override {
+        m_transform.run(block, m_job.units(layout.columns.unit));
     }
 
 private:
@@ -196,18 +219,21 @@ private:
 
 } // namespace
 
-LengthUnit const& ConversionJob::unit(LengthUnit const* ofFile) const {
-    if (columns.unit)
-        return *columns.unit;
-    if (ofFile)
-        return *ofFile;
-    return projection.unit ? *projection.unit : lengthUnits.front();
+Units ConversionJob::units(LengthUnit const* ofFile) const {
+    LengthUnit const* const ofMap = projection.unit ? projection.unit : &lengthUnits.front();
+    LengthUnit const* const ofSource = ofFile ? ofFile : way ? &way->from().unit() : ofMap;
+    LengthUnit const* const ofTarget = way ? &way->to().unit() : ofMap;
+    return {columns.unit ? *columns.unit : *ofSource, unit ? *unit : *ofTarget};
+}
+
+Transform ConversionJob::transform() const {
+    return way ? Transform(way) : Transform(projection, columns.direction, shift);
 }
 
 int convertPoints(ConversionJob const& job, Output& output) {
-    Conversion conversion(job);
-    RowWriter const writer(output, job.decimals, writesZones(job));
-    return RowStream(conversion, job.files, job.columns, writer, output).run(job.strict);
+    Conversion const conversion(job);
+    RowFiles const files{job.files, job.columns, job.threads};
+    return RowStream(conversion, files, RowWriter(job.decimals, writesZones(job)), output).run(job.strict);
 }
 
 } // namespace ZrProj::Command

@@ -9,6 +9,7 @@
 
 #include <array>
 #include <memory>
+#include <mutex>
 #include <optional>
 #include <string>
 #include <vector>
@@ -32,47 +33,68 @@ struct PointBlock {
     BlockPoint operator[](std::size_t i) const { return {points[i], states[i], zones[i]}; }
 };
 
+/// Units of projected coordinates, which those that are angles do not have.
+struct Units {
+    LengthUnit const &read, &written;
+};
+
+/// What happens to points. Threads may share a transform.
 class Transform {
 public:
     /// choice: not looked at for Direction::Datum. Throws UsageError when the projection or the datums cannot convert.
     Transform(ProjectionChoice choice, Direction direction, std::optional<DatumShift> const& shift);
+    explicit Transform(WayPointer way);
 
-    /// Converts a block in place; `unit` is that of projected coordinates.
-    void run(PointBlock& block, LengthUnit const& unit);
+    /// Converts a block in place.
+    void run(PointBlock& block, Units const& units) const;
 
-    /// The system of the map, where all points have the same one.
-    System const& map() { return converter(0).map(); }
+    /// The system of the map that points come to, where all have the same one.
+    System const& map() const { return (m_way ? *m_way : converter(0)).way().to(); }
 
 private:
+    struct Converter {
+        std::once_flag once;
+        std::unique_ptr<PointConverter> made;
+    };
+
     bool isDirect() const;
-    double unitOfMap() const;
+    double unitRead() const;
+    double unitWritten() const;
     void fromImage(PointBlock& block) const;
-    void convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states);
-    PointConverter& converter(UtmZone zone);
-    void runByZone(PointBlock& block);
-    void project(PointBlock& block);
-    void shiftDatum(PointBlock& block);
-    void shiftAndProject(PointBlock& block);
-    void projectAndShift(PointBlock& block);
+    void convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states) const;
+    PointConverter const& converter(UtmZone zone) const;
+    void runByZone(PointBlock& block) const;
+    void project(PointBlock& block) const;
+    void shiftDatum(PointBlock& block) const;
+    void shiftAndProject(PointBlock& block) const;
+    void projectAndShift(PointBlock& block) const;
+    void takeWay(PointBlock& block) const;
 
     ProjectionChoice m_choice;
     Direction m_direction;
-    std::array<std::unique_ptr<PointConverter>, utmZones> m_converters; // the first one only, without zones
-    std::optional<DatumConverter> m_datum;                              // none: points stay on theirs
-    PointBlock m_sorted;
+    mutable std::array<Converter, utmZones> m_converters; // the first one only, without zones
+    std::optional<DatumConverter> m_datum;                // none: points stay on theirs
+    std::optional<PointConverter> m_way;                  // in place of all of these; none where they do it
 };
 
+/// What becomes of coordinates between the columns that are read and those that are written.
+Direction directionOf(Way const& way);
+
 struct ConversionJob {
-    ProjectionChoice projection; // not for Direction::Datum
-    std::optional<DatumShift> shift;
-    ColumnRequest columns; // with the direction, and --units
+    ProjectionChoice projection{}; // not for Direction::Datum
+    std::optional<DatumShift> shift{};
+    WayPointer way{};                 // in place of both; null where they tell it
+    ColumnRequest columns{};          // with the direction
+    LengthUnit const* unit = nullptr; // of projected results, as --units says it; null where not given
     int decimals = 0;
     bool strict = false;
-    std::vector<std::string> files; // "-" is standard input
+    int threads = 1;
+    std::vector<std::string> files{}; // "-" is standard input
 
-    /// The unit of projected coordinates: what --units says, else the file's own, which may be null, else that of
-    /// the file of --like, else metres.
-    LengthUnit const& unit(LengthUnit const* ofFile) const;
+    /// Each is what --units says, else that of the file read, which may be null, else that of the systems or of the
+    /// file of --like, else metres.
+    Units units(LengthUnit const* ofFile) const;
+    Transform transform() const;
 };
 
 /// Runs one command line's files of points through. Returns the exit status. Throws UsageError when the projection or

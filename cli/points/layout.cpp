@@ -190,7 +190,7 @@ Recognition Candidate::recognise() const {
 
 /// The line as a header with these columns, if their units agree with each other and with --units.
 Recognition Candidate::header(Columns columns) const {
-    if (m_request.direction == Direction::Inverse) {
+    if (!readsAngles(m_request.direction)) {
         columns.unit = unitOfColumn(at(columns.x));
         if (columns.unit != unitOfColumn(at(columns.y)))
             return faulty("the columns of easting and northing have different units");

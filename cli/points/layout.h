@@ -15,14 +15,20 @@ namespace ZrProj::Command {
 
 /// What a conversion does with its points.
 enum class Direction {
-    Forward, // longitudes and latitudes to map coordinates
-    Inverse, // map coordinates to longitudes and latitudes
-    Datum,   // longitudes and latitudes to those of another datum
+    Forward,  // longitudes and latitudes to map coordinates
+    Inverse,  // map coordinates to longitudes and latitudes
+    Datum,    // longitudes and latitudes to those of another datum
+    MapToMap, // map coordinates to those of another map
 };
 
 /// Whether the points come as longitudes and latitudes.
 constexpr bool readsAngles(Direction direction) {
-    return direction != Direction::Inverse;
+    return direction == Direction::Forward || direction == Direction::Datum;
+}
+
+/// Whether the results are longitudes and latitudes.
+constexpr bool writesAngles(Direction direction) {
+    return direction == Direction::Inverse || direction == Direction::Datum;
 }
 
 /// Columns by their index, from 0. An absent zone column is -1.
@@ -33,10 +39,10 @@ struct Columns {
     LengthUnit const* unit = nullptr; // that the names tell
 };
 
-/// The columns to convert: of angles longitude and latitude, or x and y, or easting and northing; for Inverse easting
-/// and northing, or x and y; the leftmost ones where several fit. Names may carry a unit: "easting_us_ft",
-/// "Longitude (deg)". With `unit` only columns of that unit, or without one, are taken. Nothing when there is no pair,
-/// and when its two units differ.
+/// The columns to convert: of angles longitude and latitude, or x and y, or easting and northing; of map
+/// coordinates easting and northing, or x and y; the leftmost ones where several fit. Names may carry a unit:
+/// "easting_us_ft", "Longitude (deg)". With `unit` only columns of that unit, or without one, are taken. Nothing when
+/// there is no pair, and when its two units differ.
 std::optional<Columns> findColumns(std::span<std::string const> names, Direction direction, LengthUnit const* unit);
 
 /// The unit at the end of a column's name, null for none.
@@ -45,15 +51,15 @@ LengthUnit const* unitOfColumn(std::string_view name);
 /// Stands for both coordinates of a point that has none.
 inline constexpr std::string_view noCoordinate = "*";
 
-/// Reads an easting or northing for Inverse, else a longitude or latitude.
+/// Reads a longitude or latitude, or an easting or northing, whichever the direction reads.
 inline Reading readCoordinate(std::string_view field, bool isX, Direction direction) {
-    if (direction == Direction::Inverse)
+    if (!readsAngles(direction))
         return readNumber(field);
     return readAngle(field, isX ? Axis::Longitude : Axis::Latitude);
 }
 
 inline std::string_view coordinateName(bool isX, Direction direction) {
-    if (direction == Direction::Inverse)
+    if (!readsAngles(direction))
         return isX ? "easting" : "northing";
     return isX ? "longitude" : "latitude";
 }
@@ -62,7 +68,7 @@ inline std::string_view coordinateName(bool isX, Direction direction) {
 struct ColumnRequest {
     Direction direction = Direction::Forward;
     std::vector<std::string> columns; // of --columns: numbers from 1, or names; empty where not given
-    LengthUnit const* unit = nullptr; // of --units; null where not given
+    LengthUnit const* unit = nullptr; // of the coordinates read, where --units says it; else null
     bool zone = false;                // whether a zone column is needed
 };
 

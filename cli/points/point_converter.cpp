@@ -4,22 +4,23 @@
 
 #include <cfloat>
 #include <stdexcept>
+#include <vector>
 
 namespace ZrProj::Command {
 namespace {
 
 constexpr PROJPOINT mark{DBL_MAX, DBL_MAX};
 
-PointState stateOf(unsigned char reason) {
+PointState stateOnWay(unsigned char reason) {
     switch (reason) {
     case ZRPROJ_CONVERTED:
         return PointState::Good;
     case ZRPROJ_FAR:
         return PointState::Far;
     case ZRPROJ_OUT_OF_AREA:
-        return PointState::OffArea;
+        return PointState::OutOfArea;
     case ZRPROJ_OFF_THE_GRID:
-        return PointState::OffGrid;
+        return PointState::Ungridded;
     case ZRPROJ_NOT_FINITE:
         return PointState::NoResult;
     default:
@@ -27,31 +28,42 @@ PointState stateOf(unsigned char reason) {
     }
 }
 
-} // namespace
-
-PointConverter::PointConverter(SystemPointer map) : m_map(std::move(map)) {
-    if (m_map->isGeographic())
-        throw UsageError(m_map->text(ZRPROJ_NAME) +
-                         " has longitudes and latitudes already; there is nothing to convert");
-    zrproj_transform* transform = nullptr;
-    if (zrproj_transform_create(m_map->geographic()->handle(), m_map->handle(), nullptr, &transform) != ZRPROJ_OK)
-        throw std::runtime_error(zrproj_message());
-    m_transform.reset(transform);
+PointState stateOnDatum(unsigned char reason) {
+    switch (reason) {
+    case ZRPROJ_CONVERTED:
+        return PointState::Good;
+    case ZRPROJ_OUT_OF_AREA:
+        return PointState::OffArea;
+    case ZRPROJ_OFF_THE_GRID:
+        return PointState::OffGrid;
+    default:
+        return PointState::NoResult;
+    }
 }
 
-void PointConverter::convert(bool backwards, std::span<PROJPOINT> points, std::span<PointState> states) {
+WayPointer wayOnto(SystemPointer const& map) {
+    if (map->isGeographic())
+        throw UsageError(map->text(ZRPROJ_NAME) + " has longitudes and latitudes already; there is nothing to convert");
+    return std::make_shared<Way const>(map->geographic(), map);
+}
+
+} // namespace
+
+PointConverter::PointConverter(SystemPointer const& map) : PointConverter(wayOnto(map)) {}
+
+void PointConverter::convert(bool backwards, std::span<PROJPOINT> points, std::span<PointState> states) const {
     for (std::size_t i = 0; i < points.size(); ++i)
         if (states[i] != PointState::Good)
             points[i] = mark;
     if (points.empty())
         return;
-    m_reasons.resize(points.size());
-    if (zrproj_transform_points(m_transform.get(), backwards, &points.data()->x, &points.data()->y, sizeof(PROJPOINT),
-                                points.size(), m_reasons.data()) != ZRPROJ_OK)
+    std::vector<unsigned char> reasons(points.size());
+    if (zrproj_transform_points(m_way->handle(), backwards, &points.data()->x, &points.data()->y, sizeof(PROJPOINT),
+                                points.size(), reasons.data()) != ZRPROJ_OK)
         throw std::runtime_error(zrproj_message());
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (states[i] == PointState::Good)
-            states[i] = stateOf(m_reasons[i]);
+            states[i] = stateOnWay(reasons[i]);
         if (!hasResult(states[i]))
             points[i] = mark;
     }
@@ -65,22 +77,22 @@ DatumConverter::DatumConverter(DatumShift const& shift) {
     m_shift.reset(made);
 }
 
-void DatumConverter::convert(std::span<PROJPOINT> points, std::span<PointState> states) {
+void DatumConverter::convert(std::span<PROJPOINT> points, std::span<PointState> states) const {
     if (points.empty())
         return;
-    m_given.assign(points.begin(), points.end());
-    m_reasons.resize(points.size());
+    std::vector<PROJPOINT> const given(points.begin(), points.end());
+    std::vector<unsigned char> reasons(points.size());
     if (zrproj_datum_shift_points(m_shift.get(), &points.data()->x, &points.data()->y, sizeof(PROJPOINT), points.size(),
-                                  m_reasons.data()) != ZRPROJ_OK)
+                                  reasons.data()) != ZRPROJ_OK)
         throw std::runtime_error(std::string("the datum conversion fails: ") + zrproj_message());
     for (std::size_t i = 0; i < points.size(); ++i) {
-        PointState const state = stateOf(m_reasons[i]);
+        PointState const state = stateOnDatum(reasons[i]);
         if (hasResult(states[i]) && state != PointState::Good)
-            states[i] = state == PointState::Outside ? PointState::NoResult : state;
+            states[i] = state;
         if (!hasResult(states[i]))
             points[i] = mark;
         else if (state == PointState::OffGrid)
-            points[i] = m_given[i];
+            points[i] = given[i];
     }
 }
 

@@ -71,7 +71,7 @@ private:
     std::string m_counted, m_file;
     bool m_failed = false;
     std::uint64_t m_badLines = 0;
-    std::array<Count, 8> m_counts; // by PointState
+    std::array<Count, pointStates> m_counts; // by PointState
 };
 
 } // namespace ZrProj::Command

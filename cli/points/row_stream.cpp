@@ -1,119 +1,135 @@
 #include "cli/points/row_stream.h"
 
-#include "cli/files/plain_file.h"
-#include "cli/text/text.h"
-#include "cli/text/usage_error.h"
+#include <algorithm>
+#include <thread>
 
 namespace ZrProj::Command {
 namespace {
 
 constexpr std::size_t rowsPerBlock = 4096;
+constexpr unsigned long long bytesPerThread = 1ULL << 20; // of a file for less of which a thread is not worth starting
+
+/// As many as were asked for, or fewer for small files; 0 bytes are not known.
+int threadsFor(unsigned long long bytes, int asked) {
+    auto const most = static_cast<unsigned long long>(asked);
+    return bytes == 0 ? asked : static_cast<int>(std::min(1 + bytes / bytesPerThread, most));
+}
 
 } // namespace
 
-RowStream::RowStream(PointWork& work, std::vector<std::string> const& files, ColumnRequest const& request,
-                     RowWriter const& writer, Output& output)
-    : m_work(work), m_files(files), m_request(request), m_writer(writer), m_output(output),
-      m_progress(totalSize(files)), m_report(m_progress) {}
+RowStream::RowStream(PointWork const& work, RowFiles const& files, RowWriter const& writer, Output& output)
+    : m_work(work), m_files(files), m_writer(writer), m_output(output), m_progress(totalSize(files.names)),
+      m_report(m_progress), m_source(files.names, files.columns, work) {}
 
 int RowStream::run(bool strict) {
-    for (std::string const& file : m_files)
-        if (!convertFile(file))
-            break;
+    std::vector<std::thread> others;
+    for (int i = 1; i < threadsFor(totalSize(m_files.names), m_files.threads); ++i)
+        others.emplace_back([this] { runThread(); });
+    runThread();
+    for (std::thread& other : others)
+        other.join();
+    if (m_failure)
+        std::rethrow_exception(m_failure);
     return m_report.conclude(m_output, strict);
 }
 
-/// False when there is no sense in going on.
-bool RowStream::convertFile(std::string const& name) {
-    InputFile const file(name);
-    m_fileTitle = file.title();
-    m_report.startFile(m_fileTitle);
-    if (file.descriptor() < 0) {
-        m_report.failure("cannot open " + m_fileTitle + ": " + systemMessage(file.error()));
-        return true;
+void RowStream::runThread() noexcept {
+    try {
+        convertPieces();
+    } catch (...) {
+        std::lock_guard const lock(m_writing);
+        fail();
     }
-    m_settled = false;
-    m_lineNumber = 0;
-    LineReader lines(file.descriptor());
-    bool const written = convertLines(lines);
-    m_bytesBefore += lines.position();
-    if (lines.error())
-        m_report.failure("cannot read " + m_fileTitle + ": " + systemMessage(lines.error()));
-    return written;
 }
 
-bool RowStream::convertLines(LineReader& lines) {
-    while (lines.read()) {
-        while (auto const line = lines.next())
-            take(*line);
-        flushRows();
-        if (!m_output.flush())
-            return false;
-        m_progress.show(m_bytesBefore + lines.position());
-    }
-    return true;
+/// Keeps the exception in flight. For who holds m_writing.
+void RowStream::fail() {
+    if (!m_failure)
+        m_failure = std::current_exception();
+    m_isStopped = true;
 }
 
-void RowStream::take(InputLine line) {
-    if (++m_lineNumber == 1)
-        takeFirstLine(line);
-    Row row{line, m_lineNumber, isVerbatim(line), 0};
-    RowPoint point;
-    if (!row.verbatim) {
-        if (!m_settled && settleLayout(line))
+/// Of a source that gives little at a time, as a person at a terminal does, a piece is written before the next one is
+/// waited for; reading ahead would gain nothing, and not see that whoever reads the results has enough of them.
+void RowStream::convertPieces() {
+    for (;;) {
+        std::unique_lock reading(m_reading);
+        if (m_isStopped)
             return;
-        point = m_reader->read(row);
-        if (!point.fault.empty())
-            m_report.badLine(m_lineNumber, point.fault);
+        auto const piece = m_source.next();
+        if (!piece)
+            return;
+        std::uint64_t const turn = m_pieces++;
+        if (!piece->isSmall())
+            reading.unlock();
+        writeInTurn(turn, *piece, convert(*piece));
     }
-    m_rows.push_back(row);
-    m_block.add(point.point);
-    if (m_rows.size() == rowsPerBlock)
-        flushRows();
 }
 
-/// A byte order mark passes through; the wide kinds of Unicode text are refused.
-void RowStream::takeFirstLine(InputLine& line) {
-    if (line.text.starts_with(byteOrderMark)) {
-        m_output << byteOrderMark;
-        line.text.remove_prefix(byteOrderMark.size());
+RowStream::Result RowStream::convert(RowPiece const& piece) const {
+    Result result{std::string(piece.mark), {}, piece.unusable};
+    try {
+        if (!piece.unusable)
+            for (RowSection const& section : piece.sections)
+                convertSection(piece, section, result);
+    } catch (...) {
+        result.failure = std::current_exception();
     }
-    if (line.text.starts_with("\xFF\xFE") || line.text.starts_with("\xFE\xFF"))
-        throw UsageError(m_fileTitle + " is UTF-16 text; save it as UTF-8");
+    return result;
 }
 
-/// Makes the best of the file's first line of interest; true when that was a header, which is written already, unless
-/// the file before had the same. A line that tells nothing leaves the question to the next one.
-bool RowStream::settleLayout(InputLine const& line) {
-    Recognition const found = recognise(line.text, m_request);
-    if (!found.fault.empty())
-        throw UsageError(m_fileTitle + ':' + std::to_string(m_lineNumber) + ": " + found.fault);
-    flushRows(); // they are the earlier layout's
-    m_layout = found.layout;
-    m_settled = found.clear;
-    m_reader.emplace(m_layout, m_request);
-    if (!m_layout.header)
-        return false;
-    std::string header = m_work.header(line.text, m_layout);
-    if (header != m_header)
-        m_output << header << line.end;
-    m_header = std::move(header);
-    return true;
+void RowStream::convertSection(RowPiece const& piece, RowSection const& section, Result& result) const {
+    result.text.reserve(piece.memory.size());
+    result.text += section.header;
+    RowReader reader(section.layout, m_files.columns);
+    std::vector<Row> rows;
+    rows.reserve(std::min(rowsPerBlock, section.end - section.begin));
+    PointBlock block;
+    for (std::size_t begin = section.begin; begin < section.end; begin += rowsPerBlock) {
+        rows.clear();
+        block.clear();
+        for (std::size_t i = begin; i < std::min(begin + rowsPerBlock, section.end); ++i) {
+            Row& row = rows.emplace_back(Row{piece.lines[i], piece.firstNumber + i, isVerbatim(piece.lines[i]), 0});
+            RowPoint const point = row.verbatim ? RowPoint() : reader.read(row);
+            if (!point.fault.empty())
+                result.notes.push_back({row.number, PointState::Unread, point.fault});
+            block.add(point.point);
+        }
+        m_work.convert(block, section.layout);
+        for (std::size_t i = 0; i < rows.size(); ++i) {
+            BlockPoint const point = block[i];
+            if (point.state != PointState::Good && point.state != PointState::Unread)
+                result.notes.push_back({rows[i].number, point.state, ""});
+            m_writer.write(result.text, rows[i], section.layout, point);
+        }
+    }
 }
 
-/// Converts the rows gathered, and passes them to the output.
-void RowStream::flushRows() {
-    if (m_rows.empty())
-        return;
-    m_work.convert(m_block, m_layout);
-    for (std::size_t i = 0; i < m_rows.size(); ++i) {
-        BlockPoint const result = m_block[i];
-        if (result.state != PointState::Good && result.state != PointState::Unread)
-            m_report.point(result.state, m_rows[i].number);
-        m_writer.write(m_rows[i], m_layout, result);
+void RowStream::writeInTurn(std::uint64_t turn, RowPiece const& piece, Result const& result) {
+    std::unique_lock lock(m_writing);
+    m_turns.wait(lock, [&] { return m_written == turn; });
+    try {
+        if (!m_isStopped && !write(piece, result))
+            m_isStopped = true;
+    } catch (...) {
+        fail();
     }
-    m_rows.clear();
-    m_block.clear();
+    ++m_written;
+    m_turns.notify_all();
+}
+
+/// False when there is no sense in going on.
+bool RowStream::write(RowPiece const& piece, Result const& result) {
+    if (result.failure)
+        std::rethrow_exception(result.failure);
+    m_report.startFile(piece.file);
+    if (!piece.failure.empty())
+        m_report.failure(piece.failure);
+    for (Result::Note const& note : result.notes)
+        note.fault.empty() ? m_report.point(note.state, note.line) : m_report.badLine(note.line, note.fault);
+    m_output << result.text;
+    m_progress.show(piece.position);
+    return m_output.flush();
 }
 
 } // namespace ZrProj::Command

@@ -110,62 +110,63 @@ std::string headerWith(std::string_view line, Layout const& layout, std::vector<
     return result;
 }
 
-void RowWriter::number(double value, PointState state) {
+void RowWriter::number(std::string& text, double value, PointState state) const {
     if (hasResult(state))
-        m_output.number(value, m_decimals);
+        appendFixed(text, value, m_decimals);
     else
-        m_output << noCoordinate;
+        text += noCoordinate;
 }
 
-void RowWriter::zone(Layout const& layout, BlockPoint const& result) {
-    if (m_zones)
-        m_output << layout.delimiter << (hasResult(result.state) ? utmZoneName(result.zone) : noCoordinate);
+void RowWriter::zone(std::string& text, Layout const& layout, BlockPoint const& result) const {
+    if (!m_zones)
+        return;
+    text += layout.delimiter;
+    text += hasResult(result.state) ? utmZoneName(result.zone) : noCoordinate;
 }
 
 /// The result in place of the coordinates, all else as it was; what the line lacks is added at its end.
-void RowWriter::replace(Row const& row, Layout const& layout, BlockPoint const& result) {
-    std::string_view const text = row.line.text;
+void RowWriter::replace(std::string& text, Row const& row, Layout const& layout, BlockPoint const& result) const {
+    std::string_view const line = row.line.text;
     bool const xFirst = layout.columns.x < layout.columns.y;
     Field const first = xFirst ? row.x : row.y, second = xFirst ? row.y : row.x;
-    bool empty = text.empty();
+    bool empty = line.empty();
     std::size_t at = 0;
     auto const put = [&](Field field, double value) {
-        std::size_t const begin = isMissing(field) ? text.size() : field.begin;
-        m_output << text.substr(at, begin - at);
+        std::size_t const begin = isMissing(field) ? line.size() : field.begin;
+        text += line.substr(at, begin - at);
         if (isMissing(field) && !empty)
-            m_output << layout.delimiter;
-        number(value, result.state);
-        at = isMissing(field) ? text.size() : field.end;
+            text += layout.delimiter;
+        number(text, value, result.state);
+        at = isMissing(field) ? line.size() : field.end;
         empty = false;
     };
     put(first, xFirst ? result.point.x : result.point.y);
     put(second, xFirst ? result.point.y : result.point.x);
-    zone(layout, result);
-    m_output << text.substr(at);
+    zone(text, layout, result);
+    text += line.substr(at);
 }
 
 /// The line as it was, filled up to the header's columns, with the result in new ones.
-void RowWriter::append(Row const& row, Layout const& layout, BlockPoint const& result) {
+void RowWriter::append(std::string& text, Row const& row, Layout const& layout, BlockPoint const& result) const {
     bool const blanks = layout.delimiter == ' ';
-    m_output << (blanks ? blanksTrimmed(row.line.text) : row.line.text);
+    text += blanks ? blanksTrimmed(row.line.text) : row.line.text;
     for (std::size_t i = std::max<std::size_t>(row.fields, 1); i < layout.fieldCount && !blanks; ++i)
-        m_output << layout.delimiter;
-    m_output << layout.delimiter;
-    number(result.point.x, result.state);
-    m_output << layout.delimiter;
-    number(result.point.y, result.state);
-    zone(layout, result);
+        text += layout.delimiter;
+    text += layout.delimiter;
+    number(text, result.point.x, result.state);
+    text += layout.delimiter;
+    number(text, result.point.y, result.state);
+    zone(text, layout, result);
 }
 
-void RowWriter::write(Row const& row, Layout const& layout, BlockPoint const& result) {
+void RowWriter::write(std::string& text, Row const& row, Layout const& layout, BlockPoint const& result) const {
     if (row.verbatim)
-        m_output << row.line.text;
+        text += row.line.text;
     else if (layout.header)
-        append(row, layout, result);
+        append(text, row, layout, result);
     else
-        replace(row, layout, result);
-    m_output << row.line.end;
-    m_output.flushIfLarge();
+        replace(text, row, layout, result);
+    text += row.line.end;
 }
 
 } // namespace ZrProj::Command

@@ -57,17 +57,17 @@ std::string headerWith(std::string_view line, Layout const& layout, std::vector<
 class RowWriter {
 public:
     /// zones: whether the result has a zone beside the coordinates.
-    RowWriter(Output& output, int decimals, bool zones) : m_output(output), m_decimals(decimals), m_zones(zones) {}
+    RowWriter(int decimals, bool zones) : m_decimals(decimals), m_zones(zones) {}
 
-    void write(Row const& row, Layout const& layout, BlockPoint const& result);
+    /// Appends the line with its result to a text.
+    void write(std::string& text, Row const& row, Layout const& layout, BlockPoint const& result) const;
 
 private:
-    void replace(Row const& row, Layout const& layout, BlockPoint const& result);
-    void append(Row const& row, Layout const& layout, BlockPoint const& result);
-    void number(double value, PointState state);
-    void zone(Layout const& layout, BlockPoint const& result);
+    void replace(std::string& text, Row const& row, Layout const& layout, BlockPoint const& result) const;
+    void append(std::string& text, Row const& row, Layout const& layout, BlockPoint const& result) const;
+    void number(std::string& text, double value, PointState state) const;
+    void zone(std::string& text, Layout const& layout, BlockPoint const& result) const;
 
-    Output& m_output;
     int m_decimals;
     bool m_zones;
 };

@@ -5,6 +5,7 @@
 #include <algorithm>
 #include <cerrno>
 #include <cstring>
+#include <utility>
 
 #include <unistd.h>
 
@@ -68,6 +69,16 @@ std::optional<InputLine> LineReader::next() {
     bool const tooLong = m_skipping || text.size() > longestLine;
     m_skipping = false;
     return InputLine{tooLong ? std::string_view() : text, m_lineEnd, tooLong};
+}
+
+std::vector<char> LineReader::release() {
+    std::vector<char> fresh(m_buffer.size());
+    std::copy(m_buffer.begin() + static_cast<std::ptrdiff_t>(m_begin),
+              m_buffer.begin() + static_cast<std::ptrdiff_t>(m_end), fresh.begin());
+    m_end -= m_begin;
+    m_begin = 0;
+    m_scanned = m_end;
+    return std::exchange(m_buffer, std::move(fresh));
 }
 
 /// What stands behind the last line end.

@@ -35,6 +35,10 @@ public:
     /// The next complete line, if there is one; good until the next read().
     std::optional<InputLine> next();
 
+    /// Hands over the memory of the lines handed out, so that they stay good with it. To be asked for when there is no
+    /// complete line left.
+    std::vector<char> release();
+
     /// The errno of a failed read, or 0.
     int error() const { return m_error; }
     /// Bytes read so far.

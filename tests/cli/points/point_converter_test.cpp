@@ -2,6 +2,7 @@
 
 #include "cli/model/zones.h"
 #include "cli/text/usage_error.h"
+#include "support/ntv2_file.h"
 #include "tests/cli/support.h"
 
 #include <gtest/gtest.h>
@@ -68,6 +69,30 @@ TEST(PointConverter, CoordinatesThatBelongToNoPointHaveNoLongitude) {
 
 TEST(PointConverter, UnprojectedPointsAreNotConverted) {
     EXPECT_THROW(PointConverter{systemOfDefinition("EPSG:4326")}, UsageError);
+}
+
+TEST(PointConverter, PointsOffAGridAndOutOfTheAreaAreToldApart) {
+    auto const wgs84 = systemOfDefinition("EPSG:4326");
+    PointConverter const byArea(std::make_shared<Way const>(systemOfDefinition("EPSG:27700"), wgs84));
+    std::array<PROJPOINT, 2> points{{{530000, 180000}, {530000, -900000}}};
+    std::array<PointState, 2> states{};
+    byArea.forward(points, states);
+    EXPECT_EQ(states, (std::array{PointState::Good, PointState::OutOfArea}));
+    EXPECT_NEAR(points[1].y, 41.8, 0.1);
+
+    auto const still = [](int, int) { return 0.0F; };
+    auto const north = [](int, int) { return 3.6F; };
+    TemporaryDirectory const folder;
+    std::ofstream(folder.file("BETA2007.gsb"), std::ios::binary)
+        << test::Ntv2File{{{"SMALL", "NONE", 180000, -25200, 3600, 3600, 3, 3, north, still}}}.bytes();
+    auto const dhdn = systemOfDefinition("DHDN"), etrs89 = systemOfDefinition("ETRS89");
+    PointConverter const byGrid(std::make_shared<Way const>(dhdn, etrs89, WayOptions{folder.path(), false}));
+    points = {{{6, 51}, {12, 51}}};
+    states = {};
+    byGrid.forward(points, states);
+    EXPECT_EQ(states, (std::array{PointState::Good, PointState::Ungridded}));
+    EXPECT_NEAR(points[0].y, 51.001, 1e-8);
+    EXPECT_EQ(points[1].x, DBL_MAX);
 }
 
 Datum datumNamed(char const* name) {

@@ -23,13 +23,9 @@ Read read(std::string_view line, Layout const& layout, ColumnRequest const& requ
 std::string written(std::string_view line, Layout const& layout, PointState state = PointState::Good,
                     bool zones = false) {
     Read const given = read(line, layout);
-    TextFile const file("");
-    int const descriptor = open(file.name().c_str(), O_WRONLY);
-    Output output(descriptor);
-    RowWriter(output, 1, zones).write(given.row, layout, {{1, 2}, state, utmZone(17, false)});
-    output.flush();
-    close(descriptor);
-    return fileBytes(file.name());
+    std::string text;
+    RowWriter(1, zones).write(text, given.row, layout, {{1, 2}, state, utmZone(17, false)});
+    return text;
 }
 
 Layout layoutOf(char const* line, ColumnRequest const& request = {}) {

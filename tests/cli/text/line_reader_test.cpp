@@ -70,6 +70,25 @@ TEST(LineReader, ALineIsThereAsSoonAsItWasWritten) {
     close(ends[1]);
 }
 
+TEST(LineReader, ReleasedLinesStayGoodAndAnUnfinishedOneGoesOn) {
+    int ends[2];
+    ASSERT_EQ(pipe(ends), 0);
+    LineReader reader(ends[0]);
+    ASSERT_EQ(write(ends[1], "a\nb", 3), 3);
+    ASSERT_TRUE(reader.read());
+    auto const first = reader.next();
+    ASSERT_FALSE(reader.next());
+    std::vector<char> const memory = reader.release();
+    ASSERT_EQ(write(ends[1], "c\n", 2), 2);
+    ASSERT_TRUE(reader.read());
+    auto const second = reader.next();
+    ASSERT_TRUE(first && second);
+    EXPECT_EQ(first->text, "a");
+    EXPECT_EQ(second->text, "bc");
+    close(ends[0]);
+    close(ends[1]);
+}
+
 TEST(LineReader, AFailedReadIsTold) {
     LineReader reader(-1);
     EXPECT_FALSE(reader.read());
