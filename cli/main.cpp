@@ -25,6 +25,7 @@ constexpr char const* overview = R"(Examples:
   zrproj inverse --utm auto utm.csv
   zrproj transform --from EPSG:27700 --to WGS84 survey.csv
   zrproj datum --from nad27 --to wgs84 survey.csv
+  zrproj identify unknown.csv --at 7.1,50.7
   zrproj list projections
   zrproj show --utm 17N
   zrproj georef fit controls.csv --method affine
@@ -57,6 +58,7 @@ constexpr std::array commandRows{
     CommandRow{"locate", "Convert image coordinates to longitudes and latitudes", makeLocate},
     CommandRow{"info", "Show what side files and tags say of a map or an image", makeInfo},
     CommandRow{"convert", "Convert side files and TIFF tags into each other", makeConvertFile},
+    CommandRow{"identify", "Find the coordinate systems that put points where they are", makeIdentify},
     CommandRow{"list", "List projections, parameters, ellipsoids, State Plane zones, datums or coordinate systems",
                makeList},
     CommandRow{"map", "Draw a map, or one of every projection", makeMap},

@@ -22,6 +22,7 @@ std::unique_ptr<Subcommand> makeGrid(CommandLine line);
 std::unique_ptr<Subcommand> makeGeoref(CommandLine line);
 std::unique_ptr<Subcommand> makeInverse(CommandLine line);
 std::unique_ptr<Subcommand> makeConvertFile(CommandLine line);
+std::unique_ptr<Subcommand> makeIdentify(CommandLine line);
 std::unique_ptr<Subcommand> makeInfo(CommandLine line);
 std::unique_ptr<Subcommand> makeLocate(CommandLine line);
 std::unique_ptr<Subcommand> makeList(CommandLine line);

@@ -1,5 +1,5 @@
 #!/bin/bash
-# transform.sh COMMAND CITIES: from one coordinate system to another.
+# transform.sh COMMAND CITIES: from one coordinate system to another, and which one coordinates are in.
 source "$(dirname "${BASH_SOURCE[0]}")/check.bash"
 cd "$work" || exit 1
 export ZRPROJ_GRIDS=
@@ -66,4 +66,19 @@ for threads in 1 2 7; do
     cmp -s out1 out$threads && cmp -s err1 err$threads || fail "$threads threads" "$(<err$threads)"
 done
 [[ $(wc -l <out1) == 100000 ]] || fail 'every line' "$(wc -l <out1)"
+
+# Which system is it?
+check 'identified' 0 'Code        System                          Off by  Remarks
+EPSG:27700  OSGB36 / British National Grid  2.1 km' '' identify - --at -0.1,51.5 <<<'530043.195 180358.209'
+[[ $("$zrproj" identify - --at -0.1,51.5 <<<'180358.209 530043.195') == *'British National Grid  2.1 km  x and y swapped' ]] ||
+    fail 'swapped' ''
+printf 'lon,lat\n-79.387139,43.642567\n' >known.csv
+"$zrproj" identify survey.txt --like-points known.csv >out
+[[ $(sed -n 2p out) == 'EPSG:32617  WGS 84 / UTM zone 17N'*'0.00 m'* ]] || fail 'by known points' "$(<out)"
+failed 'nowhere' 'no system of the register puts them within 20.0 km' identify survey.txt --at 100,0 --within 20
+refused 'where' 'where are they? give --at or --like-points' identify survey.txt
+refused 'twice where' '--like-points has no place beside --at*' identify survey.txt --at 1,2 --like-points known.csv
+refused 'no place' '--at: "1" is no longitude and latitude*' identify survey.txt --at 1
+printf '1,2\n3,4\n' >two.csv
+failed 'pairs' '"survey.txt" has 1 points, and "two.csv" has 2' identify survey.txt --like-points two.csv
 exit $failed
