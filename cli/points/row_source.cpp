@@ -11,7 +11,10 @@ constexpr std::size_t smallPiece = std::size_t{1} << 14; // bytes
 } // namespace
 
 bool RowPiece::isSmall() const {
-    return lines.empty() || static_cast<std::size_t>(lines.back().text.data() - lines.front().text.data()) < smallPiece;
+    std::size_t bytes = 0;
+    for (InputLine const& line : lines)
+        bytes += line.text.size();
+    return bytes < smallPiece;
 }
 
 std::optional<RowPiece> RowSource::next() {

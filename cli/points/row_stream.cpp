@@ -1,7 +1,7 @@
 #include "cli/points/row_stream.h"
 
 #include <algorithm>
-#include <thread>
+#include <system_error>
 
 namespace ZrProj::Command {
 namespace {
@@ -22,15 +22,24 @@ RowStream::RowStream(PointWork const& work, RowFiles const& files, RowWriter con
       m_report(m_progress), m_source(files.names, files.columns, work) {}
 
 int RowStream::run(bool strict) {
-    std::vector<std::thread> others;
-    for (int i = 1; i < threadsFor(totalSize(m_files.names), m_files.threads); ++i)
-        others.emplace_back([this] { runThread(); });
+    std::vector<std::thread> others = startThreads(threadsFor(totalSize(m_files.names), m_files.threads) - 1);
     runThread();
     for (std::thread& other : others)
         other.join();
     if (m_failure)
         std::rethrow_exception(m_failure);
     return m_report.conclude(m_output, strict);
+}
+
+/// Where the machine grants no more threads, fewer will do.
+std::vector<std::thread> RowStream::startThreads(int count) {
+    std::vector<std::thread> threads;
+    try {
+        for (int i = 0; i < count; ++i)
+            threads.emplace_back([this] { runThread(); });
+    } catch (std::system_error const&) {
+    }
+    return threads;
 }
 
 void RowStream::runThread() noexcept {

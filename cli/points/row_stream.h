@@ -14,6 +14,7 @@
 #include <mutex>
 #include <span>
 #include <string>
+#include <thread>
 #include <vector>
 
 namespace ZrProj::Command {
@@ -57,6 +58,7 @@ private:
         std::exception_ptr failure;
     };
 
+    std::vector<std::thread> startThreads(int count);
     void runThread() noexcept;
     void convertPieces();
     void fail();
