@@ -16,9 +16,12 @@ struct Pair {
     char const *from, *to;
 };
 
-// Geographic to projected systems on one datum: of a series, a conic, a method of its own, and a world map.
-constexpr Pair pairs[] = {
-    {"EPSG:4326", "EPSG:32633"}, {"EPSG:4171", "EPSG:2154"}, {"EPSG:4289", "EPSG:28992"}, {"EPSG:4326", "EPSG:3857"}};
+// Geographic to projected systems: on one datum of a series, a conic, a method of its own, and a world map; on another.
+constexpr Pair pairs[] = {{"EPSG:4326", "EPSG:32633"},
+                          {"EPSG:4171", "EPSG:2154"},
+                          {"EPSG:4289", "EPSG:28992"},
+                          {"EPSG:4326", "EPSG:3857"},
+                          {"EPSG:4326", "EPSG:27700"}};
 
 bool zrprojCreates(Pair const& pair) {
     zrproj_system *from = nullptr, *to = nullptr;

@@ -39,15 +39,9 @@ bool isPlain(fs::path const& path) {
     return fs::is_regular_file(path, error);
 }
 
-/// The plain file in a folder whose name is equal but for letter case; of several the one whose name is the least, so
-/// that it is always the same one.
-std::optional<std::string> findIgnoringCase(fs::path const& folder, std::string const& name) {
-    std::error_code error;
-    std::optional<std::string> found;
-    for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error))
-        if (equalIgnoringCase(entry->path().filename().string(), name) && isPlain(entry->path()))
-            found = std::min(found.value_or(entry->path().string()), entry->path().string());
-    return found;
+std::string inSmallLetters(std::string name) {
+    std::ranges::transform(name, name.begin(), asciiLower);
+    return name;
 }
 
 } // namespace
@@ -61,16 +55,32 @@ GridFolders::GridFolders(std::string_view own) {
         folders_.emplace_back(folder);
 }
 
+GridFolders::Listing const& GridFolders::listingOf(std::string const& folder) const {
+    auto const [found, isNew] = listings_.try_emplace(folder);
+    std::error_code error;
+    if (isNew)
+        for (fs::directory_iterator entry(folder, error), end; !error && entry != end; entry.increment(error)) {
+            std::string const name = entry->path().filename().string();
+            found->second.emplace(inSmallLetters(name), name);
+        }
+    return found->second;
+}
+
 std::optional<std::string> GridFolders::find(std::string_view name) const {
     fs::path const wanted(name);
     if (name.find('\0') != std::string_view::npos || !isWithin(wanted))
         return std::nullopt;
-    for (fs::path const folder : folders_) {
-        fs::path const path = folder / wanted;
-        if (isPlain(path))
-            return path.string();
-        if (auto found = findIgnoringCase(path.parent_path(), wanted.filename().string()))
-            return found;
+    std::string const file = wanted.filename().string();
+    for (fs::path const root : folders_) {
+        fs::path const folder = (root / wanted).parent_path();
+        auto const [first, last] = listingOf(folder.string()).equal_range(inSmallLetters(file));
+        std::optional<std::string> found; // of several the least, so that it is always the same one
+        for (auto each = first; each != last; ++each)
+            if (isPlain(folder / each->second) &&
+                (!found || each->second == file || (*found != file && each->second < *found)))
+                found = each->second;
+        if (found)
+            return (folder / *found).string();
     }
     return std::nullopt;
 }

@@ -1,6 +1,7 @@
 // Where the files of grids are.
 #pragma once
 
+#include <map>
 #include <optional>
 #include <string>
 #include <string_view>
@@ -9,7 +10,8 @@
 namespace ZrProj::datum {
 
 /// The folders that grids are looked for in: the caller's own, then those of the environment's ZRPROJ_GRIDS, then
-/// PROJ's (PROJ_DATA, PROJ_LIB, /usr/local/share/proj, /usr/share/proj).
+/// PROJ's (PROJ_DATA, PROJ_LIB, /usr/local/share/proj, /usr/share/proj). A folder is listed once, when it is first
+/// looked into: one thread at a time.
 class GridFolders {
 public:
     /// own: folders, ':' between them (';' on Windows).
@@ -20,7 +22,12 @@ public:
     std::optional<std::string> find(std::string_view name) const;
 
 private:
+    using Listing = std::multimap<std::string, std::string>; // names, by themselves in small letters
+
+    Listing const& listingOf(std::string const& folder) const;
+
     std::vector<std::string> folders_;
+    mutable std::map<std::string, Listing> listings_;
 };
 
 } // namespace ZrProj::datum
