@@ -4,7 +4,7 @@
 // prime meridian in degrees east of Greenwich.
 #pragma once
 
-#include <zrproj/datum.h>
+#include "datum/method_table.h"
 
 #include <array>
 
@@ -34,7 +34,7 @@ constexpr DatumRow oneWay(DatumType type, int posc, char const* name, DatumMetho
 }
 /// Closes the table: no datum, and no method.
 constexpr DatumRow endRow() {
-    return {DatumTypeNone, 0, "", static_cast<DatumMethod>(6), EllipsoidTypeNone, 0, 0, 0, 0, 0, 0, 0, 0};
+    return {DatumTypeNone, 0, "", unknownDatumMethod, EllipsoidTypeNone, 0, 0, 0, 0, 0, 0, 0, 0};
 }
 
 // clang-format off

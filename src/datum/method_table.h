@@ -50,6 +50,12 @@ constexpr DatumMethodRow const* datumMethodRow(DatumMethod method) {
     return row == datumMethodTable.end() ? nullptr : &*row;
 }
 
+/// Stands where no method is known: in a record that a reference file with the name of an unknown one was read into,
+/// and in the row that closes the table of datums. Those who use the record interface know it as 6, so no method may
+/// take it.
+inline constexpr auto unknownDatumMethod = static_cast<DatumMethod>(6);
+static_assert(!datumMethodRow(unknownDatumMethod));
+
 /// What a method tells of itself; false for a number that is no method.
 template <class Answer> constexpr bool datumMethodIs(DatumMethod method, Answer answer) {
     auto const* const row = datumMethodRow(method);

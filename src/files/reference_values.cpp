@@ -120,8 +120,6 @@ void readDatum(void* field, std::string_view text) {
     setField(field, datum);
 }
 
-constexpr auto noDatumMethod = static_cast<DatumMethod>(6);
-
 struct GeorefName {
     TransformMethod method;
     char const* name;
@@ -155,7 +153,7 @@ bool writeDatumMethod(void const* field, std::string& text) {
 void readDatumMethod(void* field, std::string_view text) {
     auto const row = std::ranges::find_if(
         datumMethodTable, [text](DatumMethodRow const& each) { return equalButBlanks(text, each.fileName); });
-    setField(field, row == datumMethodTable.end() ? noDatumMethod : row->method);
+    setField(field, row == datumMethodTable.end() ? unknownDatumMethod : row->method);
 }
 
 bool writeGeorefMethod(void const* field, std::string& text) {

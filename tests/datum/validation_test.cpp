@@ -1,3 +1,4 @@
+#include "datum/method_table.h"
 #include "support/datum.h"
 #include "support/error_host.h"
 
@@ -31,7 +32,7 @@ struct Case {
 Case const cases[] = {
     {static_cast<DatumMethod>(-1), [](DATUM2WGS84&) {}, 20262, 3},
     {DatumMethodReserved, [](DATUM2WGS84&) {}, 20262, 3},
-    {static_cast<DatumMethod>(6), [](DATUM2WGS84&) {}, 20262, 3},
+    {unknownDatumMethod, [](DATUM2WGS84&) {}, 20262, 3},
     {DatumMethodNone, [](DATUM2WGS84& r) { r.Ellipsoid = EllipsoidTypeNone, r.dX = 1e300; }, 0, 0},
     {DatumMethodNadcon, [](DATUM2WGS84& r) { r.MajorRadius = -1; }, 0, 0},
     {DatumMethodMRE, [](DATUM2WGS84& r) { r.PrimeMeridian = 999; }, 0, 0},
