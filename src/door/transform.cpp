@@ -56,16 +56,16 @@ void tellOutOfArea(systems::Route const& route, std::span<PROJPOINT const> place
 
 /// From datum to datum.
 void carry(systems::DatumPath const& path, bool backwards, std::span<PROJPOINT> places, std::span<Reason> reasons) {
-    std::array<systems::Fate, blockPoints> fates;
+    std::array<Reason, blockPoints> shifted;
     if (!allHaveResults(reasons))
         for (std::size_t i = 0; i < places.size(); ++i)
             if (!hasResult(reasons[i]))
                 places[i] = mark;
-    auto const used = std::span(fates).first(places.size());
+    auto const used = std::span(shifted).first(places.size());
     backwards ? path.inverse(places, used) : path.forward(places, used);
     for (std::size_t i = 0; i < places.size(); ++i)
-        if (hasResult(reasons[i]) && used[i] != systems::Fate::carried)
-            reasons[i] = used[i] == systems::Fate::offGrid ? ZRPROJ_OFF_THE_GRID : ZRPROJ_NOT_SHOWN;
+        if (hasResult(reasons[i]) && used[i] != ZRPROJ_CONVERTED)
+            reasons[i] = used[i];
 }
 
 /// From datum to datum, with the places that lie out of the way's area told by where they are on the datum that the

@@ -181,11 +181,11 @@ template <class Work>
                                             Outcome& outcome) {
     bool const marked = isMarked(point), finite = isFinite(point);
     LonePoint alone{point.x, point.y};
-    auto const fate = finite && !marked ? work.convert(alone) : cameInLost;
+    auto const reason = finite && !marked ? work.convert(alone) : cameInLost;
     outcome.failed |= alone.raised;
-    if (marking.fates)
-        marking.fates[i] = fate;
-    if (fate == cameOut)
+    if (marking.reasons)
+        marking.reasons[i] = reason;
+    if (reason == cameOut)
         return {alone.x, alone.y};
     if (marked && finite && marking.keepsMarked)
         return point;

@@ -51,8 +51,8 @@ struct Stage {
     void const* constants;
 };
 
-/// What became of a point that is asked about: that it came in marked, infinite or NaN, or which stage lost it, the
-/// n-th from 0 being lostInStage + n.
+/// Why a point has no result, where that is asked: it came in marked, infinite or NaN, or a stage lost it, the n-th
+/// from 0 being lostInStage + n.
 inline constexpr unsigned char cameOut = 0, cameInLost = 1, lostInStage = 2;
 
 /// Whether a point is marked, of whatever type: its coordinates, or one of them, are DBL_MAX. Inlined at every level,
@@ -64,8 +64,8 @@ template <class Point> [[gnu::always_inline]] constexpr bool isMarked(Point cons
 /// What is asked of a computation besides its results. A point that cannot be computed is lost: both of its coordinates
 /// become DBL_MAX. A marked point may come in, too.
 struct Marking {
-    bool keepsMarked = false;       // what came in marked and finite stays as it is, and does not count
-    unsigned char* fates = nullptr; // where a point's place is given and holds cameOut: what became of it
+    bool keepsMarked = false;         // what came in marked and finite stays as it is, and does not count
+    unsigned char* reasons = nullptr; // one a point, cameOut before; where given, those of the lost points are set
 };
 
 /// What became of an array of points.

@@ -51,7 +51,7 @@ DatumPath::DatumPath(std::vector<Step>&& steps) : m_steps(std::move(steps)) {
     m_forward.driver = m_inverse.driver = levels::operationsInUse<datum::ShiftSet>().driver;
     auto const append = [](Way& way, Step const& step, bool backwards) {
         way.stages.push_back(step.stage(backwards));
-        way.losses.push_back(step.isGrid() ? Fate::offGrid : Fate::lost);
+        way.losses.push_back(step.isGrid() ? ZRPROJ_OFF_THE_GRID : ZRPROJ_NOT_SHOWN);
     };
     for (Step const& step : m_steps)
         append(m_forward, step, false);
@@ -126,19 +126,16 @@ std::variant<DatumPath, PathProblem> DatumPath::make(Route const& route, GridFol
     return DatumPath(std::move(steps));
 }
 
-void DatumPath::run(Way const& way, std::span<PROJPOINT> places, std::span<Fate> fates) noexcept {
-    static_assert(static_cast<unsigned char>(Fate::carried) == levels::cameOut &&
-                  static_cast<unsigned char>(Fate::lost) == levels::cameInLost);
-    std::ranges::fill(fates, Fate::carried);
-    auto* const became = reinterpret_cast<unsigned char*>(fates.data());
-    auto const outcome =
-        way.driver(way.stages.data(), way.stages.size(), levels::pointsOf(places.data(), places.size()),
-                   {.keepsMarked = true, .fates = became});
+void DatumPath::run(Way const& way, std::span<PROJPOINT> places, std::span<unsigned char> reasons) noexcept {
+    static_assert(levels::cameOut == ZRPROJ_CONVERTED);
+    std::ranges::fill(reasons, levels::cameOut);
+    auto const outcome = way.driver(way.stages.data(), way.stages.size(),
+                                    levels::pointsOf(places.data(), places.size()), {.reasons = reasons.data()});
     if (!outcome.lost)
         return;
-    for (Fate& fate : fates)
-        if (auto const stage = static_cast<unsigned char>(fate); stage >= levels::lostInStage)
-            fate = way.losses[stage - levels::lostInStage];
+    for (unsigned char& reason : reasons)
+        if (reason != levels::cameOut)
+            reason = reason == levels::cameInLost ? ZRPROJ_NOT_FINITE : way.losses[reason - levels::lostInStage];
 }
 
 } // namespace ZrProj::systems

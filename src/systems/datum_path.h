@@ -6,6 +6,7 @@
 #include "datum/shift.h"
 #include "systems/route.h"
 
+#include <zrproj/c.h>
 #include <zrproj/projection.h>
 
 #include <span>
@@ -14,13 +15,6 @@
 #include <vector>
 
 namespace ZrProj::systems {
-
-/// What becomes of a place on its way.
-enum class Fate : unsigned char {
-    carried,
-    lost,    // a formula has no result for it, or it came in marked
-    offGrid, // a grid has no shift for it
-};
 
 /// Why a route cannot be made ready.
 struct PathProblem {
@@ -40,10 +34,14 @@ public:
     bool isEmpty() const { return m_steps.empty(); }
 
     /// Carries places in degrees from Greenwich, finite and within the poles, from datum to datum, and back by the
-    /// exact inverse of that. Marked ones (DBL_MAX) stay as they are; what is lost becomes marked. `fates` has a place
-    /// for each.
-    void forward(std::span<PROJPOINT> places, std::span<Fate> fates) const noexcept { run(m_forward, places, fates); }
-    void inverse(std::span<PROJPOINT> places, std::span<Fate> fates) const noexcept { run(m_inverse, places, fates); }
+    /// exact inverse of that. Marked ones (DBL_MAX) stay marked; what is lost becomes marked. `reasons` becomes a
+    /// zrproj_reason for each.
+    void forward(std::span<PROJPOINT> places, std::span<unsigned char> reasons) const noexcept {
+        run(m_forward, places, reasons);
+    }
+    void inverse(std::span<PROJPOINT> places, std::span<unsigned char> reasons) const noexcept {
+        run(m_inverse, places, reasons);
+    }
 
 private:
     /// A shift the way round in which the route has it.
@@ -58,11 +56,11 @@ private:
     /// Nothing where no place is moved.
     using Made = std::variant<std::monostate, Step, PathProblem>;
 
-    /// The steps' stages one way, with what loses a place in each of them.
+    /// The steps' stages one way, with the reason of a point that is lost in each of them.
     struct Way {
         levels::Convert* driver = nullptr; // at the level of the stages
         std::vector<levels::Stage> stages;
-        std::vector<Fate> losses;
+        std::vector<zrproj_reason> losses;
     };
 
     explicit DatumPath(std::vector<Step>&& steps);
@@ -71,7 +69,7 @@ private:
     static Made geocentricStep(std::span<RouteStep const>& rest);
     static Step formulaStep(RouteStep const& step);
     static Made gridStep(RouteStep const& step, datum::GridFolders const& folders);
-    static void run(Way const& way, std::span<PROJPOINT> places, std::span<Fate> fates) noexcept;
+    static void run(Way const& way, std::span<PROJPOINT> places, std::span<unsigned char> reasons) noexcept;
 
     std::vector<Step> m_steps; // the stages have their addresses, which moving the vector does not change
     Way m_forward, m_inverse;

@@ -76,15 +76,15 @@ TEST(Driver, TellsWhatBecameOfEachPoint) {
     test::forEachLevel([](levels::Level) {
         auto const before = points();
         auto after = before;
-        std::vector<unsigned char> fates(before.size(), levels::cameOut);
-        forward(after, {.fates = fates.data()});
+        std::vector<unsigned char> reasons(before.size(), levels::cameOut);
+        forward(after, {.reasons = reasons.data()});
         for (std::size_t i = 0; i < before.size(); ++i) {
             auto const& p = before[i];
             bool const cameIn = std::isfinite(p.x) && std::isfinite(p.y) && p.x != DBL_MAX;
             auto const expected = !cameIn                ? levels::cameInLost
                                   : std::fabs(p.y) == 90 ? levels::lostInStage
                                                          : levels::cameOut;
-            EXPECT_EQ(int(fates[i]), int(expected)) << i;
+            EXPECT_EQ(int(reasons[i]), int(expected)) << i;
             EXPECT_EQ(after[i].x == DBL_MAX && after[i].y == DBL_MAX, expected != levels::cameOut) << i;
         }
     });
@@ -98,18 +98,18 @@ TEST(Driver, NamesTheStageThatLosesAPoint) {
                                         converter.stageOf(&Converter::inverse),
                                         converter.stageOf(&Converter::inverse)};
         PROJPOINT way[] = {{10, 20}, {10, 90}, {200, 20}};
-        unsigned char fates[3] = {};
-        levels::Marking const marking{.fates = fates};
+        unsigned char reasons[3] = {};
+        levels::Marking const marking{.reasons = reasons};
         converter.driver(stages, 3, levels::pointsOf(way, 3), marking);
         EXPECT_NEAR(way[0].x, 10, 1e-11);
         EXPECT_NEAR(way[0].y, 20, 1e-11);
         EXPECT_NEAR(way[2].x, -160, 1e-11);
-        EXPECT_EQ(fates[0], levels::cameOut);
-        EXPECT_EQ(fates[1], levels::lostInStage);
+        EXPECT_EQ(reasons[0], levels::cameOut);
+        EXPECT_EQ(reasons[1], levels::lostInStage);
 
         PROJPOINT offTheMap[] = {{3e7, 0}, {1e6, 0}};
         unsigned char again[2] = {};
-        converter.driver(stages + 1, 2, levels::pointsOf(offTheMap, 2), {.fates = again});
+        converter.driver(stages + 1, 2, levels::pointsOf(offTheMap, 2), {.reasons = again});
         EXPECT_EQ(again[0], levels::lostInStage + 1);
         EXPECT_EQ(again[1], levels::cameOut);
     });

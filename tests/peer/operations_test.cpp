@@ -137,11 +137,11 @@ double metresBetween(PROJPOINT const& a, PROJPOINT const& b) {
 }
 
 void carry(DatumPath const& path, std::vector<PROJPOINT>& places, bool backwards = false) {
-    std::vector<Fate> fates(places.size());
+    std::vector<unsigned char> reasons(places.size());
     if (path.isEmpty())
         return;
     withDefaultFloatingPoint([&] {
-        backwards ? path.inverse(places, fates) : path.forward(places, fates);
+        backwards ? path.inverse(places, reasons) : path.forward(places, reasons);
         return true;
     });
 }
