@@ -1,4 +1,4 @@
-// The frame of the maps whose parallels are arcs about a common centre: polar coordinates about it, and back.
+// What the maps share whose parallels are arcs about a common centre: polar coordinates about it, and back.
 //
 // Distances north are measured along the central meridian from a parallel of reference, not from the centre, which is
 // far away where the cone is nearly a cylinder: what is near stays exact. A cone about the south pole is the mirror

@@ -1,4 +1,4 @@
-// The frame of the cylindrical maps: a rectangle, the longitudes spread evenly over its width.
+// What the cylindrical maps share: a rectangle, the longitudes spread evenly over its width.
 #pragma once
 
 #include "formulas/points.h"

@@ -21,17 +21,17 @@
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 
 template <class P> struct Direction {
-    Converter const& frame;
+    Converter const& converter;
     P const& formula;
 
-    explicit Direction(void const* converter)
-        : frame(*static_cast<Converter const*>(converter)),
-          formula(*std::launder(reinterpret_cast<P const*>(frame.constants))) {}
+    explicit Direction(void const* constants)
+        : converter(*static_cast<Converter const*>(constants)),
+          formula(*std::launder(reinterpret_cast<P const*>(converter.constants))) {}
 };
 
 /// Degrees to map coordinates: (formula + false origin) * scale.
 template <class P> struct Forward : Direction<P> {
-    using Direction<P>::Direction, Direction<P>::frame, Direction<P>::formula;
+    using Direction<P>::Direction, Direction<P>::converter, Direction<P>::formula;
 
     template <class R> Pair<R> enter(Pair<R> p) const {
         auto const degrees = normalised(p);
@@ -42,23 +42,23 @@ template <class P> struct Forward : Direction<P> {
         return {map.x, map.y};
     }
     template <class R> Pair<R> leave(Pair<R> p) const {
-        if (frame.xOrg != 0 || frame.yOrg != 0)
-            p = {p.x + frame.xOrg, p.y + frame.yOrg};
-        if (frame.scale != 1)
-            p = {p.x * frame.scale, p.y * frame.scale};
+        if (converter.xOrg != 0 || converter.yOrg != 0)
+            p = {p.x + converter.xOrg, p.y + converter.yOrg};
+        if (converter.scale != 1)
+            p = {p.x * converter.scale, p.y * converter.scale};
         return p;
     }
 };
 
 /// Map coordinates to degrees.
 template <class P> struct Inverse : Direction<P> {
-    using Direction<P>::Direction, Direction<P>::frame, Direction<P>::formula;
+    using Direction<P>::Direction, Direction<P>::converter, Direction<P>::formula;
 
     template <class R> Pair<R> enter(Pair<R> p) const {
-        if (frame.scale != 1)
-            p = {p.x / frame.scale, p.y / frame.scale};
-        if (frame.xOrg != 0 || frame.yOrg != 0)
-            p = {p.x - frame.xOrg, p.y - frame.yOrg};
+        if (converter.scale != 1)
+            p = {p.x / converter.scale, p.y / converter.scale};
+        if (converter.xOrg != 0 || converter.yOrg != 0)
+            p = {p.x - converter.xOrg, p.y - converter.yOrg};
         return p;
     }
     template <class R> Pair<R> convert(Pair<R> p) const {
@@ -68,7 +68,7 @@ template <class P> struct Inverse : Direction<P> {
     template <class R> Pair<R> leave(Pair<R> p) const {
         R const lon = p.x * radian;
         auto const turned = (abs(lon) >= 360.0) & (abs(lon) < 360 + 1e-12);
-        return normalised(Pair<R>{select(turned, copySign(R(frame.fullTurn), lon), lon), p.y * radian});
+        return normalised(Pair<R>{select(turned, copySign(R(converter.fullTurn), lon), lon), p.y * radian});
     }
 };
 

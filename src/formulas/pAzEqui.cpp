@@ -38,13 +38,13 @@ template <class R> Condition<R> isInside(R arc, R x, R y) {
 
 struct Spherical {
     double radius, lambda0;
-    CentredFrame frame;
+    CentredFrame centre;
 
     explicit Spherical(Parameters const& given)
-        : radius(given.a), lambda0(given.lon0), frame{sinCos(given.lat1).sin, sinCos(given.lat1).cos} {}
+        : radius(given.a), lambda0(given.lon0), centre{sinCos(given.lat1).sin, sinCos(given.lat1).cos} {}
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
-        auto const place = frame.place(sinCos(p.lat), longitudeFrom(lambda0, p.lon));
+        auto const place = centre.place(sinCos(p.lat), longitudeFrom(lambda0, p.lon));
         R const across = sqrt(place.east * place.east + place.north * place.north);
         return fromCentre(radius, atan2(across, place.up), angleOfPoint<R>({place.east, place.north})); // (25-2)
     }
@@ -52,7 +52,7 @@ struct Spherical {
     template <class R> LonLat<R> inverse(Xy<R> p) const {
         R const x = inUnitsOf(radius, p.x), y = inUnitsOf(radius, p.y), c = sqrt(x * x + y * y); // (25-15)
         auto const alpha1 = angleOfPoint<R>({x, y}), arc = sinCos(smaller(c, R(pi)));
-        auto const at = frame.onSphere(Place<R>{alpha1.sin * arc.sin, alpha1.cos * arc.sin, arc.cos});
+        auto const at = centre.onSphere(Place<R>{alpha1.sin * arc.sin, alpha1.cos * arc.sin, arc.cos});
         return {lambda0 + at.theta, select(isInside(c, x, y), atan2(at.phi.sin, at.phi.cos), R(unplottable))};
     }
 };
