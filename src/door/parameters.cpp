@@ -7,6 +7,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 
 namespace ZrProj::Door {
 namespace {
@@ -67,6 +68,17 @@ Answer completeFigure(zrproj_parameters& parameters, PROJDATA const& definition)
         return badDefinition("there is no ellipsoid: neither a number, nor a radius above 0, nor one of the datum");
     if (!(parameters.flattening >= 0 && parameters.flattening < 1))
         return badDefinition("the flattening is not at least 0 and below 1");
+    return {};
+}
+
+/// Records may hold latitudes within a full turn, as angles that run on over a pole; parameters may not.
+Answer checkLatitudes(zrproj_parameters const& parameters) {
+    if (parameters.type == ProjTypeUnprojectedLatLong)
+        return {};
+    for (ParameterField const& field : parameterFields)
+        if (auto const& row = *parameterRow(field.id);
+            row.quantity == Quantity::Latitude && std::fabs(field.get(parameters)) > 90)
+            return badDefinition(std::string("the latitude ") + row.key + " is not within 90 degrees either way");
     return {};
 }
 
@@ -162,6 +174,8 @@ Answer complete(zrproj_parameters& parameters) {
         return datum;
     if (auto const fault = findFault(recordOf(parameters)); fault.parameter != 0)
         return badDefinition(errorText(fault.error));
+    if (Answer latitudes = checkLatitudes(parameters); !latitudes.isGood())
+        return latitudes;
     completeFactors(parameters);
     return {};
 }

@@ -155,8 +155,14 @@ TEST(DoorParameters, AreRefusedOneByOne) {
         refused(&zrproj_parameters::radius, radius);
     for (double const flattening : {-0.001, 1.0})
         refused(&zrproj_parameters::flattening, flattening);
-    for (double const latitude : {90.0, -361.0})
+    for (double const latitude : {90.0, -361.0, -91.0, std::nextafter(90.0, 91.0)})
         refused(&zrproj_parameters::lat0, latitude);
+    auto polar = sphere();
+    polar.type = ProjTypeStereographic;
+    polar.lat0 = -90;
+    EXPECT_EQ(complaintOf(polar), "");
+    polar.lat3 = 90.5;
+    EXPECT_EQ(complaintOf(polar), "the latitude lat3 is not within 90 degrees either way");
 
     auto gridded = sphere();
     gridded.datum = DatumTypeUserDefined;
