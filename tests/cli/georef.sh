@@ -11,11 +11,9 @@ prints() { # prints NAME PATTERN ARGUMENT...
 }
 refused() { check "$1" 1 '' "zrproj: $2" georef fit - "${@:3}"; }
 
-for method in affine bilinear thin-plate inverse-distance; do
-    prints "the wrong point by $method" '*B2 *<-- stands out*worst: "B2" (line 6), 100*stands out: "B2"*without it*' \
-        georef fit "$samples/scanned_map_wrong.csv" --method "$method"
-    "$zrproj" georef fit "$samples/scanned_map.csv" --method "$method" | grep -q 'stands out' && fail "$method" 'blamed'
-done
+prints 'the wrong point' '*B2 *<-- stands out*worst: "B2" (line 6), 100*stands out: "B2"*without it*' \
+    georef fit "$samples/scanned_map_wrong.csv" --method affine
+"$zrproj" georef fit "$samples/scanned_map.csv" --method affine | grep -q 'stands out' && fail 'no wrong point' 'blamed'
 prints 'all methods' '*helmert *affine *"B2"*stands out*second *thin-plate *inverse-distance *' \
     georef fit "$samples/scanned_map_wrong.csv" --compare
 [[ $("$zrproj" georef fit "$samples/scanned_map.csv" --compare) != *third* ]] || fail 'third order of 8 points' ''
@@ -26,22 +24,6 @@ prints 'coefficients' $'Affine Polynomial, 3*\n1 * 10 * 20\nx * 2 * 4\ny * -0.5 
     <<<$'0 0 10 20 a\n1 0 12 24 b\n0 1 9.5 19 c'
 
 refused 'too few' 'third needs 10 control points, there are 8' --method third <"$samples/scanned_map.csv"
-refused 'alike' 'two control points at one source point, in lines 2 and 5' --method cubic \
-    <<<$'x,y,X,Y\n1,2,3,4\n3,4,5,6\n\n1,2,4,4\n7,1,1,1'
-refused 'on a line' 'the control points are all on one line (lines 1, 3, 4)' <<<$'1,2,3,4\n#\n2,4,5,6\n3,6,4,4'
-refused 'in one place' 'two control points at one source point, in lines 1 and 2' --method helmert <<<$'1,2,3,4\n1,2,4,4'
-circle=$'13 0 1 1\n5 12 2 3\n-5 12 5 1\n-12 5 6 2\n-12 -5 9 3\n0 -13 2 7\n12 -5 4 4'
-for method in 'second: they lie on one conic' 'bilinear: they lie on one hyperbola' 'third: they lie on one cubic'; do
-    points=$circle
-    [[ $method == bilinear* ]] && points=$'1 6 1 1\n2 3 2 3\n3 2 5 1\n6 1 6 2\n-1 -6 1 1'
-    [[ $method == third* ]] && points+=$'\n1 1 3 3\n2 2 4 3\n3 3 3 5\n4 4 5 6'
-    # a repeated point is not what is wrong
-    refused "${method%%:*} on a curve" "the control points do not determine a map by $method*" --method "${method%%:*}" \
-        <<<"$points"$'\n'"${points##*$'\n'}"
-done
-refused 'too few places' 'two control points at one source point, in lines 3 and 4' --method bilinear \
-    <<<$'1 2 3 4\n3 5 5 6\n7 1 1 1\n7 1 1 2'
-refused 'targets too large' '*their target coordinates are too large' <<<$'0 0 1 1\n1 0 1.7976931348623157e308 1\n0 1 2 2'
 refused 'broken lines' $'<stdin>:2: source y "4x" is not a number\n<stdin>:3: target x is missing\nnothing is fitted*' \
     <<<$'1,2,3,4\n2,4x,5,6\n3,6'
 check 'no such file' 1 '' 'zrproj: cannot open *none: No such file or directory' georef fit "$work/none"

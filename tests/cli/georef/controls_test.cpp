@@ -80,8 +80,25 @@ TEST(Controls, WhyNoMapGoesThroughThem) {
     EXPECT_EQ(why("cubic", "1,2,3,4\n3,4,5,6\n\n1,2,4,4\n7,1,1,1"),
               "two control points at one source point, in lines 1 and 4");
     EXPECT_EQ(why("affine", "1,2,3,4\n#\n2,4,5,6\n3,6,4,4"), "the control points are all on one line (lines 1, 3, 4)");
-    EXPECT_EQ(why("bilinear", "1 6 1 1\n2 3 2 3\n3 2 5 1\n6 1 6 2\n-1 -6 1 1").substr(0, 80),
-              "the control points do not determine a map by bilinear: they lie on one hyperbola");
+    EXPECT_EQ(why("helmert", "1,2,3,4\n1,2,4,4"), "two control points at one source point, in lines 1 and 2");
+    EXPECT_EQ(why("bilinear", "1 2 3 4\n3 5 5 6\n7 1 1 1\n7 1 1 2"),
+              "two control points at one source point, in lines 3 and 4"); // too few are left
+    std::string const circle = "13 0 1 1\n5 12 2 3\n-5 12 5 1\n-12 5 6 2\n-12 -5 9 3\n0 -13 2 7\n12 -5 4 4\n";
+    struct {
+        char const *method, *curve;
+        std::string points;
+    } const cases[] = {{"second", "conic", circle},
+                       {"bilinear", "hyperbola", "1 6 1 1\n2 3 2 3\n3 2 5 1\n6 1 6 2\n-1 -6 1 1\n"},
+                       {"third", "cubic", circle + "1 1 3 3\n2 2 4 3\n3 3 3 5\n4 4 5 6\n"}};
+    for (auto const& [method, curve, points] : cases) {
+        std::string const last = points.substr(points.rfind('\n', points.size() - 2) + 1);
+        for (std::string const& repeated : {std::string(), last}) { // which is not what is wrong
+            std::string const reason = why(method, (points + repeated).c_str());
+            EXPECT_TRUE(reason.starts_with("the control points do not determine a map by " + std::string(method) +
+                                           ": they lie on one " + curve))
+                << reason;
+        }
+    }
 }
 
 } // namespace
