@@ -65,14 +65,14 @@ int ConversionOptions::threads() const {
     return static_cast<int>(number.value);
 }
 
-ConversionJob ConversionOptions::job(Direction direction, bool zone) const {
-    bool const readsZone = zone && direction == Direction::Inverse;
+ConversionJob ConversionOptions::job(Operation operation, bool zone) const {
+    bool const readsZone = zone && operation == Operation::Inverse;
     ConversionJob job;
-    job.columns = {direction, {}, nullptr, readsZone};
+    job.columns = {operation, {}, nullptr, readsZone};
     if (!m_columns.empty())
         job.columns.columns = parseColumns(m_columns, readsZone);
-    (direction == Direction::Inverse ? job.columns.unit : job.unit) = unit();
-    job.decimals = readDecimals(m_precision, writesAngles(direction) ? degreeDecimals : metreDecimals);
+    (operation == Operation::Inverse ? job.columns.unit : job.unit) = unit();
+    job.decimals = readDecimals(m_precision, writesAngles(operation) ? degreeDecimals : metreDecimals);
     job.strict = m_strict;
     job.threads = threads();
     job.files = files();

@@ -24,7 +24,7 @@ public:
     bool isGeoJson() const;
 
     /// What the options say of a conversion. zone: whether each point has its own. Throws UsageError.
-    ConversionJob job(Direction direction, bool zone) const;
+    ConversionJob job(Operation operation, bool zone) const;
 
     /// Runs a job of these options. Returns the exit status. Throws UsageError when it cannot be followed.
     int run(ConversionJob job, Output& output) const;

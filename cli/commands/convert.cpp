@@ -8,23 +8,23 @@ namespace {
 
 class Convert : public Subcommand {
 public:
-    Convert(CommandLine line, Direction direction);
+    Convert(CommandLine line, Operation operation);
     int run(Output& output) override;
 
 private:
-    Direction m_direction;
-    ProjectionOptions m_projection; // none for Direction::Datum
+    Operation m_operation;
+    ProjectionOptions m_projection; // none for Operation::Datum
     DatumOptions m_datums;
     ConversionOptions m_conversion;
 };
 
-Convert::Convert(CommandLine line, Direction direction) : m_direction(direction), m_datums(direction) {
-    bool const projects = direction != Direction::Datum;
+Convert::Convert(CommandLine line, Operation operation) : m_operation(operation), m_datums(operation) {
+    bool const projects = operation != Operation::Datum;
     if (projects)
         m_projection.addTo(line);
     m_datums.addTo(line);
     m_conversion.addTo(line, projects ? "Unit of projected coordinates: m (the default), ft or us-ft" : nullptr,
-                       direction == Direction::Forward ? "Cut the geometries of GeoJSON to what the map shows"
+                       operation == Operation::Forward ? "Cut the geometries of GeoJSON to what the map shows"
                                                        : nullptr);
     if (projects)
         m_projection.addParametersTo(line);
@@ -32,9 +32,9 @@ Convert::Convert(CommandLine line, Direction direction) : m_direction(direction)
 
 int Convert::run(Output& output) {
     ProjectionChoice projection;
-    if (m_direction != Direction::Datum)
+    if (m_operation != Operation::Datum)
         projection = m_projection.choice(m_datums.ofMap());
-    ConversionJob job = m_conversion.job(m_direction, projection.zonePerPoint);
+    ConversionJob job = m_conversion.job(m_operation, projection.zonePerPoint);
     job.projection = projection;
     job.shift = m_datums.shift();
     return m_conversion.run(std::move(job), output);
@@ -43,19 +43,19 @@ int Convert::run(Output& output) {
 } // namespace
 
 std::unique_ptr<Subcommand> makeDatumConversion(CommandLine line) {
-    return std::make_unique<Convert>(line, Direction::Datum);
+    return std::make_unique<Convert>(line, Operation::Datum);
 }
 
 std::unique_ptr<Subcommand> makeForward(CommandLine line) {
     line.footer(R"(Example: the places of a spreadsheet export, in feet, in new columns
   zrproj forward --state-plane "Arizona Central" --units ft places.csv)");
-    return std::make_unique<Convert>(line, Direction::Forward);
+    return std::make_unique<Convert>(line, Operation::Forward);
 }
 
 std::unique_ptr<Subcommand> makeInverse(CommandLine line) {
     line.footer(R"(Example: one point
   echo 630084.301 4833438.586 | zrproj inverse --utm 17N)");
-    return std::make_unique<Convert>(line, Direction::Inverse);
+    return std::make_unique<Convert>(line, Operation::Inverse);
 }
 
 } // namespace ZrProj::Command

@@ -93,7 +93,7 @@ public:
     }
 
     int run(Output& output) override {
-        GeorefJob job{{Direction::Inverse, {}, nullptr, false},
+        GeorefJob job{{Operation::Inverse, {}, nullptr, false},
                       readDecimals(m_precision, usualDecimals),
                       m_strict,
                       filesOrStandardInput(m_files)};

@@ -77,7 +77,7 @@ private:
     }
 
     KnownPoints points() const {
-        ColumnRequest request{Direction::Inverse, {}, nullptr, false};
+        ColumnRequest request{Operation::Inverse, {}, nullptr, false};
         if (!m_columns.empty())
             request.columns = parseColumns(m_columns, false);
         auto const given = readPoints(m_file, request, mostPoints);
@@ -109,7 +109,7 @@ private:
 
     /// Of lines that both files have a point on.
     KnownPoints pairs(std::vector<std::optional<PROJPOINT>> const& given) const {
-        auto const known = readPoints(m_like, {Direction::Forward, {}, nullptr, false}, mostPoints);
+        auto const known = readPoints(m_like, {Operation::Forward, {}, nullptr, false}, mostPoints);
         if (known.size() != given.size())
             throw std::runtime_error(inQuotes(m_file) + " has " + std::to_string(given.size()) + " points, and " +
                                      inQuotes(m_like) + " has " + std::to_string(known.size()));

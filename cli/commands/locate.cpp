@@ -29,7 +29,7 @@ public:
         ProjectionChoice const choice = this->choice();
         // Image coordinates become map coordinates in the map's own unit.
         LengthUnit const& unit = choice.system && choice.unit ? *choice.unit : lengthUnits.front();
-        ColumnRequest columns{Direction::Inverse, {}, &unit, false};
+        ColumnRequest columns{Operation::Inverse, {}, &unit, false};
         if (!m_columns.empty())
             columns.columns = parseColumns(m_columns, false);
         ConversionJob job;

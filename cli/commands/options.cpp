@@ -303,12 +303,12 @@ struct Names {
     char const *from, *fromText, *to, *toText;
 };
 
-constexpr Names namesOf(Direction direction) {
-    switch (direction) {
-    case Direction::Forward:
+constexpr Names namesOf(Operation operation) {
+    switch (operation) {
+    case Operation::Forward:
         return {"--from-datum", "Datum of the points, if it is another than the map's", "--datum",
                 "Datum of the map, by name, number or POSC code; its ellipsoid is the projection's"};
-    case Direction::Inverse:
+    case Operation::Inverse:
         return {"--datum", "Datum of the map, by name, number or POSC code; its ellipsoid is the projection's",
                 "--to-datum", "Datum of the results, if it is another than the map's"};
     default:
@@ -320,7 +320,7 @@ constexpr Names namesOf(Direction direction) {
 } // namespace
 
 void DatumOptions::addTo(CommandLine line) {
-    Names const names = namesOf(m_direction);
+    Names const names = namesOf(m_operation);
     CommandLine const datums = line.inGroup("Datums");
     datums.option(names.from, m_from, "NAME", names.fromText);
     datums.option(names.to, m_to, "NAME", names.toText);
@@ -336,22 +336,22 @@ std::vector<Datum> DatumOptions::defined() const {
 }
 
 std::optional<DatumShift> DatumOptions::shift() const {
-    Names const names = namesOf(m_direction);
-    if (m_direction == Direction::Datum && (m_from.empty() || m_to.empty()))
+    Names const names = namesOf(m_operation);
+    if (m_operation == Operation::Datum && (m_from.empty() || m_to.empty()))
         throw UsageError("the datums are missing; give --from and --to");
-    std::string const& map = m_direction == Direction::Forward ? m_to : m_from;
-    std::string const& points = m_direction == Direction::Forward ? m_from : m_to;
+    std::string const& map = m_operation == Operation::Forward ? m_to : m_from;
+    std::string const& points = m_operation == Operation::Forward ? m_from : m_to;
     std::vector<Datum> const own = defined();
     if (points.empty())
         return std::nullopt;
     if (map.empty())
-        throw UsageError(std::string(m_direction == Direction::Forward ? names.from : names.to) +
+        throw UsageError(std::string(m_operation == Operation::Forward ? names.from : names.to) +
                          " goes with --datum, the datum of the map");
     return DatumShift{findDatum(m_from, own), findDatum(m_to, own)};
 }
 
 MapDatum DatumOptions::ofMap() const {
-    std::string const& map = m_direction == Direction::Forward ? m_to : m_from;
+    std::string const& map = m_operation == Operation::Forward ? m_to : m_from;
     if (map.empty())
         return {};
     Datum const datum = findDatum(map, defined());

@@ -79,7 +79,7 @@ private:
 /// the points before or after it --from-datum or --to-datum.
 class DatumOptions {
 public:
-    explicit DatumOptions(Direction direction) : m_direction(direction) {}
+    explicit DatumOptions(Operation operation) : m_operation(operation) {}
 
     /// Adds the options to a subcommand. This object must stay where it is until they were parsed.
     void addTo(CommandLine line);
@@ -93,7 +93,7 @@ public:
 private:
     std::vector<Datum> defined() const;
 
-    Direction m_direction;
+    Operation m_operation;
     std::string m_from, m_to; // of them, --datum is the one at the map's end
     std::vector<std::string> m_definitions;
 };

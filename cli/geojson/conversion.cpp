@@ -86,7 +86,7 @@ GeoJsonConversion::GeoJsonConversion(ConversionJob job, bool clip, Output& outpu
     if (clip && m_job.way)
         m_shift.emplace(m_job.way->toPlaces());
     else if (clip && m_job.shift)
-        m_shift.emplace(ProjectionChoice(), Direction::Datum, m_job.shift);
+        m_shift.emplace(ProjectionChoice(), Operation::Datum, m_job.shift);
 }
 
 int GeoJsonConversion::run() {
@@ -133,7 +133,7 @@ void GeoJsonConversion::closeCollection(std::string const& members) {
 void GeoJsonConversion::feature(GeoObject object, std::string const& fault) {
     ++m_number;
     std::string reason = fault;
-    if (reason.empty() && readsAngles(m_job.columns.direction))
+    if (reason.empty() && readsAngles(m_job.columns.operation))
         reason = anglesFault(object);
     if (!reason.empty()) {
         m_report.badLine(m_number, reason);

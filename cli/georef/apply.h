@@ -13,7 +13,7 @@
 namespace ZrProj::Command {
 
 struct GeorefJob {
-    ColumnRequest columns; // plain numbers: those of the inverse direction
+    ColumnRequest columns; // plain numbers: those of Operation::Inverse
     int decimals = 3;
     bool strict = false;            // whether a point that cannot be mapped is a failure
     std::vector<std::string> files; // "-" is standard input

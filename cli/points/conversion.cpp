@@ -32,15 +32,15 @@ void PointBlock::add(BlockPoint const& point) {
     zones.push_back(point.zone);
 }
 
-Transform::Transform(ProjectionChoice choice, Direction direction, std::optional<DatumShift> const& shift)
-    : m_choice(std::move(choice)), m_direction(direction) {
-    if (direction != Direction::Datum && !isDirect())
+Transform::Transform(ProjectionChoice choice, Operation operation, std::optional<DatumShift> const& shift)
+    : m_choice(std::move(choice)), m_operation(operation) {
+    if (operation != Operation::Datum && !isDirect())
         converter(0);
     if (shift)
         m_datum.emplace(*shift);
 }
 
-Transform::Transform(WayPointer way) : m_direction(directionOf(*way)), m_way(std::move(way)) {}
+Transform::Transform(WayPointer way) : m_operation(directionOf(*way)), m_way(std::move(way)) {}
 
 /// Whether an image's coordinates lead to longitudes and latitudes already.
 bool Transform::isDirect() const {
@@ -94,7 +94,7 @@ PointConverter const& Transform::converter(UtmZone zone) const {
 void Transform::convert(UtmZone zone, std::span<PROJPOINT> points, std::span<PointState> states) const {
     if (points.empty())
         return;
-    if (m_direction == Direction::Forward)
+    if (m_operation == Operation::Forward)
         converter(zone).forward(points, states);
     else
         converter(zone).inverse(points, states);
@@ -102,7 +102,7 @@ void Transform::convert(UtmZone zone, std::span<PROJPOINT> points, std::span<Poi
 
 /// Sorts the points by zone, converts each zone's, and puts the results back in the points' order.
 void Transform::runByZone(PointBlock& block) const {
-    if (m_direction == Direction::Forward)
+    if (m_operation == Operation::Forward)
         std::transform(block.points.begin(), block.points.end(), block.zones.begin(), utmZoneOf);
     std::vector<std::size_t> order(block.points.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
@@ -164,33 +164,33 @@ void Transform::projectAndShift(PointBlock& block) const {
 void Transform::takeWay(PointBlock& block) const {
     if (m_way)
         m_way->forward(block.points, block.states);
-    else if (m_direction == Direction::Forward)
+    else if (m_operation == Operation::Forward)
         shiftAndProject(block);
-    else if (m_direction == Direction::Inverse)
+    else if (m_operation == Operation::Inverse)
         projectAndShift(block);
     else
         shiftDatum(block);
 }
 
 void Transform::run(PointBlock& block, Units const& units) const {
-    if (!readsAngles(m_direction))
+    if (!readsAngles(m_operation))
         scale(block.points, units.read.metres / unitRead());
     takeWay(block);
-    if (!writesAngles(m_direction))
+    if (!writesAngles(m_operation))
         scale(block.points, unitWritten() / units.written.metres);
 }
 
-Direction directionOf(Way const& way) {
+Operation directionOf(Way const& way) {
     if (way.from().isGeographic())
-        return way.to().isGeographic() ? Direction::Datum : Direction::Forward;
-    return way.to().isGeographic() ? Direction::Inverse : Direction::MapToMap;
+        return way.to().isGeographic() ? Operation::Datum : Operation::Forward;
+    return way.to().isGeographic() ? Operation::Inverse : Operation::MapToMap;
 }
 
 namespace {
 
 /// Where each point has its own zone, the result has it beside the coordinates.
 bool writesZones(ConversionJob const& job) {
-    return job.projection.zonePerPoint && job.columns.direction == Direction::Forward;
+    return job.projection.zonePerPoint && job.columns.operation == Operation::Forward;
 }
 
 class Conversion : public PointWork {
@@ -199,7 +199,7 @@ public:
 
     std::string header(std::string_view line, Layout const& layout) const override {
         std::vector<std::string> added{"longitude", "latitude"};
-        if (!writesAngles(m_job.columns.direction)) {
+        if (!writesAngles(m_job.columns.operation)) {
             std::string const suffix(m_job.units(layout.columns.unit).written.suffix);
             added = {"easting_" + suffix, "northing_" + suffix};
         }
@@ -227,7 +227,7 @@ Units ConversionJob::units(LengthUnit const* ofFile) const {
 }
 
 Transform ConversionJob::transform() const {
-    return way ? Transform(way) : Transform(projection, columns.direction, shift);
+    return way ? Transform(way) : Transform(projection, columns.operation, shift);
 }
 
 int convertPoints(ConversionJob const& job, Output& output) {

@@ -41,8 +41,8 @@ struct Units {
 /// What happens to points. Threads may share a transform.
 class Transform {
 public:
-    /// choice: not looked at for Direction::Datum. Throws UsageError when the projection or the datums cannot convert.
-    Transform(ProjectionChoice choice, Direction direction, std::optional<DatumShift> const& shift);
+    /// choice: not looked at for Operation::Datum. Throws UsageError when the projection or the datums cannot convert.
+    Transform(ProjectionChoice choice, Operation operation, std::optional<DatumShift> const& shift);
     explicit Transform(WayPointer way);
 
     /// Converts a block in place.
@@ -71,20 +71,20 @@ private:
     void takeWay(PointBlock& block) const;
 
     ProjectionChoice m_choice;
-    Direction m_direction;
+    Operation m_operation;
     mutable std::array<Converter, utmZones> m_converters; // the first one only, without zones
     std::optional<DatumConverter> m_datum;                // none: points stay on theirs
     std::optional<PointConverter> m_way;                  // in place of all of these; none where they do it
 };
 
 /// What becomes of coordinates between the columns that are read and those that are written.
-Direction directionOf(Way const& way);
+Operation directionOf(Way const& way);
 
 struct ConversionJob {
-    ProjectionChoice projection{}; // not for Direction::Datum
+    ProjectionChoice projection{}; // not for Operation::Datum
     std::optional<DatumShift> shift{};
     WayPointer way{};                 // in place of both; null where they tell it
-    ColumnRequest columns{};          // with the direction
+    ColumnRequest columns{};          // with the operation
     LengthUnit const* unit = nullptr; // of projected results, as --units says it; null where not given
     int decimals = 0;
     bool strict = false;

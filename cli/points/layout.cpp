@@ -75,11 +75,11 @@ bool isLength(Name const& name, LengthUnit const* wanted) {
 }
 
 /// The leftmost column of a meaning, or -1.
-int find(std::span<std::string const> names, Meaning meaning, Direction direction, LengthUnit const* unit) {
+int find(std::span<std::string const> names, Meaning meaning, Operation operation, LengthUnit const* unit) {
     for (std::size_t i = 0; i < names.size(); ++i) {
         Name const name = splitName(names[i]);
         bool const fits = meaning == Meaning::Zone ? name.rest.empty()
-                          : readsAngles(direction) ? isAngle(name)
+                          : readsAngles(operation) ? isAngle(name)
                                                    : isLength(name, unit);
         if (fits && means(name, meaning))
             return static_cast<int>(i);
@@ -93,18 +93,18 @@ LengthUnit const* unitOfColumn(std::string_view name) {
     return findLengthUnit(splitName(name).rest);
 }
 
-std::optional<Columns> findColumns(std::span<std::string const> names, Direction direction, LengthUnit const* unit) {
+std::optional<Columns> findColumns(std::span<std::string const> names, Operation operation, LengthUnit const* unit) {
     std::span<Pair const> const pairs =
-        readsAngles(direction) ? std::span<Pair const>(forwardPairs) : std::span<Pair const>(inversePairs);
+        readsAngles(operation) ? std::span<Pair const>(forwardPairs) : std::span<Pair const>(inversePairs);
     for (Pair const& pair : pairs) {
-        int const x = find(names, pair.x, direction, unit);
-        int const y = find(names, pair.y, direction, unit);
+        int const x = find(names, pair.x, operation, unit);
+        int const y = find(names, pair.y, operation, unit);
         if (x < 0 || y < 0)
             continue;
         LengthUnit const* const found = unitOfColumn(names[static_cast<std::size_t>(x)]);
         if (found != unitOfColumn(names[static_cast<std::size_t>(y)]))
             return std::nullopt;
-        return Columns{x, y, find(names, Meaning::Zone, direction, unit), found};
+        return Columns{x, y, find(names, Meaning::Zone, operation, unit), found};
     }
     return std::nullopt;
 }
@@ -179,7 +179,7 @@ std::string_view Candidate::at(int column) const {
 }
 
 bool Candidate::reads(std::string_view text, bool isX) const {
-    return text == noCoordinate || !readCoordinate(text, isX, m_request.direction).error;
+    return text == noCoordinate || !readCoordinate(text, isX, m_request.operation).error;
 }
 
 Recognition Candidate::recognise() const {
@@ -190,7 +190,7 @@ Recognition Candidate::recognise() const {
 
 /// The line as a header with these columns, if their units agree with each other and with --units.
 Recognition Candidate::header(Columns columns) const {
-    if (!readsAngles(m_request.direction)) {
+    if (!readsAngles(m_request.operation)) {
         columns.unit = unitOfColumn(at(columns.x));
         if (columns.unit != unitOfColumn(at(columns.y)))
             return faulty("the columns of easting and northing have different units");
@@ -230,7 +230,7 @@ Recognition Candidate::numbered() const {
 
 /// The line as a header whose names tell the columns.
 Recognition Candidate::found() const {
-    if (auto const columns = findColumns(m_texts, m_request.direction, m_request.unit))
+    if (auto const columns = findColumns(m_texts, m_request.operation, m_request.unit))
         return header(*columns);
     Recognition result = unclear();
     if (m_texts.size() > 1 && std::all_of(m_texts.begin(), m_texts.end(), looksLikeName))
@@ -241,7 +241,7 @@ Recognition Candidate::found() const {
 std::string Candidate::missingPair() const {
     std::string const unit = m_request.unit ? " in " + std::string(m_request.unit->words) : "";
     return "the header has no columns " +
-           (readsAngles(m_request.direction) ? R"("longitude" and "latitude")" : R"("easting" and "northing")" + unit) +
+           (readsAngles(m_request.operation) ? R"("longitude" and "latitude")" : R"("easting" and "northing")" + unit) +
            "; name them with --columns";
 }
 

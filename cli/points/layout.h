@@ -13,8 +13,8 @@
 
 namespace ZrProj::Command {
 
-/// What a conversion does with its points.
-enum class Direction {
+/// What becomes of points.
+enum class Operation {
     Forward,  // longitudes and latitudes to map coordinates
     Inverse,  // map coordinates to longitudes and latitudes
     Datum,    // longitudes and latitudes to those of another datum
@@ -22,13 +22,13 @@ enum class Direction {
 };
 
 /// Whether the points come as longitudes and latitudes.
-constexpr bool readsAngles(Direction direction) {
-    return direction == Direction::Forward || direction == Direction::Datum;
+constexpr bool readsAngles(Operation operation) {
+    return operation == Operation::Forward || operation == Operation::Datum;
 }
 
 /// Whether the results are longitudes and latitudes.
-constexpr bool writesAngles(Direction direction) {
-    return direction == Direction::Inverse || direction == Direction::Datum;
+constexpr bool writesAngles(Operation operation) {
+    return operation == Operation::Inverse || operation == Operation::Datum;
 }
 
 /// Columns by their index, from 0. An absent zone column is -1.
@@ -43,7 +43,7 @@ struct Columns {
 /// coordinates easting and northing, or x and y; the leftmost ones where several fit. Names may carry a unit:
 /// "easting_us_ft", "Longitude (deg)". With `unit` only columns of that unit, or without one, are taken. Nothing when
 /// there is no pair, and when its two units differ.
-std::optional<Columns> findColumns(std::span<std::string const> names, Direction direction, LengthUnit const* unit);
+std::optional<Columns> findColumns(std::span<std::string const> names, Operation operation, LengthUnit const* unit);
 
 /// The unit at the end of a column's name, null for none.
 LengthUnit const* unitOfColumn(std::string_view name);
@@ -51,22 +51,22 @@ LengthUnit const* unitOfColumn(std::string_view name);
 /// Stands for both coordinates of a point that has none.
 inline constexpr std::string_view noCoordinate = "*";
 
-/// Reads a longitude or latitude, or an easting or northing, whichever the direction reads.
-inline Reading readCoordinate(std::string_view field, bool isX, Direction direction) {
-    if (!readsAngles(direction))
+/// Reads a longitude or latitude, or an easting or northing, whichever the operation reads.
+inline Reading readCoordinate(std::string_view field, bool isX, Operation operation) {
+    if (!readsAngles(operation))
         return readNumber(field);
     return readAngle(field, isX ? Axis::Longitude : Axis::Latitude);
 }
 
-inline std::string_view coordinateName(bool isX, Direction direction) {
-    if (!readsAngles(direction))
+inline std::string_view coordinateName(bool isX, Operation operation) {
+    if (!readsAngles(operation))
         return isX ? "easting" : "northing";
     return isX ? "longitude" : "latitude";
 }
 
 /// What the user says about the columns.
 struct ColumnRequest {
-    Direction direction = Direction::Forward;
+    Operation operation = Operation::Forward;
     std::vector<std::string> columns; // of --columns: numbers from 1, or names; empty where not given
     LengthUnit const* unit = nullptr; // of the coordinates read, where --units says it; else null
     bool zone = false;                // whether a zone column is needed

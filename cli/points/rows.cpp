@@ -56,9 +56,9 @@ bool RowReader::takeCoordinate(Row const& row, bool isX, RowPoint& result) {
         result.point.state = PointState::Marked;
         return false;
     }
-    Reading const reading = readCoordinate(field, isX, m_direction);
+    Reading const reading = readCoordinate(field, isX, m_operation);
     if (reading.error) {
-        result.fault = std::string(coordinateName(isX, m_direction)) + (field.empty() ? "" : ' ' + inQuotes(field)) +
+        result.fault = std::string(coordinateName(isX, m_operation)) + (field.empty() ? "" : ' ' + inQuotes(field)) +
                        ' ' + reading.error;
         return false;
     }

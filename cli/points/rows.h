@@ -33,7 +33,7 @@ struct RowPoint {
 class RowReader {
 public:
     RowReader(Layout layout, ColumnRequest const& request)
-        : m_layout(layout), m_direction(request.direction), m_zone(request.zone) {}
+        : m_layout(layout), m_operation(request.operation), m_zone(request.zone) {}
 
     /// Finds a line's fields, sets where its coordinates stand, and reads them.
     RowPoint read(Row& row);
@@ -45,7 +45,7 @@ private:
     void readZone(Row const& row, RowPoint& result);
 
     Layout m_layout;
-    Direction m_direction;
+    Operation m_operation;
     bool m_zone; // whether a zone is to be read
     std::vector<Field> m_fields;
     std::string m_scratch;

@@ -141,29 +141,29 @@ TEST(ProjectionOptions, ThatContradictEachOtherAreBothNamed) {
     EXPECT_EQ(choice({"--state-plane", "wyoming east"}, nad27).record.Type, ProjTypeStatePlane1927);
 }
 
-std::optional<DatumShift> shift(Direction direction, std::vector<std::string> const& words) {
-    return Given<DatumOptions>(words, direction).options.shift();
+std::optional<DatumShift> shift(Operation operation, std::vector<std::string> const& words) {
+    return Given<DatumOptions>(words, operation).options.shift();
 }
 
 TEST(DatumOptions, TheDatumOfTheMapStandsAtTheMapsEnd) {
-    auto const forward = shift(Direction::Forward, {"--from-datum", "wgs84", "--datum", "nad27"});
-    auto const inverse = shift(Direction::Inverse, {"--to-datum", "wgs84", "--datum", "nad27"});
+    auto const forward = shift(Operation::Forward, {"--from-datum", "wgs84", "--datum", "nad27"});
+    auto const inverse = shift(Operation::Inverse, {"--to-datum", "wgs84", "--datum", "nad27"});
     ASSERT_TRUE(forward && inverse);
     EXPECT_EQ(forward->to.type, DatumTypeNorthAmericanDatum1927);
     EXPECT_EQ(inverse->from.type, DatumTypeNorthAmericanDatum1927);
     EXPECT_EQ(inverse->to.type, DatumTypeWorldGeodeticSystem1984);
-    EXPECT_FALSE(shift(Direction::Forward, {"--datum", "nad27"}));
-    Given<DatumOptions> const map({"--datum", "nad27"}, Direction::Forward);
+    EXPECT_FALSE(shift(Operation::Forward, {"--datum", "nad27"}));
+    Given<DatumOptions> const map({"--datum", "nad27"}, Operation::Forward);
     EXPECT_EQ(map.options.ofMap().figure.ellipsoid, EllipsoidTypeClarke1866);
 }
 
 TEST(DatumOptions, WhatIsMissing) {
     EXPECT_EQ(messageOf<UsageError>([] {
-                  shift(Direction::Datum, {"--from", "nad27"});
+                  shift(Operation::Datum, {"--from", "nad27"});
               }),
               "the datums are missing; give --from and --to");
     EXPECT_EQ(messageOf<UsageError>([] {
-                  shift(Direction::Inverse, {"--to-datum", "nad27"});
+                  shift(Operation::Inverse, {"--to-datum", "nad27"});
               }),
               "--to-datum goes with --datum, the datum of the map");
 }

@@ -12,11 +12,11 @@ struct Converted {
     int status = 0;
 };
 
-ConversionJob sinusoidal(Direction direction = Direction::Forward) {
+ConversionJob sinusoidal(Operation operation = Operation::Forward) {
     ConversionJob job;
     job.projection.record.Type = ProjTypeSinusoidal;
     job.projection.record.Ellipsoid = EllipsoidTypeStandardSphereOf6370997Meters;
-    job.columns.direction = direction;
+    job.columns.operation = operation;
     return job;
 }
 
@@ -80,7 +80,7 @@ TEST(GeoJsonConversion, KeepsEveryKindAndWhatPositionsHaveBesides) {
 }
 
 TEST(GeoJsonConversion, EmptiesAGeometryOfWhichAPointHasNoResult) {
-    ConversionJob job = sinusoidal(Direction::Inverse);
+    ConversionJob job = sinusoidal(Operation::Inverse);
     std::string const two = geometry("MultiPoint", "[[0,111195],[9e7,0]]");
     Converted done = convert(job, false, feature(two) + two);
     EXPECT_EQ(done.text, feature("null") + geometry("MultiPoint", "[]") + "\n");
@@ -103,7 +103,7 @@ TEST(GeoJsonConversion, LeavesAFeatureWithBadAnglesWithoutGeometry) {
         }
     }
     // On the map they are eastings and northings.
-    EXPECT_EQ(convert(sinusoidal(Direction::Inverse), false, geometry("Point", "[0,111195]")).told, "");
+    EXPECT_EQ(convert(sinusoidal(Operation::Inverse), false, geometry("Point", "[0,111195]")).told, "");
 }
 
 TEST(GeoJsonConversion, CutsLinesAndAreasIntoSeveral) {

@@ -57,7 +57,7 @@ TEST(Layout, ForwardWithoutOptions) {
 }
 
 TEST(Layout, InverseKnowsUnitsAndNeverTakesLongitudes) {
-    ColumnRequest const request{Direction::Inverse, {}, nullptr, false};
+    ColumnRequest const request{Operation::Inverse, {}, nullptr, false};
     for (Case const& c : {Case{"longitude,latitude,easting_m,northing_m", ",h23 m"},
                           {"E,N", ",h01"},
                           {"Easting (ft),Northing (ft)", ",h01 ft"},
@@ -67,33 +67,33 @@ TEST(Layout, InverseKnowsUnitsAndNeverTakesLongitudes) {
                           {"lon,lat", "!"},
                           {"x,y", ",h01"}})
         EXPECT_EQ(layoutOf(c.line, request), c.layout) << c.line;
-    ColumnRequest const inFeet{Direction::Inverse, {}, feet, false};
+    ColumnRequest const inFeet{Operation::Inverse, {}, feet, false};
     EXPECT_EQ(layoutOf("easting_m,northing_m,easting_us_ft,northing_us_ft", inFeet), ",h23 us-ft");
     EXPECT_EQ(layoutOf("easting_m,northing_m", inFeet), "!");
 }
 
 TEST(Layout, ColumnsByNumberAndByName) {
-    ColumnRequest const numbers{Direction::Forward, {"3", "1"}, nullptr, false};
+    ColumnRequest const numbers{Operation::Forward, {"3", "1"}, nullptr, false};
     EXPECT_EQ(layoutOf("43,x,-79", numbers), ",20");
     EXPECT_EQ(layoutOf("b,x,a", numbers), ",h20");
     EXPECT_EQ(layoutOf("43,x,a", numbers), "?");
-    ColumnRequest const byName{Direction::Inverse, {"Rechts Wert", "hoch"}, nullptr, false};
+    ColumnRequest const byName{Operation::Inverse, {"Rechts Wert", "hoch"}, nullptr, false};
     EXPECT_EQ(layoutOf("hoch;rechts_wert", byName), ";h10");
     EXPECT_EQ(layoutOf("hoch;hoch;rechts_wert", byName), "!");
     EXPECT_EQ(
-        layoutOf("\u7def\u5ea6,\u7d4c\u5ea6", {Direction::Forward, {"\u7d4c\u5ea6", "\u7def\u5ea6"}, nullptr, false}),
+        layoutOf("\u7def\u5ea6,\u7d4c\u5ea6", {Operation::Forward, {"\u7d4c\u5ea6", "\u7def\u5ea6"}, nullptr, false}),
         ",h10");
     EXPECT_EQ(layoutOf("1;2", byName), "!");
-    ColumnRequest const unlikeUnits{Direction::Inverse, {"a_m", "b_ft"}, nullptr, false};
+    ColumnRequest const unlikeUnits{Operation::Inverse, {"a_m", "b_ft"}, nullptr, false};
     EXPECT_EQ(layoutOf("a_m,b_ft", unlikeUnits), "!");
-    EXPECT_EQ(layoutOf("a_m,b_m", {Direction::Inverse, {"1", "2"}, feet, false}), "!");
+    EXPECT_EQ(layoutOf("a_m,b_m", {Operation::Inverse, {"1", "2"}, feet, false}), "!");
 }
 
 TEST(Layout, ZonesHaveAColumn) {
-    EXPECT_EQ(layoutOf("1,2,17N", {Direction::Inverse, {}, nullptr, true}), ",012");
-    EXPECT_EQ(layoutOf("zone,e,n", {Direction::Inverse, {}, nullptr, true}), ",h120");
-    EXPECT_EQ(layoutOf("e,n", {Direction::Inverse, {}, nullptr, true}), "!");
-    EXPECT_EQ(layoutOf("17N,1,2", {Direction::Inverse, {"2", "3", "1"}, nullptr, true}), ",120");
+    EXPECT_EQ(layoutOf("1,2,17N", {Operation::Inverse, {}, nullptr, true}), ",012");
+    EXPECT_EQ(layoutOf("zone,e,n", {Operation::Inverse, {}, nullptr, true}), ",h120");
+    EXPECT_EQ(layoutOf("e,n", {Operation::Inverse, {}, nullptr, true}), "!");
+    EXPECT_EQ(layoutOf("17N,1,2", {Operation::Inverse, {"2", "3", "1"}, nullptr, true}), ",120");
 }
 
 TEST(Layout, ColumnsOption) {

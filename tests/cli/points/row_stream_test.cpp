@@ -38,7 +38,7 @@ Results run(std::vector<std::string> const& files, int threads, PointWork const&
     TemporaryDirectory const directory;
     int const descriptor = open(directory.file("out").c_str(), O_WRONLY | O_CREAT, 0600);
     Output output(descriptor);
-    ColumnRequest const columns{Direction::Inverse, {}, nullptr, false};
+    ColumnRequest const columns{Operation::Inverse, {}, nullptr, false};
     int const status = RowStream(work, {files, columns, threads}, RowWriter(0, false), output).run(true);
     close(descriptor);
     return {fileBytes(directory.file("out")), status};

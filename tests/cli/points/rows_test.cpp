@@ -63,7 +63,7 @@ TEST(Rows, WhatIsWrongWithALine) {
 }
 
 TEST(Rows, ZonesStandInTheirColumn) {
-    ColumnRequest const request{Direction::Inverse, {}, nullptr, true};
+    ColumnRequest const request{Operation::Inverse, {}, nullptr, true};
     Layout const layout = layoutOf("1,2,17N", request);
     EXPECT_EQ(read("1,2, utm 33 s", layout, request).point.point.zone, utmZone(33, true));
     EXPECT_EQ(read("1,2,33U", layout, request).point.fault, "zone \"33U\" is not 1 to 60 with N or S");
@@ -72,7 +72,7 @@ TEST(Rows, ZonesStandInTheirColumn) {
 TEST(Rows, WithoutAHeaderTheResultTakesTheCoordinatesPlace) {
     EXPECT_EQ(written("-79.3, 43.6 , \"a, \"\"b\"\"\" ", layoutOf("1,2")), "1.0, 2.0 , \"a, \"\"b\"\"\" \n");
     EXPECT_EQ(written("  -79\t 43  Toronto", layoutOf("1 2")), "  1.0\t 2.0  Toronto\n");
-    EXPECT_EQ(written("a;43;b;-79", layoutOf("a;43;b;-79", {Direction::Forward, {"4", "2"}, nullptr, false})),
+    EXPECT_EQ(written("a;43;b;-79", layoutOf("a;43;b;-79", {Operation::Forward, {"4", "2"}, nullptr, false})),
               "a;2.0;b;1.0\n");
     EXPECT_EQ(written("-79,43,x", layoutOf("1,2"), PointState::Good, true), "1.0,2.0,17N,x\n");
     EXPECT_EQ(written("-79", layoutOf("1,2"), PointState::Unread), "*,*\n");
