@@ -23,7 +23,7 @@ class Chords {
 public:
     Chords(Placing const& placing, CurveRules const& rules) : m_placing(placing), m_rules(rules) {}
 
-    /// Adds the edge but for its end.
+    /// Adds the segment but for its end.
     void add(Knot const& from, Knot const& to);
     std::vector<MapPoint> points;
 
@@ -58,7 +58,7 @@ void Chords::divide(Knot const& from, Knot const& to, int depth) {
     if (depth == deepest || std::hypot(to.point.x - from.point.x, to.point.y - from.point.y) < m_rules.tolerance)
         return;
     auto const a = between(from, to, 0.25), b = between(from, to, 0.5), c = between(from, to, 0.75);
-    if (!a || !b || !c) // beside a horizon, by the width of the straight edge
+    if (!a || !b || !c) // beside a horizon, by the width of what a chord cuts off
         return;
     auto const off = [&](Knot const& knot) { return distanceFrom(from.point, to.point, knot.point); };
     if (std::max({off(*a), off(*b), off(*c)}) < m_rules.tolerance ||
@@ -126,7 +126,8 @@ struct Range {
     double from = 0, to = 1;
 };
 
-/// Where an edge enters the box and where it leaves it, as parts of its length; from > to when it stays outside.
+/// Where a straight line enters the box and where it leaves it, as parts of its length; from > to when it stays
+/// outside.
 Range rangeInside(MapPoint const& a, MapPoint const& b, MapBox const& box) {
     auto const deepA = depths(a, box), deepB = depths(b, box);
     Range range;

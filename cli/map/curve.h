@@ -27,16 +27,16 @@ using Placing = std::function<std::optional<MapPoint>(PROJPOINT)>;
 /// How far a point is from the straight line between a and b.
 double distanceFrom(MapPoint const& a, MapPoint const& b, MapPoint const& p);
 
-/// A line, or, if closed, a ring, of edges that are straight in longitude and latitude, as chords on the paper. `ends`
-/// are the places put on the paper, NaN for those that are not there, which are left out. The closing chord's end is
-/// not repeated.
+/// A line, or, if closed, a ring, of segments that are straight in longitude and latitude, as chords on the paper.
+/// `ends` are the places put on the paper, NaN for those that are not there, which are left out. The closing chord's
+/// end is not repeated.
 std::vector<MapPoint> chordsOf(std::span<PROJPOINT const> places, std::span<MapPoint const> ends, bool closed,
                                Placing const& placing, CurveRules const& rules);
 
 /// The pieces of a line inside a box.
 std::vector<std::vector<MapPoint>> clipLine(std::span<MapPoint const> line, MapBox const& box);
 
-/// The part of a ring inside a box, as one ring, whose pieces are joined along the box's edges; for filling. After
+/// The part of a ring inside a box, as one ring, whose pieces are joined along the box's sides; for filling. After
 /// Sutherland and Hodgman, Reentrant Polygon Clipping, 1974.
 std::vector<MapPoint> clipRing(std::vector<MapPoint> ring, MapBox const& box);
 

@@ -10,10 +10,10 @@
 
 namespace ZrProj::formulas::ZRPROJ_LEVEL {
 
-/// How near a place may come to a singular point of the sphere, in radians: maps show it from `edge` on, answer from
+/// How near a place may come to a singular point of the sphere, in radians: maps show it from `closest` on, answer from
 /// twice as far, and promise it from four times as far, so that what is promised comes back and what is answered is
 /// shown.
-inline constexpr double edge = 1e-14;
+inline constexpr double closest = 1e-14;
 
 /// A place on the sphere by its directions from the centre: to the east, to the north, and out of the ground.
 template <class R> struct Place { R east, north, up; };
@@ -48,7 +48,7 @@ template <class R> struct HalfwayScale {
 
 template <class R> HalfwayScale<R> halfwayScale(Place<R> p) {
     R const sine2 = p.east * p.east + p.north * p.north;
-    Condition<R> const far = p.up < 0.0, antipode = far & (sine2 < edge * edge);
+    Condition<R> const far = p.up < 0.0, antipode = far & (sine2 < closest * closest);
     R const divisor = select(antipode, R(1.0), select(far, sine2, 1.0 + p.up));
     return {select(far, 1.0 - p.up, R(1.0)) / divisor, antipode};
 }
@@ -63,7 +63,7 @@ inline Place<double> placeInDegrees(double lat1, double lon1, PROJPOINT const& p
 /// Whether a point is well clear of the antipode of a centre; degrees.
 inline bool isClearOfAntipode(double lat1, double lon1, PROJPOINT const& point) {
     auto const p = placeInDegrees(lat1, lon1, point);
-    return p.up > 0 || std::hypot(p.east, p.north) > 4 * edge;
+    return p.up > 0 || std::hypot(p.east, p.north) > 4 * closest;
 }
 
 } // namespace ZrProj::formulas::ZRPROJ_LEVEL

@@ -35,14 +35,14 @@ struct ObliqueCylinder {
     template <class R> AlongAcross<R> forward(SinCos<R> phi, R theta) const {
         auto const p = pole.place(phi, theta);
         R const cosine = sqrt(p.east * p.east + p.north * p.north);
-        auto const shown = cosine > edge;
+        auto const shown = cosine > closest;
         R const across = isometric(SinCos<R>{p.up, select(shown, cosine, R(1.0))}); // (9-4), (9-30)
         return {atan2(p.north, p.east), select(shown, across, R(unplottable))};     // (9-3), (9-31)
     }
 
     /// Of length 1.
     template <class R> OnObliqueCylinder<R> inverse(AlongAcross<R> p) const {
-        constexpr double farthest = 32.23619130191664; // log(2 / (2 edge))
+        constexpr double farthest = 32.23619130191664; // log(2 / (2 closest))
         Condition<R> const inside = (abs(p.along) <= pi * (1 + coordinateNoise)) & (abs(p.across) <= farthest);
         auto const at = sinCos(select(inside, p.along, R(0.0)));
         auto const up = mercatorLatitude(select(inside, p.across, R(0.0)));

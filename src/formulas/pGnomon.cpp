@@ -22,13 +22,13 @@ struct Gnomonic {
 
     template <class R> Xy<R> forward(LonLat<R> p) const {
         auto const at = centre.place(sinCos(p.lat), longitudeFrom(lambda0, p.lon));
-        auto const shown = at.up > edge;
+        auto const shown = at.up > closest;
         R const k = radius / select(shown, at.up, R(1.0));                 // (22-3)
         return {select(shown, k * at.east, R(unplottable)), k * at.north}; // (22-4), (22-5)
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
-        constexpr double farthest = 1 / (2 * edge); // tan c
+        constexpr double farthest = 1 / (2 * closest); // tan c
         double const reach = 10 * farthest * radius;
         R const X = clamped(p.x, -reach, reach) / radius, Y = clamped(p.y, -reach, reach) / radius;
         auto const q = centre.onSphere(Place<R>{X, Y, R(1.0)});
@@ -43,7 +43,7 @@ void prepare(Converter& converter, Parameters const& given) noexcept {
 }
 
 bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
-    return placeInDegrees(given.lat1, given.lon0, point).up > 4 * edge;
+    return placeInDegrees(given.lat1, given.lon0, point).up > 4 * closest;
 }
 
 MapEdges edges(ParametersInDegrees const& given) noexcept {

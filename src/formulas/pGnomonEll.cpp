@@ -56,13 +56,13 @@ struct EllipsoidalGnomonic {
         auto const line = geodesics.line(course.alpha1);
         R const tau12 = course.length / line.A1;
         auto const spread = spreadAt(line, geodesics.series.end(line, tau12));
-        auto const shown = (spread.M12 > edge) & (tau12 < 2.0);
+        auto const shown = (spread.M12 > closest) & (tau12 < 2.0);
         R const rho = b * spread.m12 / select(shown, spread.M12, R(1.0));
         return {select(shown, copySign(rho * course.alpha1.sin, lambda), R(unplottable)), rho * course.alpha1.cos};
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
-        constexpr double farthest = 1 / (2 * edge);
+        constexpr double farthest = 1 / (2 * closest);
         double const reach = 10 * farthest * b;
         R const x = abs(clamped(p.x, -reach, reach)) / b, y = clamped(p.y, -reach, reach) / b;
         R const rho = sqrt(x * x + y * y);
@@ -89,7 +89,7 @@ void prepare(Converter& converter, Parameters const& given) noexcept {
 
 /// Well within the horizon, which lies up to 90 f degrees on either side of where it is on a sphere.
 double heightOfHorizon(ParametersInDegrees const& given) {
-    return 4 * given.f + 4 * edge;
+    return 4 * given.f + 4 * closest;
 }
 
 bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {

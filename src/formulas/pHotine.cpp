@@ -27,7 +27,7 @@ namespace {
 /// Of an angle; the cosine of a right angle is 0.
 SinCos<double> exactSinCos(double angle) {
     double const cosine = std::cos(angle);
-    return {std::sin(angle), std::fabs(cosine) < edge ? 0 : cosine};
+    return {std::sin(angle), std::fabs(cosine) < closest ? 0 : cosine};
 }
 
 /// The line, by the longitude where it crosses the sphere's equator and its azimuth at the centre.
@@ -60,7 +60,7 @@ Line lineOfPoints(GaussSphere const& sphere, Parameters const& given) {
     Line line{given.lon1 + half + std::atan2(side * x, -side * y) / sphere.B, sphere.D * side * z / length, 0, true};
     double const square = (1 - line.sinAlpha) * (1 + line.sinAlpha); // (9-24)
     line.cosAlpha = square > 0 ? std::sqrt(square) : 0;
-    line.defined = length > edge && std::fabs(line.sinAlpha) <= 1 + edge && areLatitudes(given.lat1, given.lat2);
+    line.defined = length > closest && std::fabs(line.sinAlpha) <= 1 + closest && areLatitudes(given.lat1, given.lat2);
     return line;
 }
 
@@ -68,7 +68,7 @@ Line lineOfPoints(GaussSphere const& sphere, Parameters const& given) {
 /// meridians where it closes are one curve, which stands for the eastern one. How far east of it, on the sphere, a
 /// place counts as on it.
 double seamOf(GaussSphere const& sphere) {
-    return sphere.B > 1 ? 4 * edge : -1;
+    return sphere.B > 1 ? 4 * closest : -1;
 }
 
 template <class R> Condition<R> isWest(R L, R cosine, double seam) {
@@ -153,7 +153,7 @@ bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noex
     auto const onSphere = mercatorLatitude(at.sphere.isometricOn(phi));
     auto const p = at.cylinder.pole.place(onSphere, L + halfPi);
     bool const covered = (isWest(L, onSphere.cos, seamOf(at.sphere)) || L > pi) && std::fabs(point.y) < 90;
-    return !covered && std::hypot(p.east, p.north) > 4 * edge;
+    return !covered && std::hypot(p.east, p.north) > 4 * closest;
 }
 
 bool offsetSplitObject(ParametersInDegrees const& given, PROJPOINT const* points, unsigned count, double* out1,

@@ -37,8 +37,8 @@ struct Krovak {
         auto const on = sphere.forward(p);
         auto const at = axis.place(on.place.phi, on.place.theta);
         R const cosT = sqrt(at.east * at.east + at.north * at.north);
-        auto const polar = cosT <= edge;
-        R const psi = isometric(SinCos<R>{at.up, select(polar, R(edge), cosT)});
+        auto const polar = cosT <= closest;
+        R const psi = isometric(SinCos<R>{at.up, select(polar, R(closest), cosT)});
         auto const theta = sinCos(n * atan2(0.0 - at.east, -at.north)); // the cut itself is on one side at any level
         R const r = r0 * exp(n * (psiP - psi));
         return {select(on.covered | (polar & (at.up < 0.0)), R(unplottable), -r * theta.sin), -r * theta.cos};
@@ -123,7 +123,7 @@ bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noex
     CentredFrame const axis{std::cos(given.coLatitude * degree), std::sin(given.coLatitude * degree)};
     auto const at = axis.place(mercatorLatitude(gauss.isometricOn(point.y * degree)), L);
     bool const covered = std::fabs(L) > pi && std::fabs(point.y) < 90;
-    return !covered && (at.up > 0 || std::hypot(at.east, at.north) > 4 * edge);
+    return !covered && (at.up > 0 || std::hypot(at.east, at.north) > 4 * closest);
 }
 
 /// A square about the bent map's middle, within the map.

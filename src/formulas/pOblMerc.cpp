@@ -28,8 +28,8 @@ struct NorthernPole {
         double const y = phi1.sin * phi2.cos * turn.cos - phi1.cos * phi2.sin; // the first point's meridian
         double const z = phi1.cos * phi2.cos * turn.sin;
         double const length = std::sqrt(x * x + y * y + z * z);
-        double const up = z > edge ? 1 : -1; // a meridian's pole, on the equator, is the one that (9-7) gives
-        defined = length > edge && areLatitudes(one.lat, two.lat);
+        double const up = z > closest ? 1 : -1; // a meridian's pole, on the equator, is the one that (9-7) gives
+        defined = length > closest && areLatitudes(one.lat, two.lat);
         lambda = one.lon + std::atan2(up * y, up * x);
         sin = up * z / length;
         cos = std::hypot(x, y) / length;
@@ -70,7 +70,7 @@ bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noex
     NorthernPole const pole = poleOf(given);
     double const theta = longitudeFrom(pole.lambda, point.x * degree);
     auto const p = CentredFrame{pole.sin, pole.cos}.place(sinCos(point.y * degree), theta);
-    return std::hypot(p.east, p.north) > 4 * edge;
+    return std::hypot(p.east, p.north) > 4 * closest;
 }
 
 MapEdges edges(ParametersInDegrees const& given) noexcept {

@@ -40,7 +40,7 @@ struct Orthographic {
         auto const at = centre.place(phi, longitudeFrom(lambda0, p.lon));
         R const nu = 1.0 / sqrt(1.0 - e2 * phi.sin * phi.sin);
         R const N = nu * (at.north - e2 * centre.cos1 * phi.sin) + shift;
-        return {select(at.up < -edge, R(unplottable), a * nu * at.east), a * N};
+        return {select(at.up < -closest, R(unplottable), a * nu * at.east), a * N};
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
@@ -60,7 +60,7 @@ void prepare(Converter& converter, Parameters const& given) noexcept {
 }
 
 bool inProjection(ParametersInDegrees const& given, PROJPOINT const& point) noexcept {
-    return placeInDegrees(given.lat0, given.lon0, point).up > -edge / 2;
+    return placeInDegrees(given.lat0, given.lon0, point).up > -closest / 2;
 }
 
 MapEdges edges(ParametersInDegrees const& given) noexcept {

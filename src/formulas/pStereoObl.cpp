@@ -32,7 +32,7 @@ struct ObliqueStereographic {
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
-        constexpr double farthest = 1 / edge; // tan(c / 2), 2 edge from the antipode
+        constexpr double farthest = 1 / closest; // tan(c / 2), 2 closest from the antipode
         double const reach = 10 * farthest * size;
         R const X = clamped(p.x, -reach, reach) / size, Y = clamped(p.y, -reach, reach) / size;
         R const r2 = X * X + Y * Y, scale = 1.0 / (1.0 + r2);

@@ -42,7 +42,7 @@ bool isFilled(Paths const& rings, PROJPOINT p) {
     return in;
 }
 
-/// Whether two rings have an edge, or a part of one, on the same meridian.
+/// Whether two rings have a segment, or a part of one, on the same meridian.
 bool shareAMeridian(Paths const& rings, double lon) {
     std::vector<std::pair<double, double>> spans;
     for (Path const& ring : rings)
@@ -80,7 +80,7 @@ TEST(GeoJsonClip, HolesOverTheEdgeLeaveWhatIsBetweenThem) {
     }
 }
 
-/// The longest edge along a meridian.
+/// The longest segment along a meridian.
 double longestOn(double lon, Paths const& rings) {
     double longest = 0;
     for (Path const& ring : rings)

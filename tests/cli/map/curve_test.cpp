@@ -153,5 +153,5 @@ TEST(MapSeam, IsNoEdge) {
     ASSERT_EQ(lines.size(), 1U);
     EXPECT_EQ(lines[0].size(), 6U);
     EXPECT_EQ(lines[0].front().x, 5.01);
-    EXPECT_EQ(withoutSeams({ring}, 0.001)[0].size(), ring.size()) << "two edges, where both can be seen";
+    EXPECT_EQ(withoutSeams({ring}, 0.001)[0].size(), ring.size()) << "two sides, where both can be seen";
 }
