@@ -40,7 +40,7 @@ private:
     unsigned long long m_lines = 1;  // and their lines
 };
 
-/// Goes over a source's bytes; all iterators of a source are at the same place.
+/// Goes over a source's bytes; all iterators of a source are at the same byte.
 class ByteIterator {
 public:
     using iterator_category = std::input_iterator_tag;

@@ -79,14 +79,14 @@ Columns ControlsReader::wantedColumns(std::vector<std::string> const& names) con
     Columns result{-1, -1, -1, -1, -1};
     for (std::size_t i = 0; i < m_wanted.size(); ++i) {
         std::string const& wanted = m_wanted[i];
-        auto const place = std::find_if(names.begin(), names.end(),
+        auto const found = std::find_if(names.begin(), names.end(),
                                         [&](std::string const& name) { return squeezed(name) == squeezed(wanted); });
         int number = 0;
         auto const [end, status] = std::from_chars(wanted.data(), wanted.data() + wanted.size(), number);
         if (status == std::errc() && end == wanted.data() + wanted.size() && number > 0)
             result[i] = number - 1;
-        else if (place != names.end())
-            result[i] = static_cast<int>(place - names.begin());
+        else if (found != names.end())
+            result[i] = static_cast<int>(found - names.begin());
         else
             throw UsageError("--columns: " + inQuotes(wanted) +
                              " is neither a number from 1 nor a column of the header");
@@ -216,11 +216,11 @@ bool doSourcesDetermine(TransformMethod method, std::vector<ControlPoint> const&
     return CGeorefTransform(&record).IsCreated();
 }
 
-std::size_t countPlaces(std::vector<ControlPoint> const& controls) {
-    std::set<std::pair<double, double>> places;
+std::size_t countSources(std::vector<ControlPoint> const& controls) {
+    std::set<std::pair<double, double>> sources;
     for (auto const& control : controls)
-        places.emplace(control.source.x, control.source.y);
-    return places.size();
+        sources.emplace(control.source.x, control.source.y);
+    return sources.size();
 }
 
 /// What else keeps controls that are not on one line from determining a map.
@@ -267,7 +267,7 @@ std::string whyNoFit(GeorefMethod const& method, std::vector<ControlPoint> const
         return std::string(method.key) + " needs " + std::to_string(method.needed) + " control points, there are " +
                std::to_string(controls.size());
     std::string const twice = duplicates(controls); // a least-squares fit that has enough others does not mind them
-    if (!twice.empty() && (isExact(method) || countPlaces(controls) < method.needed))
+    if (!twice.empty() && (isExact(method) || countSources(controls) < method.needed))
         return "two control points at one source point, in lines " + twice;
     if (controls.size() > 2 && !doSourcesDetermine(TransformMethodAffinePolynomial, controls))
         return "the control points are all on one line (lines " + linesOf(controls) + ')';

@@ -33,17 +33,17 @@ std::vector<int> nearest(std::string const& text, std::span<std::string const> n
     std::sort(ranked.begin(), ranked.end());
     int const farthest = static_cast<int>(text.size()) / 2;
     std::vector<int> result;
-    for (auto [distance, place] : ranked)
+    for (auto [distance, index] : ranked)
         if (distance <= farthest && distance <= ranked.front().first + 1 && result.size() < mostListed)
-            result.push_back(place);
+            result.push_back(index);
     return result;
 }
 
-std::string listed(std::span<std::string const> names, std::vector<int> const& places) {
+std::string listed(std::span<std::string const> names, std::vector<int> const& indices) {
     std::string result;
-    for (std::size_t i = 0; i < std::min(places.size(), mostListed); ++i)
-        result += (i ? ", \"" : "\"") + names[static_cast<std::size_t>(places[i])] + '"';
-    return result + (places.size() > mostListed ? ", ..." : "");
+    for (std::size_t i = 0; i < std::min(indices.size(), mostListed); ++i)
+        result += (i ? ", \"" : "\"") + names[static_cast<std::size_t>(indices[i])] + '"';
+    return result + (indices.size() > mostListed ? ", ..." : "");
 }
 
 } // namespace

@@ -16,7 +16,7 @@ enum class Match {
 
 struct NameMatch {
     Match match;
-    std::vector<int> found; // places in the list of names
+    std::vector<int> found; // indices in the list of names
 };
 
 /// Looks for a text among names. Letter case, blanks and punctuation do not count. A whole name goes before names that

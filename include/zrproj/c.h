@@ -184,8 +184,8 @@ typedef struct zrproj_system zrproj_system;
 ///
 /// What says the same as an entry of the register is that entry. Where a code or name is contradicted by its own
 /// numbers the numbers count, and the message tells; it tells of a deprecated system too. ZRPROJ_BAD_DEFINITION, with
-/// the place as message, for a text that makes no sense; ZRPROJ_UNKNOWN, with what is near, for a code or name that
-/// the register does not have; ZRPROJ_UNSUPPORTED for what is known, but cannot be computed.
+/// the line and column as message, for a text that makes no sense; ZRPROJ_UNKNOWN, with what is near, for a code or
+/// name that the register does not have; ZRPROJ_UNSUPPORTED for what is known, but cannot be computed.
 ZRPROJ_API zrproj_status zrproj_system_create(char const* definition, zrproj_system** system);
 
 /// Makes a system of parameters. ZRPROJ_BAD_DEFINITION, with the reason as message, for parameters that make no
@@ -264,8 +264,8 @@ typedef struct zrproj_options {
     size_t size;       ///< sizeof(zrproj_options)
     char const* grids; ///< folders to look for grids in, ':' between them (';' on Windows); may be null. Then come
                        ///< those of the environment's ZRPROJ_GRIDS, and PROJ's
-    int threads;      ///< 0 or 1: the calling thread only; n: up to n; -1: as many as there are processors
-    int refuse_rough; ///< not 0: ZRPROJ_NO_PATH instead of a way that loses more than 1 m, or nobody knows how much
+    int threads;       ///< 0 or 1: the calling thread only; n: up to n; -1: as many as there are processors
+    int refuse_rough;  ///< not 0: ZRPROJ_NO_PATH instead of a way that loses more than 1 m, or nobody knows how much
 } zrproj_options;
 
 /// Makes the way from one system to another; both may be destroyed afterwards. `options` may be null for the defaults.
@@ -436,7 +436,7 @@ ZRPROJ_API zrproj_status zrproj_analysis_residual(zrproj_analysis const* analysi
 typedef struct zrproj_pieces zrproj_pieces;
 
 /// Cuts a line at the edges of a projected system's map: `count` pairs of longitude and latitude in degrees, at least
-/// 2. Edges are straight in that plane and go the short way around the globe; the line breaks at a point that is no
+/// 2. Segments are straight in that plane and go the short way around the globe; the line breaks at a point that is no
 /// place. Every point of the pieces is shown by the map, and no piece goes over an edge of it. A line of which nothing
 /// is cut comes back unchanged; no pieces at all is no failure.
 ///
@@ -446,7 +446,7 @@ ZRPROJ_API zrproj_status zrproj_clip_line(zrproj_system const* system, double co
 
 /// Cuts an area, given by the ring around it, at least 3 pairs; a first pair that is repeated at the end is tolerated.
 /// The pieces are rings, closed along the map's edges with points a degree apart at most; one inside another is a hole
-/// in it. The ring's sides, windings around a pole and failures are those of the line.
+/// in it. The ring's segments, windings around a pole and failures are those of the line.
 ZRPROJ_API zrproj_status zrproj_clip_ring(zrproj_system const* system, double const* points, size_t count,
                                           zrproj_pieces** pieces);
 

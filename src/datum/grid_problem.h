@@ -5,7 +5,7 @@
 
 namespace ZrProj::datum {
 
-/// In words, for the user: the file, the place in it, and what was expected there.
+/// In words, for the user: the file, the record in it, and what was expected there.
 struct GridProblem {
     std::string reason;
 };

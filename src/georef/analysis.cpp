@@ -27,9 +27,9 @@ public:
     std::vector<GEOREFPOINT> const& sources() const { return m_source; }
     Pairs without(std::size_t left) const {
         Pairs result = *this;
-        auto const place = static_cast<std::ptrdiff_t>(left);
-        result.m_source.erase(result.m_source.begin() + place);
-        result.m_target.erase(result.m_target.begin() + place);
+        auto const index = static_cast<std::ptrdiff_t>(left);
+        result.m_source.erase(result.m_source.begin() + index);
+        result.m_target.erase(result.m_target.begin() + index);
         return result;
     }
     std::optional<GeorefMap> fit(TransformMethod method) const { return fitGeoref(method, {m_source, m_target}); }
@@ -201,14 +201,14 @@ std::optional<double> rmsOf(TransformMethod method, Pairs const& pairs) {
 /// Looks for outliers among the controls, at most a third of them, and says how the rest fits.
 void findOutliers(TransformMethod method, Pairs pairs, Analysis& analysis) {
     TransformMethod const judge = analysis.judge;
-    std::vector<std::size_t> places(pairs.size()); // of the pairs that are left
-    std::iota(places.begin(), places.end(), std::size_t{0});
-    while (analysis.outliers.size() < places.size() / 2) {
+    std::vector<std::size_t> indices(pairs.size()); // of the pairs that are left
+    std::iota(indices.begin(), indices.end(), std::size_t{0});
+    while (analysis.outliers.size() < indices.size() / 2) {
         auto const found = isWarp(judge) ? compareLengths(judge, pairs) : snoop(judge, pairs);
         if (!found)
             break;
-        analysis.outliers.push_back(places[*found]);
-        places.erase(places.begin() + static_cast<std::ptrdiff_t>(*found));
+        analysis.outliers.push_back(indices[*found]);
+        indices.erase(indices.begin() + static_cast<std::ptrdiff_t>(*found));
         pairs = pairs.without(*found);
     }
     if (!analysis.outliers.empty())

@@ -25,25 +25,25 @@ std::optional<GeorefMap> fitUnchecked(TransformMethod method, Controls const& co
     return polynomial ? std::optional(GeorefMap(*polynomial)) : std::nullopt;
 }
 
-bool areInOnePlace(GEOREFPOINT const& a, GEOREFPOINT const& b) {
+bool coincide(GEOREFPOINT const& a, GEOREFPOINT const& b) {
     return a.x == b.x && a.y == b.y;
 }
 
-/// The indices of two source points in one place, if any.
+/// The indices of two source points that coincide, if any.
 std::optional<std::pair<std::size_t, std::size_t>> findTwins(std::span<GEOREFPOINT const> points) {
     std::vector<std::size_t> order(points.size());
     std::iota(order.begin(), order.end(), std::size_t{0});
     std::ranges::sort(order, {}, [&](std::size_t i) { return std::pair(points[i].x, points[i].y); });
-    auto const found = std::ranges::adjacent_find(
-        order, [&](std::size_t a, std::size_t b) { return areInOnePlace(points[a], points[b]); });
+    auto const found =
+        std::ranges::adjacent_find(order, [&](std::size_t a, std::size_t b) { return coincide(points[a], points[b]); });
     return found == order.end() ? std::nullopt : std::optional(std::pair(found[0], found[1]));
 }
 
-std::size_t countPlaces(std::span<GEOREFPOINT const> points) {
-    std::vector<GEOREFPOINT> places(points.begin(), points.end());
-    std::ranges::sort(places, {}, [](GEOREFPOINT const& p) { return std::pair(p.x, p.y); });
-    places.erase(std::unique(places.begin(), places.end(), areInOnePlace), places.end());
-    return places.size();
+std::size_t countDistinct(std::span<GEOREFPOINT const> points) {
+    std::vector<GEOREFPOINT> distinct(points.begin(), points.end());
+    std::ranges::sort(distinct, {}, [](GEOREFPOINT const& p) { return std::pair(p.x, p.y); });
+    distinct.erase(std::unique(distinct.begin(), distinct.end(), coincide), distinct.end());
+    return distinct.size();
 }
 
 /// Whether a method's map is determined by where the sources lie, whatever the targets.
@@ -125,7 +125,7 @@ std::string whyNoFit(TransformMethod method, Controls const& controls) {
     if (areTooMany(method, controls.size()))
         return std::string(row.key) + " takes at most " + std::to_string(mostOfWarps) + " control points";
     auto const twins = findTwins(controls.source); // a least-squares fit that has enough others does not mind them
-    if (twins && (isWarp(method) || countPlaces(controls.source) < row.needed))
+    if (twins && (isWarp(method) || countDistinct(controls.source) < row.needed))
         return "control points " + std::to_string(std::min(twins->first, twins->second) + 1) + " and " +
                std::to_string(std::max(twins->first, twins->second) + 1) + " lie at one source point";
     if (controls.size() > 2 && !doSourcesDetermine(TransformMethodAffinePolynomial, controls.source))

@@ -37,10 +37,10 @@ Column centred(std::span<GEOREFPOINT const> points, double GEOREFPOINT::*coordin
 }
 
 /// Coordinates between -1 and 1, in one unit.
-struct Places {
+struct ScaledSources {
     Column u, v;
 
-    explicit Places(std::span<GEOREFPOINT const> sources)
+    explicit ScaledSources(std::span<GEOREFPOINT const> sources)
         : u(centred(sources, &GEOREFPOINT::x)), v(centred(sources, &GEOREFPOINT::y)) {
         double size = 0;
         for (std::size_t i = 0; i < u.size(); ++i)
@@ -50,18 +50,18 @@ struct Places {
     }
 };
 
-Column columnOf(Term const& term, Places const& places) {
-    Column column(places.u.size());
+Column columnOf(Term const& term, ScaledSources const& scaled) {
+    Column column(scaled.u.size());
     for (std::size_t i = 0; i < column.size(); ++i)
-        column[i] = power(places.u[i], term.u) * power(places.v[i], term.v);
+        column[i] = power(scaled.u[i], term.u) * power(scaled.v[i], term.v);
     return column;
 }
 
 /// By Gram and Schmidt, each column twice.
-std::vector<Column> orthonormalColumns(std::span<Term const> terms, Places const& places) {
+std::vector<Column> orthonormalColumns(std::span<Term const> terms, ScaledSources const& scaled) {
     std::vector<Column> done;
     for (Term const& term : terms) {
-        Column column = columnOf(term, places);
+        Column column = columnOf(term, scaled);
         for (int round = 0; round < 2; ++round)
             for (Column const& other : done) {
                 double const along = dot(other, column);
@@ -74,8 +74,8 @@ std::vector<Column> orthonormalColumns(std::span<Term const> terms, Places const
     return done;
 }
 
-std::vector<double> similarityLeverages(Places const& places) {
-    auto const& [u, v] = places;
+std::vector<double> similarityLeverages(ScaledSources const& scaled) {
+    auto const& [u, v] = scaled;
     double const all = dot(u, u) + dot(v, v);
     std::vector<double> result(u.size());
     for (std::size_t i = 0; i < result.size(); ++i)
@@ -86,11 +86,11 @@ std::vector<double> similarityLeverages(Places const& places) {
 } // namespace
 
 std::vector<double> leverages(TransformMethod method, std::span<GEOREFPOINT const> sources) {
-    Places const places(sources);
+    ScaledSources const scaled(sources);
     if (method == TransformMethodHelmert)
-        return similarityLeverages(places);
+        return similarityLeverages(scaled);
     std::vector<double> result(sources.size());
-    for (Column const& column : orthonormalColumns(termsOf(georefMethodRow(method).terms), places))
+    for (Column const& column : orthonormalColumns(termsOf(georefMethodRow(method).terms), scaled))
         for (std::size_t i = 0; i < result.size(); ++i)
             result[i] += column[i] * column[i];
     return result;

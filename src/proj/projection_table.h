@@ -180,8 +180,8 @@ static_assert(std::ranges::is_sorted(projectionTable, std::ranges::less_equal(),
 
 /// The type's row; null for a number that is no type.
 constexpr ProjectionRow const* projectionRow(ProjType type) {
-    auto const place = static_cast<std::size_t>(type);
-    return place < projectionTable.size() ? &projectionTable[place] : nullptr;
+    auto const index = static_cast<std::size_t>(type);
+    return index < projectionTable.size() ? &projectionTable[index] : nullptr;
 }
 
 /// The formula that computes a type; none for a number that is no type.

@@ -419,7 +419,7 @@ class Register:
 
     def read_operations(self):
         """Whatever moves a horizontal position from one datum to another; what only moves heights is left out."""
-        self.places = {code: position for position, code in enumerate(sorted(self.systems))}
+        self.positions = {code: position for position, code in enumerate(sorted(self.systems))}
         self.flat = {code for (code,) in self.ask("SELECT code FROM geodetic_crs WHERE type = 'geographic 2D' AND auth_name = 'EPSG'")}
         self.geodetic = {code for (code,) in self.ask("SELECT code FROM geodetic_crs WHERE auth_name = 'EPSG'")}
         self.superseded = self.superseded_operations()
@@ -437,7 +437,7 @@ class Register:
         for code, *row in self.ask(f"""SELECT code, source_crs_code, target_crs_code, name, accuracy, deprecated, {columns} FROM {table}
                 WHERE auth_name = 'EPSG' AND source_crs_auth_name = 'EPSG' AND target_crs_auth_name = 'EPSG' {marks} ORDER BY code"""):
             ends = [self.horizontal.get(end, end) for end in row[:2]]
-            if all(end in self.geodetic for end in row[:2]) and all(end in self.places for end in ends):
+            if all(end in self.geodetic for end in row[:2]) and all(end in self.positions for end in ends):
                 self.ends[code] = (row[0] in self.flat and row[1] in self.flat, *ends)
                 yield code, tuple(row[2:5]), row[5:]
 
@@ -525,8 +525,8 @@ class Register:
             flat, source, target = self.ends[code]
             marks = ["deprecated"] * bool(deprecated) + ["superseded"] * (code in self.superseded) + ["flat"] * flat
             said = f"numbered + {number}" if number is not None else texts[code]()
-            return (f"{{{said}, {0 if accuracy is None else accuracies.index(accuracy) + 1}, {code}, {self.places[source]}, "
-                    f"{self.places[target]}, {areas[code]()}, {start[given]}, OperationMethod::{method}, {len(given)}, "
+            return (f"{{{said}, {0 if accuracy is None else accuracies.index(accuracy) + 1}, {code}, {self.positions[source]}, "
+                    f"{self.positions[target]}, {areas[code]()}, {start[given]}, OperationMethod::{method}, {len(given)}, "
                     f"{' | '.join(marks) or 0}}}, // {name}")
 
         self.table("operations.h", "Operations from datum to datum.", "inline constexpr OperationRow operations[] = {", lambda: [

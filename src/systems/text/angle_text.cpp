@@ -9,12 +9,12 @@ namespace ZrProj::systems {
 
 namespace {
 
-struct Place {
+struct AngleUnit {
     std::string_view marks;
-    double degrees; // a unit
+    double degrees;
 };
 
-constexpr std::array<Place, 3> places = {{{"dD", 1}, {"'", 1.0 / 60}, {"\"", 1.0 / 3600}}};
+constexpr std::array<AngleUnit, 3> units = {{{"dD", 1}, {"'", 1.0 / 60}, {"\"", 1.0 / 3600}}};
 
 } // namespace
 
@@ -29,15 +29,15 @@ std::optional<double> angleOf(std::string_view text) {
     if (text.empty())
         return {};
     double sum = 0;
-    for (Place const& place : places) {
+    for (AngleUnit const& unit : units) {
         if (text.empty())
             break;
         auto const number = leadingNumber(text);
         if (!number)
             return {};
-        sum += std::abs(number->value) * place.degrees;
+        sum += std::abs(number->value) * unit.degrees;
         text.remove_prefix(number->length);
-        if (!text.empty() && place.marks.find(text.front()) == std::string_view::npos)
+        if (!text.empty() && unit.marks.find(text.front()) == std::string_view::npos)
             return {};
         text.remove_prefix(text.empty() ? 0 : 1);
     }

@@ -13,14 +13,14 @@ namespace ZrProj::systems {
 
 /// What is wrong with a text.
 enum class Fault {
-    malformed,  // it makes no sense from some place on
+    malformed,  // it makes no sense from some offset on
     unknown,    // well formed, but it names what nobody knows
     unsupported // known, but it cannot be said or computed
 };
 
 struct Problem {
     Fault fault;
-    std::string message; // one line, with the place where a text has one
+    std::string message; // one line, with the line and column in a text
 };
 
 /// What was asked for, or why there is none.
@@ -47,11 +47,11 @@ public:
 private:
     void note(Fault fault, std::size_t offset, std::string_view what) {
         if (!problem_)
-            problem_ = Problem{fault, place(offset) + ": " + std::string(what)};
+            problem_ = Problem{fault, lineAndColumn(offset) + ": " + std::string(what)};
     }
 
     /// Lines and columns count from 1; a column is a byte.
-    std::string place(std::size_t offset) const {
+    std::string lineAndColumn(std::size_t offset) const {
         std::string_view const before = text_.substr(0, offset);
         auto const line = 1 + std::count(before.begin(), before.end(), '\n');
         auto const column = offset - (before.rfind('\n') + 1) + 1;

@@ -10,10 +10,10 @@
 
 namespace ZrProj::systems {
 
-/// The text or word that stands at a place in a group; told where there is none.
+/// The text or word that stands at an index in a group; told where there is none.
 std::string wktText(WktNode const& group, std::size_t at, Complaint& complaint);
 
-/// The number that stands at a place in a group; told where there is none.
+/// The number that stands at an index in a group; told where there is none.
 double wktNumber(WktNode const& group, std::size_t at, Complaint& complaint);
 
 /// The register's code that a group states, 0 where it states none.
