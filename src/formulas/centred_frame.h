@@ -53,6 +53,21 @@ template <class R> HalfwayScale<R> halfwayScale(Place<R> p) {
     return {select(far, 1.0 - p.up, R(1.0)) / divisor, antipode};
 }
 
+/// Where a point of a stereographic map lies; `tooFar`: next to the antipode, or beyond.
+template <class R> struct StereographicPlace {
+    Place<R> place;
+    Condition<R> tooFar;
+};
+
+/// `size` is twice the sphere's radius times the scale at the centre.
+template <class R> StereographicPlace<R> fromStereographic(Xy<R> p, double size) {
+    constexpr double farthest = 1 / closest; // tan(c / 2), 2 closest from the antipode
+    double const reach = 10 * farthest * size;
+    R const X = clamped(p.x, -reach, reach) / size, Y = clamped(p.y, -reach, reach) / size;
+    R const r2 = X * X + Y * Y, scale = 1.0 / (1.0 + r2);
+    return {{2.0 * scale * X, 2.0 * scale * Y, scale * (1.0 - r2)}, r2 > farthest * farthest};
+}
+
 /// Where a point lies in the frame of a centre, both in degrees: for tests of the range.
 inline Place<double> placeInDegrees(double lat1, double lon1, PROJPOINT const& point) {
     auto const centre = sinCos(lat1 * degree);

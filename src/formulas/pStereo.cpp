@@ -44,13 +44,10 @@ struct Stereographic {
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
-        constexpr double farthest = 1 / closest; // tan(c / 2), 2 closest from the antipode
-        double const reach = 10 * farthest * size;
-        R const X = clamped(p.x, -reach, reach) / size, Y = clamped(p.y, -reach, reach) / size;
-        R const r2 = X * X + Y * Y, scale = 1.0 / (1.0 + r2);
-        auto const q = centre.onSphere(Place<R>{2.0 * scale * X, 2.0 * scale * Y, scale * (1.0 - r2)});
+        auto const at = fromStereographic(p, size);
+        auto const q = centre.onSphere(at.place);
         R const phi = conformal.geodetic(atan2(q.phi.sin, q.phi.cos), q.phi);
-        return {select(r2 > farthest * farthest, R(unplottable), lambda0 + q.theta), phi};
+        return {select(at.tooFar, R(unplottable), lambda0 + q.theta), phi};
     }
 };
 

@@ -32,13 +32,10 @@ struct ObliqueStereographic {
     }
 
     template <class R> LonLat<R> inverse(Xy<R> p) const {
-        constexpr double farthest = 1 / closest; // tan(c / 2), 2 closest from the antipode
-        double const reach = 10 * farthest * size;
-        R const X = clamped(p.x, -reach, reach) / size, Y = clamped(p.y, -reach, reach) / size;
-        R const r2 = X * X + Y * Y, scale = 1.0 / (1.0 + r2);
-        auto const q = centre.onSphere(Place<R>{2.0 * scale * X, 2.0 * scale * Y, scale * (1.0 - r2)});
+        auto const on = fromStereographic(p, size);
+        auto const q = centre.onSphere(on.place);
         auto const at = sphere.inverse(q);
-        return {select(r2 > farthest * farthest, R(unplottable), at.lon), at.lat};
+        return {select(on.tooFar, R(unplottable), at.lon), at.lat};
     }
 };
 
