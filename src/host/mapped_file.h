@@ -4,6 +4,7 @@
 #include <cstddef>
 #include <span>
 #include <string>
+#include <utility>
 
 namespace ZrProj {
 
@@ -15,8 +16,13 @@ public:
     MappedFile() = default;
     explicit MappedFile(std::string const& name) noexcept;
     ~MappedFile();
-    MappedFile(MappedFile&& other) noexcept;
-    MappedFile& operator=(MappedFile&& other) noexcept;
+    MappedFile(MappedFile&& other) noexcept
+        : bytes_(std::exchange(other.bytes_, {})), open_(std::exchange(other.open_, false)) {}
+    MappedFile& operator=(MappedFile&& other) noexcept {
+        std::swap(bytes_, other.bytes_);
+        std::swap(open_, other.open_);
+        return *this;
+    }
 
     /// Whether the file is a plain one and could be mapped; one without bytes is, too.
     bool isOpen() const noexcept { return open_; }

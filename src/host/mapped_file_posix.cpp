@@ -7,7 +7,6 @@
 #include <sys/mman.h>
 #include <sys/stat.h>
 #include <unistd.h>
-#include <utility>
 
 namespace ZrProj {
 
@@ -30,15 +29,6 @@ MappedFile::MappedFile(std::string const& name) noexcept {
 MappedFile::~MappedFile() {
     if (!bytes_.empty())
         munmap(const_cast<std::byte*>(bytes_.data()), bytes_.size());
-}
-
-MappedFile::MappedFile(MappedFile&& other) noexcept
-    : bytes_(std::exchange(other.bytes_, {})), open_(std::exchange(other.open_, false)) {}
-
-MappedFile& MappedFile::operator=(MappedFile&& other) noexcept {
-    std::swap(bytes_, other.bytes_);
-    std::swap(open_, other.open_);
-    return *this;
 }
 
 } // namespace ZrProj

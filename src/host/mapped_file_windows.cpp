@@ -3,7 +3,6 @@
 
 #include "mapped_file.h"
 
-#include <utility>
 #include <windows.h>
 
 namespace ZrProj {
@@ -41,15 +40,6 @@ MappedFile::MappedFile(std::string const& name) noexcept {
 MappedFile::~MappedFile() {
     if (!bytes_.empty())
         UnmapViewOfFile(bytes_.data());
-}
-
-MappedFile::MappedFile(MappedFile&& other) noexcept
-    : bytes_(std::exchange(other.bytes_, {})), open_(std::exchange(other.open_, false)) {}
-
-MappedFile& MappedFile::operator=(MappedFile&& other) noexcept {
-    std::swap(bytes_, other.bytes_);
-    std::swap(open_, other.open_);
-    return *this;
 }
 
 } // namespace ZrProj
