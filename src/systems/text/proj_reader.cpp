@@ -84,8 +84,7 @@ public:
             complaint_.malformed(0, "+proj is missing");
         if (!complaint_.made())
             system(*proj);
-        checkNumbers(made_, complaint_);
-        return std::move(complaint_).orProblem(std::move(made_));
+        return finished(std::move(made_), std::move(complaint_));
     }
 
 private:

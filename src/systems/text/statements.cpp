@@ -521,7 +521,7 @@ std::optional<WrittenMethod> wkt1Method(Definition const& stated, std::span<Spel
     return made;
 }
 
-void checkNumbers(Definition const& definition, Complaint& complaint) {
+OrProblem<Definition> finished(Definition&& definition, Complaint&& complaint) {
     constexpr double greatest = 1e15;
     Datum const& datum = definition.datum;
     bool usable = std::abs(datum.meridian.longitude) <= 360 && definition.unit.factor > 1e-9 &&
@@ -535,6 +535,7 @@ void checkNumbers(Definition const& definition, Complaint& complaint) {
         usable = usable && std::abs(each) < greatest;
     if (!usable)
         complaint.malformed(0, "a number or a unit is beyond all bounds");
+    return std::move(complaint).orProblem(std::move(definition));
 }
 
 void takeAxes(Definition& definition, std::span<StatedAxis const> axes, Complaint& complaint) {

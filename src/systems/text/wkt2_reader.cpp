@@ -16,8 +16,7 @@ public:
     OrProblem<Definition> read() {
         if (!complaint_.made())
             system(root_);
-        checkNumbers(made_, complaint_);
-        return std::move(complaint_).orProblem(std::move(made_));
+        return finished(std::move(made_), std::move(complaint_));
     }
 
 private:
