@@ -89,10 +89,16 @@ std::string suggestionsFor(std::string_view name) {
     return text;
 }
 
+/// What has no name of its own is called "unknown".
+bool isNamed(Definition const& definition) {
+    return !definition.name.empty() && definition.name != "unknown";
+}
+
 Answer makeFromDefinition(zrproj_system& system, Definition definition, std::string noticed) {
     auto const conversion = systems::conversionOf(definition);
     if (auto const* const why = std::get_if<Unsupported>(&conversion))
-        return unsupported(definition.name + ": " + why->reason + replacementOf(definition));
+        return unsupported((isNamed(definition) ? definition.name + ": " : "") + why->reason +
+                           replacementOf(definition));
     if (noticed.empty())
         noticed = deprecationOf(definition);
     system.definition = std::move(definition);

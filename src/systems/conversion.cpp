@@ -1,7 +1,9 @@
 #include "systems/conversion.h"
 
 #include "formulas/converter.h"
+#include "systems/authalic_radius.h"
 #include "systems/method_table.h"
+#include "systems/parameter_check.h"
 
 #include <cfloat>
 #include <cmath>
@@ -20,12 +22,6 @@ double squaredEccentricity(Given const& given) {
 double parallelRadius(Given const& given, double latitude) {
     double const phi = latitude * formulas::degree, sine = std::sin(phi);
     return std::cos(phi) / std::sqrt(1 - squaredEccentricity(given) * sine * sine);
-}
-
-/// Over the semi-major axis: of the sphere of the same area.
-double authalicRadius(Given const& given) {
-    double const e = std::sqrt(squaredEccentricity(given));
-    return given.f == 0 ? 1 : std::sqrt((1 + (1 - e * e) * std::atanh(e) / e) / 2);
 }
 
 /// exp(-psi) of the isometric latitude, t of Snyder's (15-9).
@@ -77,13 +73,13 @@ void centreInLat1(Conversion& to) {
 }
 
 void centreOnAuthalicSphere(Conversion& to) {
-    to.parameters.a *= authalicRadius(to.parameters);
+    to.parameters.a *= authalicRadius(to.parameters.f);
     onSphere(to);
     centreInLat1(to);
 }
 
 void parallelOnAuthalicSphere(Conversion& to) {
-    to.parameters.a *= authalicRadius(to.parameters);
+    to.parameters.a *= authalicRadius(to.parameters.f);
     onSphere(to);
 }
 
@@ -231,6 +227,13 @@ Given parametersOf(Ellipsoid const& ellipsoid, ParameterValues const& values) {
     return given;
 }
 
+std::string nameOf(Method method, Parameter parameter) {
+    for (int const code : rowOf(method).parameters)
+        if (ParameterRow const* row = parameterByCode(code); row && row->parameter == parameter)
+            return std::string(row->name);
+    return {};
+}
+
 /// Turns what is not marked; nothing is spent where there is nothing to turn.
 void turn(PROJPOINT* points, int count, double x, double y, double shift) {
     if (x == 1 && y == 1 && shift == 0)
@@ -257,6 +260,8 @@ std::variant<Conversion, Unsupported> conversionOf(Definition const& system) {
         return to;
     if (row.formula == Formula::none)
         return Unsupported{"there is no formula for the method " + std::string(rowOf(system.method).name)};
+    if (auto const wrong = wrongParameter(system.method, system.parameters))
+        return Unsupported{"the parameter " + nameOf(system.method, wrong->parameter) + " " + std::string(wrong->why)};
     to.method = row.formula;
     to.parameters = parametersOf(system.datum.ellipsoid, system.parameters);
     to.falseEasting = system.parameters.valueOr(Parameter::falseEasting, 0);

@@ -128,7 +128,8 @@ TEST(SystemConversion, WhatCannotBeComputedIsTold) {
     EXPECT_EQ(reasonFor(system), "there is no formula for the method Vertical Perspective");
     system = *definitionOf(2154);
     system.parameters[Parameter::standardParallel2] = -49; // no cone
-    EXPECT_EQ(reasonFor(system), "its parameters define no map");
+    EXPECT_EQ(reasonFor(system),
+              "the parameter Latitude of 2nd standard parallel must not be opposite to the first one");
 }
 
 TEST(SystemConversion, MethodsThatAreOthersWithOtherParameters) {

@@ -1,6 +1,7 @@
 // PROJ strings: options of the form +key or +key=value, in any order, the first of a key being the one that counts.
 // Angles are in degrees, lengths in metres, whatever the units of the system.
 #include "host/text.h"
+#include "systems/authalic_radius.h"
 #include "systems/register.h"
 #include "systems/text/angle_text.h"
 #include "systems/text/ellipsoid_shape.h"
@@ -12,6 +13,7 @@
 
 #include <algorithm>
 #include <array>
+#include <cmath>
 #include <utility>
 
 namespace ZrProj::systems {
@@ -38,6 +40,15 @@ constexpr std::string_view parameterKeys[] = {"lat_0", "lon_0",  "lonc", "lat_1"
                                               "alpha", "gamma",  "azi",  "h",     "h_0"};
 
 constexpr std::string_view geographicNames[] = {"longlat", "latlong", "lonlat", "latlon"};
+
+/// Projections that stand for others with parameters of a zone.
+constexpr std::string_view zonedNames[] = {"utm", "ups"};
+
+/// The projection's name of a row of spellings, and the option that belongs to it.
+std::pair<std::string_view, std::string_view> splitName(std::string_view name) {
+    std::size_t const end = std::min(name.find(" +"), name.size());
+    return {name.substr(0, end), name.substr(std::min(end + 2, name.size()))};
+}
 
 bool isOneOf(std::string_view key, std::span<std::string_view const> keys) {
     return std::ranges::find(keys, key) != keys.end();
@@ -76,6 +87,8 @@ public:
         if (Option const* init = find("init"))
             return byCode(*init);
         Option const* const proj = find("proj");
+        if (proj)
+            checkProjection(*proj);
         for (Option const& option : options_)
             if (!isOneOf(option.key, silentKeys) && !isOneOf(option.key, takenKeys) &&
                 !isOneOf(option.key, parameterKeys))
@@ -103,11 +116,30 @@ private:
         return value.value_or(0);
     }
 
+    /// A number, or one over another.
+    double ratio(Option const& option) {
+        std::size_t const bar = option.value.find('/');
+        double const over = number({option.key, option.value.substr(0, bar), option.offset});
+        return bar == std::string_view::npos ? over
+                                             : over / number({option.key, option.value.substr(bar + 1), option.offset});
+    }
+
     double angle(Option const& option) {
         auto const value = angleOf(option.value);
         if (!value)
             complaint_.malformed(option.offset, "+" + std::string(option.key) + " takes an angle");
         return value.value_or(0);
+    }
+
+    /// Told before the options, which a projection that nobody knows may have of its own.
+    void checkProjection(Option const& proj) {
+        auto const isNamed = [&](SpellingRow const& row) { return splitName(row.name).first == proj.value; };
+        if (!isOneOf(proj.value, geographicNames) && !isOneOf(proj.value, zonedNames) &&
+            std::ranges::none_of(projSpellings, isNamed))
+            complaint_.unsupported(proj.offset, "the projection " + std::string(proj.value) + " is not supported");
+        for (Option const& other : options_)
+            if (other.key == "proj" && other.offset != proj.offset)
+                complaint_.malformed(other.offset, "+proj is stated twice");
     }
 
     /// A code of the register, with a way to WGS 84 of the text's own.
@@ -186,11 +218,21 @@ private:
         Ellipsoid& made = made_.datum.ellipsoid;
         if (known)
             made = {std::string(row->name), row->semiMajor, row->inverseFlattening, row->code};
-        bool const own = ownAxes(made);
+        bool const axes = ownAxes(made);
+        checkEllipsoid(made, 0, complaint_);
+        bool const own = asAuthalicSphere(made) || axes;
         if (own)
             made.name = "unknown", made.code = 0;
-        checkEllipsoid(made, 0, complaint_);
         return own || (named && !ofDatum.empty() && key != ofDatum);
+    }
+
+    /// +R_A: the sphere of the ellipsoid's surface instead of it. Whether there was an ellipsoid to replace.
+    bool asAuthalicSphere(Ellipsoid& made) const {
+        if (!has("R_A") || complaint_.made() || made.inverseFlattening == 0)
+            return false;
+        made.semiMajor *= authalicRadius(1 / made.inverseFlattening);
+        made.inverseFlattening = 0;
+        return true;
     }
 
     bool ownAxes(Ellipsoid& made) {
@@ -224,7 +266,7 @@ private:
             shift[count++] = number({option->key, rest.substr(0, end), option->offset});
             rest.remove_prefix(std::min(end + 1, rest.size()));
         }
-        if ((count != 3 && count != 7) || !rest.empty())
+        if ((count != 3 && count != 7) || !rest.empty() || option->value.ends_with(','))
             complaint_.malformed(option->offset, "+towgs84 takes 3 or 7 numbers");
         made_.datum.toWgs84 = shift;
     }
@@ -255,8 +297,6 @@ private:
         std::vector<SpellingRow> const rows = rowsOf(proj.value);
         if (!takeSpelledMethod(made_, {rows}, stated, complaint_))
             complaint_.unsupported(proj.offset, "the projection " + stated.name + " is not supported");
-        else if (has("R_A") && !isSphere() && made_.method != Method::miller && made_.method != Method::vanDerGrinten)
-            complaint_.unsupported(find("R_A")->offset, "+R_A is not supported with this projection");
         made_.conversionName = "unknown";
         webMercator();
     }
@@ -302,10 +342,9 @@ private:
     std::vector<SpellingRow> rowsOf(std::string_view proj) const {
         std::vector<SpellingRow> rows;
         for (SpellingRow row : projSpellings) {
-            std::size_t const end = std::min(row.name.find(" +"), row.name.size());
-            std::string_view const option = row.name.substr(std::min(end + 2, row.name.size()));
-            row.name = row.name.substr(0, end);
-            if (row.name == proj && hasOption(option))
+            auto const [name, option] = splitName(row.name);
+            row.name = name;
+            if (name == proj && hasOption(option))
                 rows.push_back(row);
         }
         return rows;
@@ -316,7 +355,7 @@ private:
         Option const* const found = find(option.substr(0, mark));
         if (option == "no_uoff" && has("no_off"))
             return true;
-        if (option.empty() || (option == "R_A" && isSphere()))
+        if (option.empty())
             return true;
         return found && found->value == option.substr(std::min(mark + 1, option.size()));
     }
@@ -352,8 +391,8 @@ private:
         Option const* const metres = find("to_meter");
         Option const* const named = metres ? nullptr : find("units");
         if (metres) {
-            double const factor = number(*metres);
-            if (!(factor > 0))
+            double const factor = ratio(*metres);
+            if (!(factor > 0 && std::isfinite(factor)))
                 return complaint_.malformed(metres->offset, "+to_meter takes a positive number");
             made_.unit = statedUnit(Kind::length, factor, "unknown", 0);
         } else if (named) {

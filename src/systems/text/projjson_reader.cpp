@@ -232,8 +232,10 @@ private:
         JsonNode const* const box = holder.member("bbox");
         if (!box)
             return;
-        made_.area = Area{number(*box, "west_longitude"), number(*box, "south_latitude"),
-                          number(*box, "east_longitude"), number(*box, "north_latitude"), textOr(holder, "area")};
+        takeArea(made_,
+                 {number(*box, "west_longitude"), number(*box, "south_latitude"), number(*box, "east_longitude"),
+                  number(*box, "north_latitude"), textOr(holder, "area")},
+                 box->offset, complaint_);
     }
 
     void bound(JsonNode const& node) {

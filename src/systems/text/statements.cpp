@@ -1,6 +1,7 @@
 #include "systems/text/statements.h"
 
 #include "host/text.h"
+#include "systems/parameter_check.h"
 #include "systems/text/number.h"
 
 #include <algorithm>
@@ -96,9 +97,6 @@ bool canBe(Method method, ParameterValues const& values, Ellipsoid const& ellips
         return same(std::abs(values[Parameter::latitudeOfOrigin]), 90);
     case Method::stereographic:
         return !same(std::abs(values[Parameter::latitudeOfOrigin]), 90);
-    case Method::polarStereographicB:
-    case Method::polarStereographicC:
-        return std::abs(values[Parameter::standardParallel1]) < 90;
     default:
         return true;
     }
@@ -134,12 +132,29 @@ Method namedInProj(Method method) {
     }
 }
 
-/// Brings azimuths into 0 to 360 degrees; an angle of more than a turn is a slip.
-void normaliseAngles(Definition& definition, std::size_t offset, Complaint& complaint) {
-    ParameterValues& values = definition.parameters;
-    for (ParameterRow const& row : parametersOf(definition.method))
-        if (row.kind == Kind::angle && std::abs(values[row.parameter]) > 360)
-            complaint.malformed(offset, "the parameter " + std::string(row.name) + " is more than a turn");
+/// What a text states of each parameter; null where it leaves one out.
+using Statements = std::array<StatedParameter const*, parameterCount>;
+
+/// Tells values that define no map, at their places and by the names that the text has for them.
+void checkValues(Definition const& definition, Statements const& statements, StatedMethod const& method,
+                 Complaint& complaint) {
+    auto const tell = [&](ParameterRow const& row, std::string_view why) {
+        StatedParameter const* const stated = statements[static_cast<std::size_t>(row.parameter)];
+        complaint.malformed(stated ? stated->offset : method.offset,
+                            "the parameter " + (stated ? stated->name : std::string(row.name)) + " " +
+                                std::string(why));
+    };
+    auto const wrong = wrongParameter(definition.method, definition.parameters);
+    for (ParameterRow const& row : parametersOf(definition.method)) {
+        if (wrong && wrong->parameter == row.parameter)
+            tell(row, wrong->why);
+        if (row.kind == Kind::angle && std::abs(definition.parameters[row.parameter]) > 360)
+            tell(row, "is more than a turn");
+    }
+}
+
+/// Brings azimuths into 0 to 360 degrees.
+void normaliseAngles(ParameterValues& values) {
     for (Parameter const p : {Parameter::azimuth, Parameter::rectifiedAngle})
         if (values[p] < 0 && values[p] >= -360)
             values[p] += 360;
@@ -212,6 +227,7 @@ public:
     }
 
     std::string_view missing;
+    Statements statements{};
 
 private:
     StatedParameter const* find(std::string_view name) {
@@ -227,12 +243,13 @@ private:
         StatedParameter const* stated = find(spelled.name);
         if (!stated && !spelled.name.empty())
             stated = find(row.name);
+        if (!stated && !wholeNumber(spelled.otherwise))
+            stated = find(spelled.otherwise);
+        statements[static_cast<std::size_t>(row.parameter)] = stated;
         if (stated)
             return valueOf(*stated, row.kind, stated_);
         if (auto const number = wholeNumber(spelled.otherwise))
             return number;
-        if (StatedParameter const* other = find(spelled.otherwise))
-            return valueOf(*other, row.kind, stated_);
         auto const silent = silentValue(row.parameter);
         if (!silent)
             missing = spelled.name;
@@ -356,6 +373,56 @@ std::optional<double> leftOutValue(Method method, Parameter parameter) {
     return silentValue(parameter);
 }
 
+/// Whether a row has a name for a stated parameter, whatever the rest of the text.
+bool hasNameFor(StatedParameter const& stated, SpellingRow const& row) {
+    Spelling const spelling = spellingOf(row);
+    auto const names = [&](SpelledParameter const& each) {
+        return !each.name.empty() && sameName(each.name, stated.name);
+    };
+    return std::ranges::any_of(spelling.taken, names) || std::ranges::any_of(spelling.beside, names) ||
+           std::ranges::any_of(parametersOf(row.method),
+                               [&](ParameterRow const& each) { return sameName(each.name, stated.name); });
+}
+
+using Rows = std::vector<SpellingRow const*>;
+
+Rows rowsNamed(std::string_view name, Tables tables) {
+    Rows rows;
+    for (std::span<SpellingRow const> const table : tables)
+        for (SpellingRow const& row : table)
+            if (sameName(row.name, name))
+                rows.push_back(&row);
+    return rows;
+}
+
+/// Why none of the rows fits, as near to its place as can be told.
+void tellMisfit(StatedMethod const& stated, Rows const& rows, std::string_view missing, Complaint& complaint) {
+    for (StatedParameter const& each : stated.parameters)
+        if (!saysNothing(each) &&
+            std::ranges::none_of(rows, [&](SpellingRow const* row) { return hasNameFor(each, *row); }))
+            return complaint.malformed(each.offset, stated.name + " takes no parameter " + each.name);
+    if (missing.empty())
+        complaint.unsupported(stated.offset, "no form of " + stated.name + " has these parameters");
+    else
+        complaint.malformed(stated.offset, stated.name + " lacks its parameter " + std::string(missing));
+}
+
+/// No method takes nearly as many parameters.
+constexpr std::size_t mostParameters = 64;
+
+/// Tells a parameter that is stated twice: which of its values is meant nobody knows. Whether the statement can be read
+/// on.
+bool checkRepetition(StatedMethod const& stated, Complaint& complaint) {
+    std::vector<StatedParameter> const& all = stated.parameters;
+    if (all.size() > mostParameters)
+        return complaint.malformed(stated.offset, "no method takes so many parameters"), false;
+    for (auto each = all.begin(); each != all.end(); ++each)
+        if (std::any_of(all.begin(), each,
+                        [&](StatedParameter const& other) { return sameName(each->name, other.name); }))
+            return complaint.malformed(each->offset, "the parameter " + each->name + " is stated twice"), false;
+    return true;
+}
+
 // Axes.
 
 bool isEastOrWest(StatedAxis const& axis) {
@@ -447,15 +514,20 @@ bool takeMethod(Definition& definition, StatedMethod const& stated, Complaint& c
     MethodRow const* const method = methodNamed(stated.name, stated.code);
     if (!method)
         return false;
-    auto const taken = parametersOf(method->method);
     definition.method = method->method;
+    if (!checkRepetition(stated, complaint))
+        return true;
+    auto const taken = parametersOf(method->method);
+    Statements statements{};
     for (StatedParameter const& parameter : stated.parameters) {
         ParameterRow const* const row = parameterNamed(parameter, taken);
         bool const takes = row && std::ranges::find(taken, row->parameter, &ParameterRow::parameter) != taken.end();
-        if (takes)
+        if (takes) {
             definition.parameters[row->parameter] = valueOf(parameter, row->kind, stated);
-        else if (!saysNothing(parameter))
-            complaint.malformed(parameter.offset, "the method " + stated.name + " takes no such parameter");
+            statements[static_cast<std::size_t>(row->parameter)] = &parameter;
+        } else if (!saysNothing(parameter))
+            complaint.malformed(parameter.offset,
+                                "the method " + stated.name + " takes no parameter " + parameter.name);
     }
     for (ParameterRow const& row : taken) {
         if (definition.parameters.has(row.parameter))
@@ -465,34 +537,31 @@ bool takeMethod(Definition& definition, StatedMethod const& stated, Complaint& c
             complaint.malformed(stated.offset, "the parameter " + std::string(row.name) + " is missing");
         definition.parameters[row.parameter] = silent.value_or(0);
     }
-    normaliseAngles(definition, stated.offset, complaint);
+    checkValues(definition, statements, stated, complaint);
+    normaliseAngles(definition.parameters);
     return true;
 }
 
 bool takeSpelledMethod(Definition& definition, std::initializer_list<std::span<SpellingRow const>> tables,
                        StatedMethod const& stated, Complaint& complaint) {
-    bool known = false;
+    Rows const rows = rowsNamed(stated.name, tables);
+    if (rows.empty() || !checkRepetition(stated, complaint))
+        return !rows.empty();
     std::string_view missing;
-    for (std::span<SpellingRow const> const rows : tables)
-        for (SpellingRow const& row : rows) {
-            if (!sameName(row.name, stated.name))
-                continue;
-            known = true;
-            Fit fit(row, stated);
-            if (auto const values = fit.values(definition.datum.ellipsoid)) {
-                definition.method = row.method;
-                definition.parameters = *values;
-                normaliseAngles(definition, stated.offset, complaint);
-                return true;
-            }
-            if (missing.empty())
-                missing = fit.missing;
+    for (SpellingRow const* row : rows) {
+        Fit fit(*row, stated);
+        if (auto const values = fit.values(definition.datum.ellipsoid)) {
+            definition.method = row->method;
+            definition.parameters = *values;
+            checkValues(definition, fit.statements, stated, complaint);
+            normaliseAngles(definition.parameters);
+            return true;
         }
-    if (known && missing.empty())
-        complaint.unsupported(stated.offset, "no form of " + stated.name + " has these parameters");
-    else if (known)
-        complaint.malformed(stated.offset, stated.name + " lacks its parameter " + std::string(missing));
-    return known;
+        if (missing.empty())
+            missing = fit.missing;
+    }
+    tellMisfit(stated, rows, missing, complaint);
+    return true;
 }
 
 WrittenMethod registerMethod(Definition const& definition) {
@@ -536,6 +605,14 @@ OrProblem<Definition> finished(Definition&& definition, Complaint&& complaint) {
     if (!usable)
         complaint.malformed(0, "a number or a unit is beyond all bounds");
     return std::move(complaint).orProblem(std::move(definition));
+}
+
+void takeArea(Definition& definition, Area area, std::size_t offset, Complaint& complaint) {
+    auto const isLongitude = [](double each) { return std::abs(each) <= 360; };
+    bool const latitudes = area.south >= -90 && area.south <= area.north && area.north <= 90;
+    if (!latitudes || !isLongitude(area.west) || !isLongitude(area.east))
+        return complaint.malformed(offset, "the area of use is not between two latitudes and two longitudes");
+    definition.area = std::move(area);
 }
 
 void takeAxes(Definition& definition, std::span<StatedAxis const> axes, Complaint& complaint) {

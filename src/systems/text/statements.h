@@ -68,6 +68,9 @@ std::optional<WrittenMethod> projMethod(Definition const& definition);
 /// The method by a dialect's names, else by the register's; nothing where a reader would take it for another.
 std::optional<WrittenMethod> wkt1Method(Definition const& definition, std::span<SpellingRow const> rows);
 
+/// Gives the definition an area of use, in degrees; told where it is none.
+void takeArea(Definition& definition, Area area, std::size_t offset, Complaint& complaint);
+
 /// What a reader put together, or the first problem, which may be numbers that units or signs made unusable: what is
 /// not finite, an ellipsoid or unit without size.
 OrProblem<Definition> finished(Definition&& definition, Complaint&& complaint);

@@ -78,7 +78,7 @@ private:
     }
 
     void primeMeridian(WktNode const& node) {
-        double const longitude = wktNumber(node, 1, complaint_);
+        double const longitude = wktLastNumber(node, 1, complaint_);
         made_.datum.meridian = {wktText(node, 0, complaint_), longitude, wktCode(node)};
     }
 
@@ -110,7 +110,7 @@ private:
         stated.length = made_.unit.factor;
         for (WktNode const* parameter : wktChildren(node, "PARAMETER"))
             stated.parameters.push_back({.name = wktText(*parameter, 0, complaint_),
-                                         .value = wktNumber(*parameter, 1, complaint_),
+                                         .value = wktLastNumber(*parameter, 1, complaint_),
                                          .offset = parameter->offset});
         if (!takeSpelledMethod(made_, {gdalSpellings, esriSpellings}, stated, complaint_) &&
             !takeMethod(made_, stated, complaint_))

@@ -78,7 +78,8 @@ private:
     void primeMeridian(WktNode const& node) {
         WktNode const* const unit = node.child({"ANGLEUNIT", "UNIT"});
         double const degrees = unit ? wktUnit(*unit, Kind::angle, complaint_).factor : made_.angularUnit.factor;
-        made_.datum.meridian = {wktText(node, 0, complaint_), wktNumber(node, 1, complaint_) * degrees, wktCode(node)};
+        made_.datum.meridian = {wktText(node, 0, complaint_), wktLastNumber(node, 1, complaint_) * degrees,
+                                wktCode(node)};
     }
 
     void projected(WktNode const& node) {
@@ -121,14 +122,14 @@ private:
     }
 
     StatedParameter statedParameter(WktNode const& node) {
-        StatedParameter made{wktText(node, 0, complaint_), wktCode(node), wktNumber(node, 1, complaint_), 0,
+        StatedParameter made{wktText(node, 0, complaint_), wktCode(node), wktLastNumber(node, 1, complaint_), 0,
                              node.offset};
         if (WktNode const* angle = node.child({"ANGLEUNIT"}))
             made.factor = wktUnit(*angle, Kind::angle, complaint_).factor;
         else if (WktNode const* length = node.child({"LENGTHUNIT"}))
             made.factor = wktUnit(*length, Kind::length, complaint_).factor;
         else if (WktNode const* scale = node.child({"SCALEUNIT"}))
-            made.factor = wktNumber(*scale, 1, complaint_);
+            made.factor = wktFactor(*scale, complaint_);
         return made;
     }
 
@@ -165,9 +166,10 @@ private:
         if (!box)
             return;
         WktNode const* const area = holder.child({"AREA"});
-        made_.area =
-            Area{wktNumber(*box, 1, complaint_), wktNumber(*box, 0, complaint_), wktNumber(*box, 3, complaint_),
-                 wktNumber(*box, 2, complaint_), area ? wktText(*area, 0, complaint_) : ""};
+        takeArea(made_,
+                 {wktNumber(*box, 1, complaint_), wktNumber(*box, 0, complaint_), wktNumber(*box, 3, complaint_),
+                  wktNumber(*box, 2, complaint_), area ? wktText(*area, 0, complaint_) : ""},
+                 box->offset, complaint_);
     }
 
     void bound(WktNode const& node) {

@@ -25,6 +25,14 @@ double wktNumber(WktNode const& group, std::size_t at, Complaint& complaint) {
     return 0;
 }
 
+double wktLastNumber(WktNode const& group, std::size_t at, Complaint& complaint) {
+    double const number = wktNumber(group, at, complaint);
+    if (at + 1 < group.children.size() && group.children[at + 1].kind == WktNode::Kind::number)
+        complaint.malformed(group.children[at + 1].offset,
+                            group.value + " takes no further number; the decimal mark is a point");
+    return number;
+}
+
 Code wktCode(WktNode const& group) {
     WktNode const* const id = group.child({"ID", "AUTHORITY"});
     if (!id || id->children.size() < 2 || !equalIgnoringCase(id->children[0].value, "EPSG"))
@@ -33,10 +41,15 @@ Code wktCode(WktNode const& group) {
     return code > 0 && code < 1e9 ? static_cast<Code>(code) : 0;
 }
 
-Unit wktUnit(WktNode const& group, Kind kind, Complaint& complaint) {
-    double const factor = wktNumber(group, 1, complaint);
+double wktFactor(WktNode const& unit, Complaint& complaint) {
+    double const factor = wktLastNumber(unit, 1, complaint);
     if (!(factor > 0))
-        complaint.malformed(group.offset, "the unit's size is not positive");
+        complaint.malformed(unit.offset, "the unit's size is not positive");
+    return factor;
+}
+
+Unit wktUnit(WktNode const& group, Kind kind, Complaint& complaint) {
+    double const factor = wktFactor(group, complaint);
     bool const angle = kind == Kind::angle;
     return statedUnit(kind, angle ? factor * (180 / std::numbers::pi) : factor, wktText(group, 0, complaint),
                       wktCode(group));
@@ -51,7 +64,7 @@ Ellipsoid wktEllipsoid(WktNode const& datum, Complaint& complaint) {
     WktNode const* const unit = group->child({"LENGTHUNIT", "UNIT"});
     double const metres = unit ? wktUnit(*unit, Kind::length, complaint).factor : 1;
     Ellipsoid const made{wktText(*group, 0, complaint), wktNumber(*group, 1, complaint) * metres,
-                         wktNumber(*group, 2, complaint), wktCode(*group)};
+                         wktLastNumber(*group, 2, complaint), wktCode(*group)};
     checkEllipsoid(made, group->offset, complaint);
     return made;
 }

@@ -16,8 +16,14 @@ std::string wktText(WktNode const& group, std::size_t at, Complaint& complaint);
 /// The number that stands at an index in a group; told where there is none.
 double wktNumber(WktNode const& group, std::size_t at, Complaint& complaint);
 
+/// The same where no number may follow it, as it does when the decimal mark was a comma; told where one does.
+double wktLastNumber(WktNode const& group, std::size_t at, Complaint& complaint);
+
 /// The register's code that a group states, 0 where it states none.
 Code wktCode(WktNode const& group);
+
+/// The size of a unit, in whatever its kind counts in; told where it is not positive.
+double wktFactor(WktNode const& unit, Complaint& complaint);
 
 /// The unit that a group states. Its size is in metres, or in radians and made degrees, as its kind tells.
 Unit wktUnit(WktNode const& group, Kind kind, Complaint& complaint);

@@ -63,8 +63,23 @@ TEST(Readers, TellWhereATextStopsMakingSense) {
         {projected("Bipolar_Oblique", ""), Fault::unsupported, "column", "Bipolar_Oblique"},
         {projected("Lambert_Conformal_Conic_2SP", R"(PARAMETER["standard_parallel_1",10],)"), Fault::malformed,
          "column", "standard_parallel_2"},
-        {projected("Transverse_Mercator", R"(PARAMETER["standard_parallel_1",10],)"), Fault::unsupported, "column",
-         "no form of Transverse_Mercator"},
+        {projected("Transverse_Mercator", R"(PARAMETER["standard_parallel_1",10],)"), Fault::malformed, "column 163",
+         "Transverse_Mercator takes no parameter standard_parallel_1"},
+        {projected("Transverse_Mercator", R"(PARAMETER["scale_factr",0.9],)"), Fault::malformed, "column 163",
+         "takes no parameter scale_factr"},
+        {projected("Transverse_Mercator", R"(PARAMETER["scale_factor",0],)"), Fault::malformed, "column 163",
+         "scale_factor must be above 0"},
+        {projected("Transverse_Mercator", R"(PARAMETER["scale_factor",0,9996],)"), Fault::malformed, "column 190",
+         "the decimal mark is a point"},
+        {projected("Transverse_Mercator", R"(PARAMETER["scale_factor",1],PARAMETER["Scale_Factor",0.9],)"),
+         Fault::malformed, "column 191", "Scale_Factor is stated twice"},
+        {projected("Transverse_Mercator", "", "0,3048"), Fault::malformed, "column", "the decimal mark is a point"},
+        {projected("American Polyconic", R"(PARAMETER["Latitude of natural origin",91],)"), Fault::malformed,
+         "column 162", "Latitude of natural origin must be a latitude"},
+        {projected("American Polyconic", R"(PARAMETER["False easting",1],PARAMETER["False easting",1],)"),
+         Fault::malformed, "column 191", "False easting is stated twice"},
+        {geographic.substr(0, geographic.size() - 1) + ",BBOX[80,500,-300,1e30]]", Fault::malformed, "column 153",
+         "area of use"},
         {projected("Polar_Stereographic", R"(PARAMETER["latitude_of_origin",70],PARAMETER["scale_factor",0.99],)"),
          Fault::unsupported, "column", "no form of Polar_Stereographic"},
         {"VERTCRS[\"a\",VDATUM[\"b\"]]", Fault::unsupported, "column 1", "no horizontal coordinates"},
@@ -74,12 +89,23 @@ TEST(Readers, TellWhereATextStopsMakingSense) {
         {"{\"typ", Fault::malformed, "line 1, column 2", "closing quotation mark"},
         {"+proj=utm +zone=61", Fault::malformed, "column 11", "1 to 60"},
         {"+proj=tmerc +lat_0=1x", Fault::malformed, "column 13", "angle"},
-        {"+proj=tmerc +lon_0=3600", Fault::malformed, "column 1", "more than a turn"},
+        {"+proj=tmerc +lon_0=3600", Fault::malformed, "column 13", "lon_0 is more than a turn"},
+        {"+proj=tmerc +k=0", Fault::malformed, "column 13", "k must be above 0"},
+        {"+proj=tmerc +k=-1", Fault::malformed, "column 13", "k must be above 0"},
+        {"+proj=tmerc +lat_0=100", Fault::malformed, "column 13", "lat_0 must be a latitude"},
+        {"+proj=lcc +lat_1=45 +lat_2=-45", Fault::malformed, "column 21", "lat_2 must not be opposite"},
+        {"+proj=lcc +lat_1=0", Fault::malformed, "column 11", "lat_1 must not be the equator's"},
+        {"+proj=merc +proj=tmerc", Fault::malformed, "column 12", "+proj is stated twice"},
+        {"+proj=merc +to_meter=1/0", Fault::malformed, "column 12", "+to_meter"},
+        {"+proj=merc +R_V", Fault::unknown, "column 12", "+R_V"},
         {"+proj=tmerc +elps=bessel", Fault::unknown, "column 13", "+elps"},
         {"+proj=longlat +ellps=besel", Fault::unknown, "column 15", "besel"},
         {"+proj=longlat +towgs84=1,2", Fault::malformed, "column 15", "3 or 7"},
+        {"+proj=longlat +towgs84=1,2,3,", Fault::malformed, "column 15", "3 or 7"},
         {"+proj=merc +lat_ts=40 +k=0.5", Fault::unsupported, "column 1", "no form of merc"},
         {"+proj=wintri", Fault::unsupported, "column 1", "wintri"},
+        {"+proj=ob_tran +o_proj=moll", Fault::unsupported, "column 1", "the projection ob_tran"},
+        {"+proj=pipeline +step +proj=merc", Fault::unsupported, "column 1", "the projection pipeline"},
         {"+init=epsg:1", Fault::unknown, "column 1", "epsg:1"},
     };
     for (Case const& each : cases) {
@@ -116,6 +142,7 @@ TEST(Readers, NamesThatSeveralMethodsShareAreToldByTheParameters) {
         {"Stereographic", R"(PARAMETER["Latitude_Of_Origin",-90],)", Method::polarStereographicA},
         {"Stereographic", R"(PARAMETER["Latitude_Of_Origin",50],)", Method::stereographic},
         {"Polar_Stereographic", R"(PARAMETER["latitude_of_origin",90],)", Method::polarStereographicA},
+        {"Stereographic_North_Pole", R"(PARAMETER["Standard_Parallel_1",90],)", Method::polarStereographicB},
         {"Polar_Stereographic", R"(PARAMETER["latitude_of_origin",70],)", Method::polarStereographicB},
         {"Bonne_(South_Orientated)", R"(PARAMETER["Latitude of natural origin",39],)", Method::bonneSouth},
     };
@@ -172,6 +199,7 @@ TEST(Readers, ProjStringsByTheirOwnRules) {
     EXPECT_EQ(read("+proj=longlat +datum=NAD27 +no_def").code, 4267);
     EXPECT_EQ(read("+proj=longlat +a=1000 +b=990").datum.ellipsoid.inverseFlattening, 100);
     EXPECT_NEAR(read("+proj=longlat +pm=3d41'16.58\"W").datum.meridian.longitude, -3.68793888888889, 1e-13);
+    EXPECT_EQ(read("+proj=merc +to_meter=1/0.3048").unit.factor, 1 / 0.3048);
     EXPECT_EQ(read("+proj=tmerc +lat_0=1 +lat_0=2").parameters[Parameter::latitudeOfOrigin], 1);
     EXPECT_EQ(read("+proj=tmerc +k_0=0.5").parameters[Parameter::scaleFactor], 0.5);
     EXPECT_EQ(read("+proj=omerc +lat_0=4 +lonc=115 +alpha=53").parameters[Parameter::rectifiedAngle], 53);

@@ -1,11 +1,15 @@
 #include "systems/text/writers.h"
 
 #include "support/definitions.h"
+#include "systems/conversion.h"
 #include "systems/register.h"
 #include "systems/text/form.h"
+#include "systems/text/readers.h"
 
 #include <gtest/gtest.h>
 
+#include <fstream>
+#include <sstream>
 #include <string>
 #include <string_view>
 
@@ -27,7 +31,39 @@ std::string text(OrProblem<std::string> const& result) {
     return problem ? problem->message : std::get<std::string>(result);
 }
 
+ZrProj::PROJPOINT forward(Definition const& system, ZrProj::PROJPOINT point) {
+    auto const conversion = std::get<Conversion>(conversionOf(system));
+    std::get<SystemConverter>(SystemConverter::make(conversion)).forward(&point, 1);
+    return point;
+}
+
 } // namespace
+
+TEST(Writers, SpheresOfEllipsoidsAreReadAndWrittenAsProjHasThem) {
+    std::ifstream file(ZRPROJ_TEST_DATA "/systems/spheres.txt");
+    int cases = 0;
+    for (std::string line; std::getline(file, line);) {
+        if (line.starts_with('#'))
+            continue;
+        SCOPED_TRACE(line);
+        std::istringstream words(line.substr(line.find('|')));
+        double lon = 0, lat = 0, x = 0, y = 0, tolerance = 0;
+        std::string bar;
+        ASSERT_TRUE(words >> bar >> lon >> lat >> bar >> x >> y >> bar >> tolerance);
+        ++cases;
+        Definition const system = std::get<Definition>(readProjString(line.substr(0, line.find('|'))));
+        ZrProj::PROJPOINT const point = forward(system, {lon, lat});
+        EXPECT_NEAR(double{point.x}, x, tolerance);
+        EXPECT_NEAR(double{point.y}, y, tolerance);
+        for (Writer const write : {writeWkt1, writeEsriWkt, writeWkt2, writeProjJson, writeProjString}) {
+            std::string const written = text(write(system));
+            auto const read = readDefinition(written);
+            ASSERT_TRUE(std::holds_alternative<Definition>(read)) << written;
+            EXPECT_EQ(contentDifference(std::get<Definition>(read), system), "") << written;
+        }
+    }
+    EXPECT_EQ(cases, 54);
+}
 
 TEST(Writers, WhatTheyWriteIsReadAsTheSameSystem) {
     constexpr NamedWriter writers[] = {{"WKT 1", writeWkt1, 0},
