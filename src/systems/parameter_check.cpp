@@ -41,19 +41,6 @@ bool isScale(Parameter p) {
     return p == Parameter::scaleFactor || p == Parameter::ellipsoidScale;
 }
 
-bool isLatitude(Parameter p) {
-    switch (p) {
-    case Parameter::latitudeOfOrigin:
-    case Parameter::standardParallel1:
-    case Parameter::standardParallel2:
-    case Parameter::latitudeOfPoint1:
-    case Parameter::latitudeOfPoint2:
-        return true;
-    default:
-        return false;
-    }
-}
-
 /// A cone that touches the equator is a cylinder.
 bool touchesEquator(Method method, ParameterValues const& values) {
     bool const isCone = method == Method::lambertConic1 || method == Method::lambertConicWest ||
@@ -76,6 +63,19 @@ bool isCylinder(Method method, ParameterValues const& values) {
 }
 
 } // namespace
+
+bool isLatitude(Parameter p) {
+    switch (p) {
+    case Parameter::latitudeOfOrigin:
+    case Parameter::standardParallel1:
+    case Parameter::standardParallel2:
+    case Parameter::latitudeOfPoint1:
+    case Parameter::latitudeOfPoint2:
+        return true;
+    default:
+        return false;
+    }
+}
 
 std::optional<WrongParameter> wrongParameter(Method method, ParameterValues const& values) {
     for (std::size_t i = 0; i < parameterCount; ++i) {

@@ -9,6 +9,8 @@
 
 namespace ZrProj::systems {
 
+bool isLatitude(Parameter p);
+
 struct WrongParameter {
     Parameter parameter;
     std::string_view why; // follows the parameter's name: "must be above 0"

@@ -153,8 +153,11 @@ void checkValues(Definition const& definition, Statements const& statements, Sta
     }
 }
 
-/// Brings azimuths into 0 to 360 degrees.
+/// Brings azimuths into 0 to 360 degrees, and latitudes that the rounding of their unit took past a pole back to it.
 void normaliseAngles(ParameterValues& values) {
+    for (std::size_t i = 0; i < parameterCount; ++i)
+        if (auto const p = static_cast<Parameter>(i); isLatitude(p) && same(std::abs(values[p]), 90))
+            values[p] = std::copysign(90, values[p]);
     for (Parameter const p : {Parameter::azimuth, Parameter::rectifiedAngle})
         if (values[p] < 0 && values[p] >= -360)
             values[p] += 360;
@@ -537,8 +540,8 @@ bool takeMethod(Definition& definition, StatedMethod const& stated, Complaint& c
             complaint.malformed(stated.offset, "the parameter " + std::string(row.name) + " is missing");
         definition.parameters[row.parameter] = silent.value_or(0);
     }
-    checkValues(definition, statements, stated, complaint);
     normaliseAngles(definition.parameters);
+    checkValues(definition, statements, stated, complaint);
     return true;
 }
 
@@ -553,8 +556,8 @@ bool takeSpelledMethod(Definition& definition, std::initializer_list<std::span<S
         if (auto const values = fit.values(definition.datum.ellipsoid)) {
             definition.method = row->method;
             definition.parameters = *values;
-            checkValues(definition, fit.statements, stated, complaint);
             normaliseAngles(definition.parameters);
+            checkValues(definition, fit.statements, stated, complaint);
             return true;
         }
         if (missing.empty())

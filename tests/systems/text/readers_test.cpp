@@ -154,6 +154,15 @@ TEST(Readers, NamesThatSeveralMethodsShareAreToldByTheParameters) {
     }
 }
 
+TEST(Readers, APoleInRadiansIsThePole) {
+    auto const result =
+        readWkt1(R"(PROJCS["a",GEOGCS["b",DATUM["c",SPHEROID["d",6378137,298.257223563]],PRIMEM["Greenwich",0],)"
+                 R"(UNIT["radian",1]],PROJECTION["Polar_Stereographic"],PARAMETER["latitude_of_origin",)"
+                 R"(1.5707963267949],UNIT["metre",1]])");
+    ASSERT_TRUE(std::holds_alternative<Definition>(result)) << std::get<Problem>(result).message;
+    EXPECT_EQ(std::get<Definition>(result).parameters[Parameter::latitudeOfOrigin], 90);
+}
+
 TEST(Readers, HeightsAreLeftOut) {
     Definition const wgs84 = definitionOf(4326).value();
     std::string const vertical = R"(,VERTCRS["h",VDATUM["v"],CS[vertical,1],AXIS["up",up],LENGTHUNIT["metre",1]]])";
