@@ -69,6 +69,9 @@ private:
         ProjectionChoice choice = m_projection.choice(datumOf(info));
         if (choice.zonePerPoint)
             throw UsageError("--utm auto is no projection of a map; name its zone");
+        if (choice.system && !m_datum.empty())
+            throw UsageError("--datum has no place beside --like " + inQuotes(m_projection.likeFile()) +
+                             ", whose system tells it");
         if (choice.system) {
             info = MapInfo(choice.system, "").with(info);
             return;
@@ -79,7 +82,7 @@ private:
         info = MapInfo(&projection, nullptr).with(info);
     }
 
-    static MapDatum datumOf(MapInfo const& info) {
+    MapDatum datumOf(MapInfo const& info) const {
         if (!info.tells(ZRPROJ_DATUM))
             return {};
         zrproj_parameters const told = info.datum();
@@ -87,7 +90,9 @@ private:
         datum.record.Ellipsoid = static_cast<EllipsoidType>(told.ellipsoid);
         datum.record.MajorRadius = told.radius;
         datum.record.Flattening = told.flattening;
-        return mapDatumOf(datum);
+        MapDatum map = mapDatumOf(datum);
+        map.isGiven = !m_datum.empty();
+        return map;
     }
 
     std::string m_in, m_out, m_datum;

@@ -103,6 +103,8 @@ public:
             addDatum(table, info.datum());
         if (info.tells(ZRPROJ_GEOREFERENCE))
             addGeoreference(table, info);
+        if (isPlacedAlone(info))
+            table.rows.push_back({"System", "not told: the tags say where the image lies, and not in which system"});
         for (std::string const& note : info.notes())
             table.rows.push_back({"Not read", note});
         table.write(output);
@@ -110,6 +112,11 @@ public:
     }
 
 private:
+    /// Whether tags have a georeference, and neither they nor a file beside them tell the system.
+    bool isPlacedAlone(MapInfo const& info) const {
+        return info.fileOf(ZRPROJ_GEOREFERENCE) == "" && !info.tells(ZRPROJ_PROJECTION) && info.notes().empty();
+    }
+
     /// Of records only what the register has.
     static void addSystem(Table& table, MapInfo const& info) {
         try {

@@ -67,11 +67,13 @@ private:
     }
 
     static void setProjection(ProjectionChoice& choice, MapInfo const& info) {
-        choice.system = info.system();
-        if (!choice.system)
-            choice.record = info.projection();
-        else if (!choice.system->isGeographic())
+        bool const isMap = info.system() && !info.system()->isGeographic();
+        if (isMap) {
+            choice.system = info.system();
             choice.unit = &choice.system->unit();
+        } else if (info.hasRecord()) {
+            choice.record = info.projection();
+        } // else longitudes and latitudes, which records leave as they are
     }
 
     /// Of a similarity, which may have been given no choice: an RSF file says no other method.

@@ -63,6 +63,25 @@ LengthUnit const* takeUnit(PROJDATA& record) {
     return nullptr;
 }
 
+struct Axes {
+    double major, minor;
+};
+
+Axes axesOf(Figure const& figure) {
+    bool const isOwn = figure.ellipsoid == EllipsoidTypeUserDefined;
+    double const radius = isOwn ? figure.radius : EllipsoidRadius(figure.ellipsoid);
+    return {radius, radius * (1 - (isOwn ? figure.flattening : EllipsoidFlattening(figure.ellipsoid)))};
+}
+
+/// Whether two ellipsoids are within a metre of each other, the most that catalogues differ by.
+bool areNear(Axes const& a, Axes const& b) {
+    return std::fabs(a.major - b.major) < 1 && std::fabs(a.minor - b.minor) < 1;
+}
+
+std::string figureName(Figure const& figure) {
+    return figure.ellipsoid == EllipsoidTypeUserDefined ? "an ellipsoid of your own" : ellipsoidName(figure.ellipsoid);
+}
+
 /// Refuses what the library refuses, in its words.
 void check(PROJDATA const& record) {
     std::array<char, 512> message{};
@@ -156,8 +175,32 @@ ProjType ProjectionOptions::givenProjection() const {
     return findProjection(value(ProjParamType).text);
 }
 
+/// Refuses a zone of one North American Datum on the other, or on a datum of quite another ellipsoid.
+void ProjectionOptions::refuseOtherZone(StatePlaneZone zone, MapDatum const& datum) const {
+    bool const is1927 = zone.type == ProjTypeStatePlane1927;
+    Axes const ofZone = axesOf({is1927 ? EllipsoidTypeClarke1866 : EllipsoidTypeGrs1980Iugg1980});
+    bool const isOther =
+        datum.year ? is1927 != (datum.year == 1927) : datum.isGiven && !areNear(ofZone, axesOf(datum.figure));
+    if (!isOther)
+        return;
+    std::string const option = m_yearOption.isGiven()         ? "--year"
+                               : m_statePlaneOption.isGiven() ? "--state-plane"
+                                                              : "--state-zone";
+    throw UsageError(option + ": the zone is defined on the North American Datum " + (is1927 ? "1927" : "1983") +
+                     ", and --datum says " + (datum.year ? std::to_string(*datum.year) : figureName(datum.figure)));
+}
+
+/// Refuses an ellipsoid that is told beside a datum that has another.
+void ProjectionOptions::refuseOtherEllipsoid(PROJDATA const& record, Figure const& ofDatum) const {
+    int const id = given(ProjParamMajorRadius) ? ProjParamMajorRadius : ProjParamEllipsoid;
+    Figure const told{record.Ellipsoid, record.MajorRadius, record.Flattening};
+    if (given(id) && !areNear(axesOf(told), axesOf(ofDatum)))
+        throw UsageError(parameter(id).option + ": " + figureName(told) +
+                         " is another ellipsoid than that of --datum, " + figureName(ofDatum));
+}
+
 /// Sets the projection's type, and what a zone tells of it.
-void ProjectionOptions::startFrom(ProjectionChoice& choice, std::optional<int> yearOfDatum) const {
+void ProjectionOptions::startFrom(ProjectionChoice& choice, MapDatum const& datum) const {
     bool const utm = m_utmOption.isGiven(), statePlane = m_statePlaneOption.isGiven();
     if (utm + statePlane + given(ProjParamType) > 1)
         throw UsageError("more than one projection; give one of --utm, --state-plane and --projection");
@@ -173,13 +216,9 @@ void ProjectionOptions::startFrom(ProjectionChoice& choice, std::optional<int> y
         throw UsageError(statePlane ? "--state-zone has no place beside --state-plane, which tells it"
                                     : "the projection needs --state-zone");
     auto const impliedYear = choice.record.Type == ProjTypeStatePlane1927 ? 1927 : 1983;
-    StatePlaneZone const zone = statePlane ? findStatePlaneZone(m_statePlane, zoneYear ? zoneYear : yearOfDatum)
+    StatePlaneZone const zone = statePlane ? findStatePlaneZone(m_statePlane, zoneYear ? zoneYear : datum.year)
                                            : findStatePlaneZone(value(ProjParamZone).text, impliedYear);
-    if (yearOfDatum && (zone.type == ProjTypeStatePlane1927) != (yearOfDatum == 1927))
-        throw UsageError(std::string(statePlane ? "--state-plane" : "--state-zone") +
-                         ": the zone is defined on the North American Datum 1" +
-                         (zone.type == ProjTypeStatePlane1927 ? "927" : "983") + ", and --datum says " +
-                         std::to_string(*yearOfDatum));
+    refuseOtherZone(zone, datum);
     choice.record.Type = zone.type;
     choice.record.Zone = zone.zone;
 }
@@ -274,10 +313,12 @@ ProjectionChoice ProjectionOptions::choice(MapDatum const& datum) const {
     if (m_likeOption.isGiven())
         return choiceLike();
     ProjectionChoice choice;
-    startFrom(choice, datum.year);
+    startFrom(choice, datum);
     refuseUnused(choice.record.Type);
     setEllipsoid(choice.record, datum.figure);
     setValues(choice.record);
+    if (datum.isGiven)
+        refuseOtherEllipsoid(choice.record, datum.figure);
     check(choice.record);
     return choice;
 }

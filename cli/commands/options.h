@@ -3,6 +3,7 @@
 
 #include "cli/model/datums.h"
 #include "cli/model/projection.h"
+#include "cli/model/zones.h"
 #include "cli/points/layout.h"
 #include "cli/text/command_line.h"
 
@@ -60,7 +61,7 @@ private:
     void refuseOthers(Option const& than) const;
     ProjectionChoice choiceOfSystem(MapDatum const& datum) const;
     ProjectionChoice choiceLike() const;
-    void startFrom(ProjectionChoice& choice, std::optional<int> yearOfDatum) const;
+    void startFrom(ProjectionChoice& choice, MapDatum const& datum) const;
     void startFromUtm(ProjectionChoice& choice) const;
     ProjType givenProjection() const;
     Value const& value(int id) const { return m_values[static_cast<std::size_t>(id - 1)]; }
@@ -68,6 +69,8 @@ private:
     std::optional<int> year() const;
     void refuseUnused(ProjType type) const;
     void setEllipsoid(PROJDATA& record, Figure const& standard) const;
+    void refuseOtherZone(StatePlaneZone zone, MapDatum const& datum) const;
+    void refuseOtherEllipsoid(PROJDATA const& record, Figure const& ofDatum) const;
     void setValues(PROJDATA& record) const;
 
     std::vector<Value> m_values; // one a catalogue parameter, in catalogue order

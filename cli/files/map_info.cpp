@@ -30,31 +30,31 @@ MapInfo::MapInfo(zrproj_parameters const* parameters, zrproj_georeference const*
     : MapInfo(
           of([&](zrproj_description** made) { return zrproj_description_create(parameters, georeference, made); })) {}
 
-/// Tags may say a system that no record can.
-MapInfo::MapInfo(zrproj_description* description) : m_description(description) {
+MapInfo::MapInfo(zrproj_description* description) : m_description(description) {}
+
+MapInfo::MapInfo(SystemPointer system, std::string const& file)
+    : MapInfo(of([&](zrproj_description** made) {
+          return zrproj_description_create_from_system(system->handle(), file.c_str(), made);
+      })) {
+    m_system = std::move(system);
+}
+
+void MapInfo::takeSystem() {
     zrproj_system* system = nullptr;
-    if (description && !hasRecord() && zrproj_description_system(description, &system) == ZRPROJ_OK)
+    if (zrproj_description_system(handle(), &system) == ZRPROJ_OK)
         m_system = std::make_shared<System const>(system);
 }
 
-MapInfo::MapInfo(SystemPointer system, std::string file) : m_system(std::move(system)), m_systemFile(std::move(file)) {
-    zrproj_parameters parameters{};
-    parameters.size = sizeof parameters;
-    bool const isSaid = zrproj_system_parameters(m_system->handle(), &parameters) == ZRPROJ_OK;
-    m_description = MapInfo(isSaid ? &parameters : nullptr, nullptr).m_description;
-}
-
 std::optional<std::string> MapInfo::fileOf(zrproj_part part) const {
-    if (m_system && part == ZRPROJ_PROJECTION)
-        return m_systemFile;
     char const* file = nullptr;
-    if (zrproj_description_source(handle(), part, &file) != ZRPROJ_OK)
-        return std::nullopt;
-    return m_system && part == ZRPROJ_DATUM && *file == '\0' ? m_systemFile : file;
+    return zrproj_description_source(handle(), part, &file) == ZRPROJ_OK ? std::optional<std::string>(file)
+                                                                         : std::nullopt;
 }
 
 bool MapInfo::hasRecord() const {
-    return zrproj_description_source(handle(), ZRPROJ_PROJECTION, nullptr) == ZRPROJ_OK;
+    zrproj_parameters parameters{};
+    parameters.size = sizeof parameters;
+    return zrproj_description_parameters(handle(), &parameters) == ZRPROJ_OK && parameters.type != ProjTypeUndefined;
 }
 
 std::vector<std::string> MapInfo::notes() const {
@@ -77,22 +77,11 @@ zrproj_georeference MapInfo::georeference() const {
     return filled(zrproj_description_georeference, *this);
 }
 
-MapInfo MapInfo::withoutSystem() const {
-    if (!tells(ZRPROJ_GEOREFERENCE))
-        return {};
-    zrproj_georeference const georeference = this->georeference();
-    return {nullptr, &georeference};
-}
-
-/// Records of another system do not stand beside a definition.
 MapInfo MapInfo::with(MapInfo const& later) const {
-    MapInfo const rest = m_system && !hasRecord() ? later.withoutSystem() : MapInfo();
-    MapInfo const& added = m_system && !hasRecord() ? rest : later;
     MapInfo all =
-        of([&](zrproj_description** made) { return zrproj_description_combine(handle(), added.handle(), made); });
-    MapInfo const& telling = tells(ZRPROJ_PROJECTION) ? *this : later;
-    all.m_system = telling.m_system;
-    all.m_systemFile = telling.m_systemFile;
+        of([&](zrproj_description** made) { return zrproj_description_combine(handle(), later.handle(), made); });
+    bool const tellsOfSystem = tells(ZRPROJ_PROJECTION) || tells(ZRPROJ_DATUM);
+    all.m_system = tellsOfSystem ? m_system : later.m_system;
     return all;
 }
 
@@ -104,28 +93,33 @@ void MapInfo::check(zrproj_status status) {
 }
 
 char const* MapFile::title() const {
-    constexpr std::array titles{"reference file", "RSF file", "world file", "GeoTIFF tags",
-                                "coordinate system"}; // by FileKind
+    constexpr std::array titles{"reference file", "RSF file",          "world file",
+                                "GeoTIFF tags",   "coordinate system", "auxiliary file"}; // by FileKind
     return titles.at(static_cast<std::size_t>(kind));
 }
 
 MapInfo MapFile::read() const {
-    if (kind == FileKind::Definition)
+    switch (kind) {
+    case FileKind::Definition:
         return {systemOfFile(name), name};
-    return kind == FileKind::GeoTiff ? readTags(name) : readSideFile(*this);
+    case FileKind::Auxiliary:
+        return readAuxiliary(name);
+    case FileKind::GeoTiff:
+        return readTags(name);
+    default:
+        return readSideFile(*this);
+    }
 }
 
 std::vector<std::string> MapFile::write(MapInfo const& info, Misfit misfit) const {
     if (kind == FileKind::Definition)
         return writeDefinition(name, info);
-    bool const isLeftOut = info.system() && !info.hasRecord();
-    if (isLeftOut && !info.tells(ZRPROJ_GEOREFERENCE))
+    if (kind == FileKind::GeoTiff)
+        return writeTags(name, info);
+    if (info.system() && !info.hasRecord() && !info.tells(ZRPROJ_GEOREFERENCE))
         throw std::runtime_error("cannot write " + inQuotes(name) + ": no record says the system " +
                                  info.system()->title());
-    auto notes = kind == FileKind::GeoTiff ? writeTags(name, info) : writeSideFile(*this, info, misfit);
-    if (isLeftOut)
-        notes.push_back("the system " + info.system()->title() + " is left out: no record says it");
-    return notes;
+    return writeSideFile(*this, info, misfit);
 }
 
 std::optional<MapFile> sideFile(std::string const& name) {
@@ -138,6 +132,25 @@ std::optional<MapFile> sideFile(std::string const& name) {
 }
 
 namespace {
+
+/// Whether two definitions are the same system: by the register, or else by what they say.
+bool areSame(System const& a, System const& b) {
+    try {
+        return a.code() == b.code() && (!a.code().empty() || a.text(ZRPROJ_PROJ_STRING) == b.text(ZRPROJ_PROJ_STRING));
+    } catch (std::runtime_error const&) { // no PROJ string says them
+        return a.text(ZRPROJ_WKT2) == b.text(ZRPROJ_WKT2);
+    }
+}
+
+/// What a later file says of the system against what is taken.
+void tellOfContradiction(std::string const& image, MapInfo const& taken, MapFile const& file, MapInfo const& told) {
+    if (!taken.system() || !told.system() || areSame(*taken.system(), *told.system()))
+        return;
+    std::string const first = taken.fileOf(ZRPROJ_PROJECTION).value_or("");
+    std::string const source = first.empty() ? "the tags of " + inQuotes(image) + " say" : inQuotes(first) + " says";
+    std::fprintf(stderr, "zrproj: %s says %s, but %s is taken, as %s\n", inQuotes(file.name).c_str(),
+                 told.system()->title().c_str(), taken.system()->title().c_str(), source.c_str());
+}
 
 MapInfo readIfGood(MapFile const& file) {
     try {
@@ -154,13 +167,18 @@ std::vector<MapFile> filesOf(std::string const& image) {
     std::vector<MapFile> result = sideFilesOf(image);
     if (isTiffFile(image) && mayHaveTags(image))
         result.push_back({FileKind::GeoTiff, image});
+    for (MapFile& file : definitionsBeside(image))
+        result.push_back(std::move(file));
     return result;
 }
 
 MapInfo readImage(std::string const& image) {
     MapInfo info;
-    for (MapFile const& file : filesOf(image))
-        info = info.with(readIfGood(file));
+    for (MapFile const& file : filesOf(image)) {
+        MapInfo const told = readIfGood(file);
+        tellOfContradiction(image, info, file, told);
+        info = info.with(told);
+    }
     return info;
 }
 

@@ -28,8 +28,8 @@ public:
         return MapInfo(description);
     }
 
-    /// Of a definition in a file, and of what records can say of it.
-    MapInfo(SystemPointer system, std::string file);
+    /// Of a definition in a file, "" for none, and of what records can say of it.
+    MapInfo(SystemPointer system, std::string const& file);
 
     bool tells(zrproj_part part) const { return fileOf(part).has_value(); }
     /// The file that tells a part, "" for what no file tells; nothing where the part is not told.
@@ -39,6 +39,8 @@ public:
 
     /// The system, where a definition or tags tell one that records need not say; null for none.
     SystemPointer const& system() const { return m_system; }
+    /// Takes the system for one that a definition tells, whatever records say of it.
+    void takeSystem();
     bool hasRecord() const;
 
     /// Of parts that are told by records.
@@ -61,11 +63,8 @@ private:
 
     explicit MapInfo(zrproj_description* description);
 
-    MapInfo withoutSystem() const;
-
     std::unique_ptr<zrproj_description, Destroyer> m_description;
     SystemPointer m_system;
-    std::string m_systemFile;
 };
 
 /// What to do where a file says of control points that they are fitted in a way that misses them widely.
@@ -76,8 +75,9 @@ enum class FileKind {
     Reference = ZRPROJ_REFERENCE_FILE,
     Rsf = ZRPROJ_RSF_FILE,
     World = ZRPROJ_WORLD_FILE,
-    GeoTiff,   // the tags of a TIFF file
-    Definition // a .prj file
+    GeoTiff,    // the tags of a TIFF file
+    Definition, // a .prj file
+    Auxiliary   // an .aux.xml file, in which GDAL keeps what a file's own tags have no words for
 };
 
 struct MapFile {

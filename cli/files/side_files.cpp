@@ -4,7 +4,9 @@
 #include "cli/text/text.h"
 
 #include <array>
+#include <cstring>
 #include <filesystem>
+#include <fstream>
 #include <memory>
 #include <stdexcept>
 
@@ -13,6 +15,18 @@ namespace {
 
 zrproj_side_file kindOf(MapFile const& file) {
     return static_cast<zrproj_side_file>(file.kind);
+}
+
+constexpr std::size_t longestAuxiliary = std::size_t{4} << 20; // bytes that are looked at
+
+/// Character data of XML as the text that it stands for.
+std::string unescaped(std::string text) {
+    constexpr std::array<std::pair<char const*, char const*>, 5> entities{
+        {{"&quot;", "\""}, {"&apos;", "'"}, {"&lt;", "<"}, {"&gt;", ">"}, {"&amp;", "&"}}};
+    for (auto const& [entity, character] : entities)
+        for (auto at = text.find(entity); at != text.npos; at = text.find(entity, at + 1))
+            text.replace(at, std::strlen(entity), character);
+    return text;
 }
 
 /// What a file of that kind cannot carry.
@@ -65,6 +79,14 @@ std::vector<MapFile> sideFilesOf(std::string const& image) {
     char const* path = nullptr;
     while (zrproj_side_files_entry(files, found.size(), &kind, &path) == ZRPROJ_OK)
         found.push_back({static_cast<FileKind>(kind), path});
+    return found;
+}
+
+std::vector<MapFile> definitionsBeside(std::string const& image) {
+    std::vector<MapFile> found;
+    std::error_code none;
+    if (std::string const auxiliary = image + ".aux.xml"; std::filesystem::is_regular_file(auxiliary, none))
+        found.push_back({FileKind::Auxiliary, auxiliary});
     if (auto const prj = prjOf(image); !prj.empty())
         found.push_back({FileKind::Definition, prj});
     return found;
@@ -72,6 +94,17 @@ std::vector<MapFile> sideFilesOf(std::string const& image) {
 
 bool isPrjName(std::string const& name) {
     return squeezed(std::filesystem::path(name).extension().string()) == squeezed(".prj");
+}
+
+MapInfo readAuxiliary(std::string const& name) {
+    std::string text(longestAuxiliary, '\0');
+    std::ifstream file(name, std::ios::binary);
+    file.read(text.data(), static_cast<std::streamsize>(text.size()));
+    text.resize(static_cast<std::size_t>(file.gcount()));
+    auto const element = text.find("<SRS"), start = text.find('>', element), end = text.find("</SRS>", element);
+    if (element == text.npos || end == text.npos || start > end)
+        return {};
+    return {systemOfDefinition(unescaped(text.substr(start + 1, end - start - 1))), name};
 }
 
 MapInfo readSideFile(MapFile const& file) {

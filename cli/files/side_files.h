@@ -9,6 +9,13 @@ namespace ZrProj::Command {
 /// extension come after the exact ones.
 std::vector<MapFile> sideFilesOf(std::string const& image);
 
+/// The files beside an image that say its system in a definition: what GDAL keeps of it, and a .prj file. They count
+/// after the image's own tags.
+std::vector<MapFile> definitionsBeside(std::string const& image);
+
+/// What GDAL keeps of an image's system. Throws std::runtime_error for a definition that cannot be read.
+MapInfo readAuxiliary(std::string const& name);
+
 /// MapFile's read and write, of a side file.
 MapInfo readSideFile(MapFile const& file);
 std::vector<std::string> writeSideFile(MapFile const& file, MapInfo const& info, Misfit misfit);

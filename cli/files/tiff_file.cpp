@@ -193,12 +193,14 @@ std::vector<std::string> notesOn(std::string const& file, MapInfo const& info) {
 MapInfo readTags(std::string const& name) {
     TiffHandle const file = open(name, "r");
     std::vector<zrproj_tag> const tags = tagsOf(*file);
-    return MapInfo::of([&](zrproj_description** read) {
+    MapInfo info = MapInfo::of([&](zrproj_description** read) {
         zrproj_status const status = zrproj_description_of_tags(tags.data(), tags.size(), read);
         if (status == ZRPROJ_FILE)
             throw std::runtime_error("the GeoTIFF tags of " + inQuotes(name) + " are damaged: " + zrproj_message());
         return status;
     });
+    info.takeSystem();
+    return info;
 }
 
 std::vector<std::string> writeTags(std::string const& name, MapInfo const& info) {

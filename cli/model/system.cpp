@@ -6,6 +6,8 @@
 
 #include <algorithm>
 #include <array>
+#include <cctype>
+#include <cerrno>
 #include <cmath>
 #include <cstdio>
 #include <filesystem>
@@ -37,7 +39,7 @@ SystemPointer made(zrproj_status status, zrproj_system* handle) {
 
 } // namespace
 
-System::System(zrproj_system* handle) : m_handle(handle), m_unit(unitOf(handle)) {}
+System::System(zrproj_system* handle, MadeBy madeBy) : m_handle(handle), m_unit(unitOf(handle)), m_madeBy(madeBy) {}
 
 std::string System::text(zrproj_format format) const {
     std::size_t length = 0;
@@ -89,17 +91,39 @@ SystemPointer systemOfFile(std::string const& file) {
     }
 }
 
+namespace {
+
+/// Whether a text that is no definition is written as the path of a file: with an extension, or a separator between
+/// letters, which in names of systems stands between blanks.
+bool looksLikePath(std::string const& text) {
+    std::string const extension = std::filesystem::path(text).extension().string();
+    auto const slash = text.find('/');
+    bool const isSeparated = slash != text.npos && text.substr(slash).find("/ ") != 0 && text.find("://") == text.npos;
+    return isSeparated || (extension.size() > 2 && extension.size() < 9 &&
+                           std::ranges::all_of(extension.substr(1), [](unsigned char c) { return std::isalpha(c); }));
+}
+
+} // namespace
+
 SystemPointer systemNamed(std::string const& definitionOrFile) {
     std::error_code none;
-    bool const isFile = std::filesystem::is_regular_file(definitionOrFile, none);
-    return isFile ? systemOfFile(definitionOrFile) : systemOfDefinition(definitionOrFile);
+    if (std::filesystem::is_regular_file(definitionOrFile, none))
+        return systemOfFile(definitionOrFile);
+    if (std::filesystem::is_directory(definitionOrFile, none))
+        throw std::runtime_error("cannot read " + inQuotes(definitionOrFile) + ": it is a directory");
+    zrproj_system* handle = nullptr;
+    zrproj_status const status = zrproj_system_create(definitionOrFile.c_str(), &handle);
+    zrproj_system_destroy(handle);
+    if (status == ZRPROJ_UNKNOWN && looksLikePath(definitionOrFile))
+        throw std::runtime_error("cannot read " + inQuotes(definitionOrFile) + ": " + systemMessage(ENOENT));
+    return systemOfDefinition(definitionOrFile);
 }
 
 SystemPointer systemOfParameters(zrproj_parameters const& parameters) {
     zrproj_system* handle = nullptr;
     switch (zrproj_system_create_from_parameters(&parameters, &handle)) {
     case ZRPROJ_OK:
-        return std::make_shared<System const>(handle);
+        return std::make_shared<System const>(handle, MadeBy::Parameters);
     case ZRPROJ_UNSUPPORTED:
         throw UsageError(noMapText(recordOf(parameters)));
     default:

@@ -13,13 +13,17 @@
 
 namespace ZrProj::Command {
 
+enum class MadeBy { Definition, Parameters };
+
 class System {
 public:
     /// Takes the handle over.
-    explicit System(zrproj_system* handle);
+    explicit System(zrproj_system* handle, MadeBy madeBy = MadeBy::Definition);
 
     zrproj_system const* handle() const { return m_handle.get(); }
     bool isGeographic() const { return m_unit.metres == 0; }
+    /// Whether it is computed by the formulas of the records, which hold less far than those of definitions.
+    bool isByParameters() const { return m_madeBy == MadeBy::Parameters; }
 
     /// A text of the form. Throws std::runtime_error where the form cannot say the system.
     std::string text(zrproj_format format) const;
@@ -43,6 +47,7 @@ private:
 
     std::unique_ptr<zrproj_system, Destroy> m_handle;
     LengthUnit m_unit{};
+    MadeBy m_madeBy;
 };
 
 using SystemPointer = std::shared_ptr<System const>;

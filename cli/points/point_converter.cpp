@@ -11,12 +11,13 @@ namespace {
 
 constexpr PROJPOINT mark{DBL_MAX, DBL_MAX};
 
-PointState stateOnWay(unsigned char reason) {
+/// `byParameters`: whether the map is a record's, whose series is good near its meridian only.
+PointState stateOnWay(unsigned char reason, bool byParameters) {
     switch (reason) {
     case ZRPROJ_CONVERTED:
         return PointState::Good;
     case ZRPROJ_FAR:
-        return PointState::Far;
+        return byParameters ? PointState::Far : PointState::Remote;
     case ZRPROJ_OUT_OF_AREA:
         return PointState::OutOfArea;
     case ZRPROJ_OFF_THE_GRID:
@@ -57,13 +58,14 @@ void PointConverter::convert(bool backwards, std::span<PROJPOINT> points, std::s
             points[i] = mark;
     if (points.empty())
         return;
+    bool const byParameters = m_way->from().isByParameters() || m_way->to().isByParameters();
     std::vector<unsigned char> reasons(points.size());
     if (zrproj_transform_points(m_way->handle(), backwards, &points.data()->x, &points.data()->y, sizeof(PROJPOINT),
                                 points.size(), reasons.data()) != ZRPROJ_OK)
         throw std::runtime_error(zrproj_message());
     for (std::size_t i = 0; i < points.size(); ++i) {
         if (states[i] == PointState::Good)
-            states[i] = stateOnWay(reasons[i]);
+            states[i] = stateOnWay(reasons[i], byParameters);
         if (!hasResult(states[i]))
             points[i] = mark;
     }

@@ -14,7 +14,8 @@ namespace ZrProj::Command {
 
 enum class PointState : std::uint8_t {
     Good,
-    Far,       // has a result, but lies too far from the central meridian for a good one
+    Far,       // has a result, but lies too far from the central meridian for a good one of a record's series
+    Remote,    // has a result, but lies beyond the reach for which the exact series is stated
     OffGrid,   // has a result, but lies outside the grid of the datum, which leaves it as it is
     OffArea,   // has a result, but a wrong one: outside the area of the datum's regression equations
     OutOfArea, // has a result, but lies outside the area that the way between the systems' datums is stated for
@@ -25,11 +26,11 @@ enum class PointState : std::uint8_t {
     Unread,    // there is no point
 };
 
-inline constexpr std::size_t pointStates = 10;
+inline constexpr std::size_t pointStates = 11;
 
 constexpr bool hasResult(PointState state) {
-    return state == PointState::Good || state == PointState::Far || state == PointState::OffGrid ||
-           state == PointState::OffArea || state == PointState::OutOfArea;
+    return state == PointState::Good || state == PointState::Far || state == PointState::Remote ||
+           state == PointState::OffGrid || state == PointState::OffArea || state == PointState::OutOfArea;
 }
 
 /// Converts points in place from one system to another, longitudes and latitudes to a map for one. Longitudes come out

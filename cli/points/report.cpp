@@ -101,6 +101,8 @@ void Report::close() {
     closeCount(PointState::Marked, "not converted: already marked * in the input");
     closeCount(PointState::Far,
                "converted, but off by metres to kilometres: more than 10 degrees from the central meridian");
+    closeCount(PointState::Remote,
+               "converted, but more than 3,900 km from the central meridian, as far as the accuracy is stated");
     closeCount(PointState::Ungridded, "not converted: outside the grid that the way between the datums needs");
     closeCount(PointState::OutOfArea, "converted, but outside the area that the way between the datums is stated for");
     closeCount(PointState::OffGrid, "not shifted to another datum: outside its grid");
@@ -124,8 +126,9 @@ int Report::conclude(Output const& output, bool strict) {
 
 int Report::status(bool strict) const {
     bool lost = false;
-    for (PointState state : {PointState::Far, PointState::OffGrid, PointState::OffArea, PointState::OutOfArea,
-                             PointState::Marked, PointState::Outside, PointState::Ungridded, PointState::NoResult})
+    for (PointState state :
+         {PointState::Far, PointState::Remote, PointState::OffGrid, PointState::OffArea, PointState::OutOfArea,
+          PointState::Marked, PointState::Outside, PointState::Ungridded, PointState::NoResult})
         lost = lost || count(state).points > 0;
     return m_failed || m_badLines > 0 || (strict && lost) ? 1 : 0;
 }

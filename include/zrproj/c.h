@@ -539,6 +539,11 @@ ZRPROJ_API zrproj_status zrproj_description_create(zrproj_parameters const* para
                                                    zrproj_georeference const* georeference,
                                                    zrproj_description** description);
 
+/// A description of a system, and of as much as parameters can say of it. `path` is the file that tells it, null for
+/// none.
+ZRPROJ_API zrproj_status zrproj_description_create_from_system(zrproj_system const* system, char const* path,
+                                                               zrproj_description** description);
+
 /// Puts two descriptions together, which may be destroyed afterwards: each part from `first` where that tells it, else
 /// from `second`. Coefficients that a reference file keeps one number of yield to any other georeference.
 ZRPROJ_API zrproj_status zrproj_description_combine(zrproj_description const* first, zrproj_description const* second,
@@ -603,6 +608,7 @@ ZRPROJ_API zrproj_status zrproj_description_write(zrproj_description const* desc
 /// The GeoTIFF tags that say what a description says.
 typedef struct zrproj_tags zrproj_tags;
 
+/// A system of the register is written by its code, whether or not parameters can say it; any other by its numbers.
 /// ZRPROJ_UNSUPPORTED, with the reason as message, where tags cannot say it exactly.
 ZRPROJ_API zrproj_status zrproj_tags_create(zrproj_description const* description, zrproj_tags** tags);
 

@@ -3,8 +3,11 @@
 #include "door/parameters.h"
 #include "door/system.h"
 #include "files/geotiff/system.h"
+#include "files/geotiff/tags.h"
 #include "files/side_file.h"
 #include "georef/method_table.h"
+#include "systems/recognition.h"
+#include "systems/to_record.h"
 
 #include <zrproj/geotiff.h>
 #include <zrproj/reffile.h>
@@ -19,7 +22,7 @@ struct zrproj_description {
     PROJDATA projection{};
     DatumType datum = DatumTypeNone;
     DATUM2WGS84 shift{};
-    std::optional<systems::Definition> system; // as tags say it, whether a record can say it or not
+    std::optional<systems::Definition> system; // as a definition says it, whether a record can say it or not
     int method = TransformMethodNone;
     std::vector<GEOREFPOINT> source, target;
     std::array<double, 6> coefficients{};
@@ -91,14 +94,14 @@ MapRecord mapRecordOf(zrproj_description const& description) {
 
 /// Takes from a later source what the earlier ones did not tell.
 void addLater(zrproj_description& description, zrproj_description const& later) {
-    bool const tellsOfSystem = description.tellsOfSystem();
+    bool const tellsOfSystem = description.tellsOfSystem(), hasOwnDatum = description.system.has_value();
     if (!description.hasProjection() && !description.system) {
         description.projection = later.projection;
         description.files[ZRPROJ_PROJECTION] = later.files[ZRPROJ_PROJECTION];
     }
     if (!tellsOfSystem)
         description.system = later.system;
-    if (!description.hasDatum()) {
+    if (!description.hasDatum() && !hasOwnDatum) {
         description.datum = later.datum;
         description.shift = later.shift;
         description.files[ZRPROJ_DATUM] = later.files[ZRPROJ_DATUM];
@@ -143,6 +146,14 @@ Answer listTags(zrproj_tag const* tags, std::size_t count, ZrBitmapTagList& list
     return {};
 }
 
+/// Longitudes and latitudes are degrees here, whatever their unit in tags.
+void scaleMap(zrproj_description& description, double factor) {
+    for (double& coefficient : description.coefficients)
+        coefficient *= factor;
+    for (GEOREFPOINT& point : description.target)
+        point = {point.x * factor, point.y * factor};
+}
+
 Answer readTags(zrproj_tag const* tags, std::size_t count, std::string const& image, zrproj_description& description) {
     ZrBitmapTagList list;
     if (Answer listed = listTags(tags, count, list); !listed.isGood())
@@ -152,7 +163,10 @@ Answer readTags(zrproj_tag const* tags, std::size_t count, std::string const& im
     if (!ZrProjGetGeoTIFF(list, &record.projection, &record.datum, &record.datumParameters, &record.georef, nullptr))
         return fileFailure(notes.empty() ? "" : notes.front());
     take(description, record, image);
-    description.system = GeoTIFF::systemOf(list);
+    if (auto system = GeoTIFF::systemOf(list)) {
+        scaleMap(description, system->degrees);
+        description.system = std::move(system->definition);
+    }
     description.notes = std::move(notes);
     return {ZRPROJ_OK, joined(description.notes)};
 }
@@ -227,6 +241,17 @@ Answer takeGeoreference(zrproj_description& description, zrproj_georeference con
     return {};
 }
 
+/// The system of a definition, with what a record can say of it.
+void takeSystem(zrproj_description& description, systems::Definition const& system) {
+    description.system = system;
+    auto const made = systems::recordOf(system);
+    if (auto const* const record = std::get_if<systems::SystemRecord>(&made)) {
+        description.projection = record->projection;
+        description.datum = record->datum;
+        description.shift = record->parameters;
+    }
+}
+
 zrproj_georeference georeferenceOf(zrproj_description const& description) {
     zrproj_georeference georeference{};
     georeference.size = sizeof georeference;
@@ -247,6 +272,45 @@ Answer explainTags(MapRecord const& record) {
     if (reason[0] == '\0')
         throw std::bad_alloc();
     return unsupported(reason.data());
+}
+
+Answer makeTags(zrproj_description const& description, zrproj_tags& made) {
+    auto const system = systems::reconcile(*description.system).definition;
+    zrproj_description inUnits = description;
+    if (!system.isProjected())
+        scaleMap(inUnits, 1 / system.angularUnit.factor);
+    auto const tags = GeoTIFF::makeTags(system, mapRecordOf(inUnits).georef);
+    if (!tags)
+        return unsupported(tags.reason());
+    made.tags = tags->data();
+    made.count = static_cast<int>(tags->size());
+    return {};
+}
+
+/// The system as a note calls it.
+std::string titleOf(systems::Definition const& system) {
+    return system.name + (system.code == 0 ? "" : " (EPSG:" + std::to_string(system.code) + ")");
+}
+
+/// What no record says of a definition; "" where one says all of it.
+std::string leftOut(zrproj_description const& description, SideFileKind kind) {
+    if (!description.system)
+        return {};
+    auto const because = [kind](std::string const& reason) {
+        return " is left out: " + (kind == SideFileKind::reference ? reason : "the format has none");
+    };
+    auto const made = systems::recordOf(*description.system);
+    if (auto const* const why = std::get_if<systems::Unsupported>(&made))
+        return "the system " + titleOf(*description.system) + because(why->reason);
+    auto const& reason = std::get<systems::SystemRecord>(made).noDatum;
+    return reason.empty() ? "" : "the datum " + description.system->datum.name + because(reason);
+}
+
+std::vector<std::string> lossOf(zrproj_description const& description, SideFileKind kind) {
+    auto lost = ZrProj::lossOf(kind, mapRecordOf(description));
+    if (auto note = leftOut(description, kind); !note.empty())
+        lost.insert(lost.begin(), std::move(note));
+    return lost;
 }
 
 /// The root of the sum of the squared distances from their middle.
@@ -370,6 +434,19 @@ zrproj_status zrproj_description_create(zrproj_parameters const* parameters, zrp
     });
 }
 
+zrproj_status zrproj_description_create_from_system(zrproj_system const* system, char const* path,
+                                                    zrproj_description** description) {
+    return answerWith(description, [&](zrproj_description& made) -> Answer {
+        if (!system)
+            return badArgument("null pointer to a system");
+        made.files.fill(path ? path : "");
+        if (system->parameters)
+            return takeParameters(made, *system->parameters);
+        takeSystem(made, system->definition);
+        return {};
+    });
+}
+
 zrproj_status zrproj_description_combine(zrproj_description const* first, zrproj_description const* second,
                                          zrproj_description** description) {
     return answerWith(description, [&](zrproj_description& made) -> Answer {
@@ -435,7 +512,7 @@ zrproj_status zrproj_description_source(zrproj_description const* description, z
     return answer([&]() -> Answer {
         if (!description || !(static_cast<std::size_t>(part) < description->files.size()))
             return badArgument("no description, or no part of one");
-        bool const isTold = part == ZRPROJ_PROJECTION ? description->hasProjection()
+        bool const isTold = part == ZRPROJ_PROJECTION ? description->hasProjection() || description->system
                             : part == ZRPROJ_DATUM    ? description->hasDatum()
                                                       : description->hasGeoreference();
         if (!isTold)
@@ -486,7 +563,7 @@ zrproj_status zrproj_description_loss(zrproj_description const* description, zrp
     return answer([&]() -> Answer {
         if (!description || !isKind(kind))
             return badArgument("no description, or no kind of file");
-        auto const lost = lossOf(static_cast<SideFileKind>(kind), mapRecordOf(*description));
+        auto const lost = lossOf(*description, static_cast<SideFileKind>(kind));
         return n < lost.size() ? giveText(lost[n], buffer, size, length) : pastTheLast(n, lost.size());
     });
 }
@@ -497,7 +574,7 @@ zrproj_status zrproj_description_write(zrproj_description const* description, ch
             return badArgument("no description, no name of a file, or no kind of file");
         FileOutcome const outcome = writeSideFile(path, static_cast<SideFileKind>(kind), mapRecordOf(*description));
         if (outcome.failure.empty())
-            return {ZRPROJ_OK, joined(outcome.notes)};
+            return {ZRPROJ_OK, joined(lossOf(*description, static_cast<SideFileKind>(kind)))};
         return outcome.isFit ? fileFailure(outcome.failure) : unsupported(outcome.failure);
     });
 }
@@ -506,6 +583,8 @@ zrproj_status zrproj_tags_create(zrproj_description const* description, zrproj_t
     return answerWith(tags, [&](zrproj_tags& made) {
         if (!description)
             return badArgument("null pointer to a description");
+        if (description->system)
+            return makeTags(*description, made);
         MapRecord const record = mapRecordOf(*description);
         return ZrProjBuildGeoTIFFTags(&record.projection, record.datum, &record.datumParameters, &record.georef,
                                       &made.tags, &made.count)

@@ -31,6 +31,19 @@ failed 'unknown' 'the register has no system "Amersfort RD"; near it are "Amersf
 failed 'no definition' 'line 1, column *' show --crs 'PROJCS["a",'
 refused 'no such form' '--as: "wkt" is none of wkt2,*' show --crs 28992 --as wkt
 refused 'nothing to convert' 'WGS 84 has longitudes and latitudes already*' forward --crs 4326
+failed 'no such file' 'cannot read "nofile.prj": No such file*' show --crs nofile.prj
+failed 'no such path' 'cannot read "../none/x": No such file*' show --crs ../none/x
+failed 'a directory' 'cannot read "..": it is a directory' show --crs ..
+failed 'a name with a stroke' 'the register has no system "Amersfort / RD"*' show --crs 'Amersfort / RD'
+check 'beyond the series of a record' 0 '4729426.335,0.000' 'zrproj: 1 point converted, but off by metres to kilometres*' \
+    forward --utm 17N <<<'-45.5,0'
+check 'beyond what is stated' 0 '4732634.779,0.000' \
+    'zrproj: 1 point converted, but more than 3,900 km from the central meridian, as far as the accuracy is stated (<stdin>:1)' \
+    forward --crs EPSG:32617 <<<'-45.5,0'
+refused 'a year on another datum' '--year: the zone is defined on the North American Datum 1927, and --datum says WGS 84' \
+    forward --state-plane 'california i' --year 1927 --datum wgs84
+refused 'an ellipsoid on another datum' '--ellipsoid: WGS 84 is another ellipsoid than that of --datum, Clarke 1866' \
+    forward --utm 14N --datum nad27 --ellipsoid 'WGS 84'
 refused 'a datum' '--datum has no place beside --crs*' forward --crs 2229 --datum nad27
 
 # Zones on the datum that is told.

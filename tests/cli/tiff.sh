@@ -44,7 +44,7 @@ Datum                              North American Datum 1983
 X                                  2 x + 0 y + 630000
 Y                                  0 x + -2 y + 4835000'
 check 'place' 1 'name,x,y,longitude,latitude
-a,0,0,-79.387807849,43.656635240
+a,0,0,-79.387807849,43.656635241
 b,n,2,*,*' '<stdin>:3: *"n" is not a number*' locate 'my scan.tif' <<<$'name,x,y\na,0,0\nb,n,2'
 check 'like an image' 0 '630084.301,4833438.586' '' forward --like 'my scan.tif' <<<'-79.387139,43.642567'
 
@@ -92,6 +92,55 @@ reference 'Projection Name' 'Unprojected Lat/Long' 'Datum Name' 'World Geodetic 
 check 'degrees' 0 '' '' convert geo.zrr feet.tif
 printf '0.1\n0\n0\n-0.1\n10.05\n49.95\n' >feet.tfw
 check 'place by degrees' 0 '10.500000000 49.000000000' '' locate feet.tif <<<'5 10'
+
+# Systems of the register go by their codes, whether or not a record can say them; numbers on a datum that has a code.
+printf '2\n0\n0\n-2\n400001\n299999\n' >crs.tfw
+for code in 27700 3035 2193 2154 2056 27572 28191 28992 5514 5513 2065 6933 8857 27200 2054 29873 3375 3844 4275 4807 3857; do
+    little_tiff >crs.tif
+    check "into the tags, EPSG:$code" 0 '' '' convert crs.tfw crs.tif --crs "EPSG:$code"
+    expect "EPSG:$code" "$("$zrproj" info crs.tif | grep -o -E '^System.*EPSG:[0-9]+|^[XY] .*' | sed 's/.*EPSG:/EPSG:/;s/   */ /')" \
+        "EPSG:$code
+X 2 x + 0 y + 400000
+Y 0 x + -2 y + 300000"
+done
+check 'the horizontal part' 0 '' '' convert crs.tfw crs.tif --crs EPSG:7405
+expect 'is its own system' "$("$zrproj" info crs.tif | grep -c -F '(EPSG:27700)')" 1
+for base in EPSG:4277 EPSG:4807; do
+    "$zrproj" show --crs "$([[ $base == EPSG:4277 ]] && echo 27700 || echo 27572)" --as wkt2 |
+        sed -E 's/"(False easting|Easting at false origin)",[0-9]+/"\1",500000/;s/,ID\["EPSG",27[0-9]*\]\]$/]/' >numbers.prj
+    little_tiff >own.tif
+    check "numbers on $base" 0 '' '*' convert crs.tfw own.tif --crs numbers.prj
+    expect "places on $base" "$("$zrproj" inverse --like own.tif <<<'400000,300000')" \
+        "$("$zrproj" inverse --crs numbers.prj 2>err <<<'400000,300000')"
+done
+check 'told of a side file' 0 '' '*the datum Ordnance Survey of Great Britain 1936 is left out: datum 6277*' convert crs.tfw crs.zrr --crs EPSG:27700
+check 'of a system' 0 '' '*the system Amersfoort / RD New (EPSG:28992) is left out: no record says*' convert crs.tfw crs.zrr --crs EPSG:28992
+rm crs.* own.* numbers.prj
+
+# The tags of a file go before definitions beside it, and a contradiction is told.
+little_tiff >a.tif
+printf '2\n0\n0\n-2\n630001\n4834999\n' >a.wld
+check 'tags' 0 '' '' convert a.wld a.tif --crs EPSG:32617
+"$zrproj" show --crs EPSG:28992 --as esri >a.prj
+contradiction='zrproj: "a.prj" says Amersfoort / RD New (EPSG:28992), but WGS 84 / UTM zone 17N (EPSG:32617) is taken, as the tags of "a.tif" say'
+check 'contradicted' 0 '-79.387807849 43.656635240' "$contradiction" locate a.tif <<<'0 0'
+check 'contradicted, like' 0 '630084.301,4833438.586' "$contradiction" forward --like a.tif <<<'-79.387139,43.642567'
+expect 'which is used' "$("$zrproj" info a.tif 2>err | sed -n '2,3s/  *//gp;s/^System *//p')" 'a.tifGeoTIFFtagsusedforprojection,datum
+a.prjcoordinatesystemnotused
+WGS 84 / UTM zone 17N (EPSG:32617)'
+expect 'and told' "$(<err)" "$contradiction"
+"$zrproj" show --crs EPSG:32617 --as esri >a.prj
+check 'not contradicted' 0 '-79.387807849 43.656635240' '' locate a.tif <<<'0 0'
+little_tiff >a.tif && rm a.prj
+check 'a place alone' 0 '' '*nothing says in which*' convert a.wld a.tif
+rm a.wld
+expect 'no system is told' "$("$zrproj" info a.tif | grep '^System')" \
+    'System        not told: the tags say where the image lies, and not in which system'
+printf '<PAMDataset>\n  <SRS dataAxisToSRSAxisMapping="1,2">%s</SRS>\n</PAMDataset>\n' \
+    "$("$zrproj" show --crs EPSG:8857 --as wkt2 | sed 's/"/\&quot;/g')" >a.tif.aux.xml
+expect 'what stands beside it' "$("$zrproj" info a.tif | grep '^System')" \
+    'System        WGS 84 / Equal Earth Greenwich (EPSG:8857)'
+rm a.*
 
 # What cannot be done, and leaves everything as it was.
 before=$(here) bytes=$(cksum 'my scan.tif')

@@ -377,6 +377,66 @@ TEST(DoorDescription, KnowsFilesByTheirNames) {
     EXPECT_STREQ(text, "map.tfW");
 }
 
+TEST(DoorDescription, CarriesSystemsThatRecordsDoNotSay) {
+    TemporaryDirectory const directory;
+    auto const name = directory.file("map.zrr");
+    auto const ofSystem = [](char const* definition) {
+        auto const system = made<System>([&](zrproj_system** s) { return zrproj_system_create(definition, s); });
+        return made<Description>(
+            [&](zrproj_description** d) { return zrproj_description_create_from_system(system.get(), "a file", d); });
+    };
+    auto const throughTags = [](Description const& description) {
+        auto const tags = made<Tags>([&](zrproj_tags** t) { return zrproj_tags_create(description.get(), t); });
+        std::vector<zrproj_tag> list;
+        for (zrproj_tag tag{}; zrproj_tags_entry(tags.get(), list.size(), &tag) == ZRPROJ_OK;)
+            list.push_back(tag);
+        return made<Description>(
+            [&](zrproj_description** d) { return zrproj_description_of_tags(list.data(), list.size(), d); });
+    };
+    auto const textOf = [](Description const& description, zrproj_format format) {
+        auto const system =
+            made<System>([&](zrproj_system** s) { return zrproj_description_system(description.get(), s); });
+        char text[2000];
+        EXPECT_EQ(zrproj_system_text(system.get(), format, text, sizeof text, nullptr), ZRPROJ_OK) << zrproj_message();
+        return std::string(text);
+    };
+    for (char const* const code : {"EPSG:27700", "EPSG:28992", "EPSG:2065", "EPSG:8857", "EPSG:3857", "EPSG:4807"}) {
+        SCOPED_TRACE(code);
+        EXPECT_EQ(textOf(throughTags(ofSystem(code)), ZRPROJ_CODE), code);
+    }
+    EXPECT_EQ(textOf(throughTags(ofSystem("EPSG:7405")), ZRPROJ_CODE), "EPSG:27700");
+    char const own[] = "+proj=tmerc +lat_0=1 +lon_0=2 +k=0.999 +x_0=3000 +y_0=4000 +ellps=bessel "
+                       "+towgs84=1,2,3,4,5,6,7 +units=m +no_defs +type=crs";
+    EXPECT_EQ(textOf(throughTags(ofSystem(own)), ZRPROJ_PROJ_STRING), own);
+
+    // Longitudes are degrees here and grads in tags, as the system has them.
+    auto const place = made<Description>([&](zrproj_description** d) {
+        auto const parts = scan(false), system = ofSystem("EPSG:4807");
+        return zrproj_description_combine(system.get(), parts.get(), d);
+    });
+    auto const back = georeferenceOf(throughTags(place));
+    EXPECT_NEAR(back.coefficients[2], 500000, 1e-6);
+    EXPECT_NEAR(back.coefficients[4], -2, 1e-12);
+
+    EXPECT_EQ(lossOf(ofSystem("EPSG:27700"), ZRPROJ_REFERENCE_FILE),
+              std::vector<std::string>{"the datum Ordnance Survey of Great Britain 1936 is left out: datum 6277 is not "
+                                       "one of the catalogue's"});
+    EXPECT_EQ(lossOf(ofSystem("EPSG:28992"), ZRPROJ_REFERENCE_FILE).size(), 1U);
+    EXPECT_EQ(lossOf(ofSystem("EPSG:32617"), ZRPROJ_REFERENCE_FILE).size(), 0U);
+    EXPECT_EQ(write(ofSystem("EPSG:28992"), name, ZRPROJ_REFERENCE_FILE), ZRPROJ_UNSUPPORTED);
+    char const* path = nullptr;
+    ASSERT_EQ(zrproj_description_source(ofSystem("EPSG:28992").get(), ZRPROJ_PROJECTION, nullptr), ZRPROJ_OK);
+    EXPECT_EQ(zrproj_description_source(ofSystem("EPSG:28992").get(), ZRPROJ_DATUM, &path), ZRPROJ_UNKNOWN);
+    // A system's own datum is not another file's.
+    auto const combined = made<Description>([&](zrproj_description** d) {
+        auto const british = ofSystem("EPSG:27700"), american = scan();
+        return zrproj_description_combine(british.get(), american.get(), d);
+    });
+    EXPECT_EQ(zrproj_description_source(combined.get(), ZRPROJ_DATUM, &path), ZRPROJ_UNKNOWN);
+    zrproj_description* none = nullptr;
+    EXPECT_EQ(zrproj_description_create_from_system(nullptr, nullptr, &none), ZRPROJ_BAD_ARGUMENT);
+}
+
 TEST(DoorDescription, GoesThroughTags) {
     Description const given = scan();
     auto const tags = made<Tags>([&](zrproj_tags** t) { return zrproj_tags_create(given.get(), t); });

@@ -109,5 +109,32 @@ want="+proj=mill" check "Miller" 25 -20 none "Miller Cylindrical" "$s" "Lon0 (de
 want="+proj=vandg" check "Van der Grinten" 25 -20 none "Van Der Grinten" "$s" "Lon0 (degrees)=20"
 want="+proj=longlat +datum=WGS84" check "Unprojected" 25 -20 "$wgs84" "Unprojected Lat/Long"
 want="+towgs84=-107,-88,-149" check "A datum without a code" 14 36 "European 1950 - Malta" "Transverse Mercator" "$i" "Lon0 (degrees)=14" "Central Scale=1"
+
+# Systems of the register go by their codes, though no record says most of these.
+for code in 27700 3035 2193 2154 2056 27572 28191 28992 5514 5513 2065 6933 8857 27200 2054 29873 3375 3844 3857 2229 4275 4807; do
+    name="EPSG:$code"
+    blank_tiff >map.tif
+    "$zrproj" convert map.wld map.tif --crs "$name"
+    gdalinfo map.tif | grep -q -F "    ID[\"EPSG\",$code]]" || fail "GDAL reads another system"
+    listgeo map.tif | grep -q -E "^(PCS = $code |GCS: $code/)" || fail "libgeotiff reads another system"
+    checked=$((checked + 1))
+done
+
+# Numbers of one's own on the code of a datum: the same places by GDAL's definition, from Paris as well.
+on_base() { # on_base NAME BASE LON LAT DEFINITION...
+    name=$1
+    local map back definition
+    map=$("$zrproj" forward --crs "${*:5}" --precision 6 <<<"$3 $4")
+    blank_tiff >map.tif
+    "$zrproj" convert map.wld map.tif --crs "${*:5}"
+    gdalinfo map.tif | grep -q -F "        ID[\"EPSG\",$2]]" || fail "GDAL reads another geographic system"
+    definition=$(gdalsrsinfo --single-line -o proj4 map.tif 2>/dev/null | head -n 1)
+    # shellcheck disable=SC2086 # words of a definition
+    back=$(proj -I -f %.10f ${definition/+no_defs/} <<<"$map")
+    near "$3 $4" "$back" 2e-8 || fail "GDAL brings the point back as $back, and not as $3 $4, by $definition"
+    checked=$((checked + 1))
+}
+on_base "Transverse Mercator on NAD 27" 4267 -99 41 +proj=tmerc +lat_0=40 +lon_0=-100 +k=0.9999 +x_0=1000 +y_0=2000 +datum=NAD27 +units=us-ft +type=crs
+on_base "Albers on WGS 84" 4326 21 51 +proj=aea +lat_0=50 +lon_0=20 +lat_1=48 +lat_2=53 +x_0=1000 +datum=WGS84 +type=crs
 printf '%d systems\n' "$checked"
 exit $failed

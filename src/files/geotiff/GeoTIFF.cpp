@@ -1,6 +1,7 @@
 // The exported functions that read and make GeoTIFF tags.
 #include "files/geotiff/placement.h"
 #include "files/geotiff/system.h"
+#include "files/geotiff/tags.h"
 #include "files/guarded.h"
 #include "files/map_record.h"
 #include "host/fpenv.h"
@@ -34,6 +35,8 @@ struct Contents {
 Expected<systems::SystemRecord> recordOf(Expected<System> const& system) {
     if (!system)
         return system.refusal();
+    if (system->degrees != 1)
+        return Refusal{"longitudes and latitudes are not in degrees"};
     auto record = systems::recordOf(system->definition);
     if (auto const* unsupported = std::get_if<systems::Unsupported>(&record))
         return Refusal{unsupported->reason};
@@ -140,9 +143,7 @@ struct TagContents {
     KeyDirectory::Contents keys;
 };
 
-Expected<TagContents> contentsOf(PROJDATA const* data, DatumType datum, DATUM2WGS84 const* params,
-                                 GEOREF const* georef) {
-    auto const keys = writeSystem(data, datum, params);
+Expected<TagContents> contentsOf(Expected<KeyDirectory> const& keys, GEOREF const* georef) {
     if (!keys)
         return keys.refusal();
     auto placement = georef ? writePlacement(*georef) : Expected(PlacementTags());
@@ -210,6 +211,17 @@ bool build(TagContents const& contents, ZrBitmapTag** tags, int* count) {
 
 } // namespace
 
+Expected<std::span<ZrBitmapTag>> GeoTIFF::makeTags(systems::Definition const& system, GEOREF const& georef) {
+    auto const contents = contentsOf(writeSystem(system), &georef);
+    if (!contents)
+        return contents.refusal();
+    ZrBitmapTag* tags = nullptr;
+    int count = 0;
+    if (!build(*contents, &tags, &count))
+        throw std::bad_alloc();
+    return std::span(tags, static_cast<std::size_t>(count));
+}
+
 bool ZrProjGetGeoTIFF(ZrBitmapTagList const& tags, PROJDATA* data, DatumType* datum, DATUM2WGS84* params,
                       GEOREF* georef, std::uint32_t* flags) {
     reset(data, datum, params, georef, flags);
@@ -238,7 +250,8 @@ bool ZrProjBuildGeoTIFFTags(PROJDATA const* data, DatumType datum, DATUM2WGS84 c
     if (!tags || !count)
         return false;
     return guarded(sourceFile, [&] {
-        auto const contents = withDefaultFloatingPoint([&] { return contentsOf(data, datum, params, georef); });
+        auto const contents =
+            withDefaultFloatingPoint([&] { return contentsOf(writeSystem(data, datum, params), georef); });
         return contents && build(*contents, tags, count);
     });
 }
@@ -253,7 +266,8 @@ bool ZrProjExplainGeoTIFFTags(PROJDATA const* data, DatumType datum, DATUM2WGS84
         return false;
     *message = '\0';
     return guarded(sourceFile, [&] {
-        auto const contents = withDefaultFloatingPoint([&] { return contentsOf(data, datum, params, georef); });
+        auto const contents =
+            withDefaultFloatingPoint([&] { return contentsOf(writeSystem(data, datum, params), georef); });
         message[contents.reason().copy(message, static_cast<std::size_t>(size) - 1)] = '\0';
         return true;
     });

@@ -76,9 +76,7 @@ Expected<System> readGeographicSystem(KeyDirectory const& keys) {
     auto const geographic = readGeographic(keys, nullptr);
     if (!geographic)
         return geographic.refusal();
-    if (geographic->degrees != 1)
-        return Refusal{"longitudes and latitudes are not in degrees"};
-    return System{geographic->system, geographic->noticed};
+    return System{geographic->system, geographic->noticed, geographic->degrees};
 }
 
 /// Puts a projected system on the geographic one that the keys tell, in the unit that they name.
@@ -207,12 +205,12 @@ Expected<System> readSystem(KeyDirectory const& keys) {
     return Refusal{"the file's model is neither projected nor geographic"};
 }
 
-std::optional<systems::Definition> systemOf(ZrBitmapTagList const& tags) {
+std::optional<System> systemOf(ZrBitmapTagList const& tags) {
     auto const keys = KeyDirectory::read(tags);
     if (!keys || keys->empty())
         return {};
     auto const system = readSystem(*keys);
-    return system ? std::optional(system->definition) : std::nullopt;
+    return system ? std::optional(*system) : std::nullopt;
 }
 
 } // namespace ZrProj::GeoTIFF

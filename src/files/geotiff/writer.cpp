@@ -251,10 +251,8 @@ Expected<KeyDirectory> writeProjected(PROJDATA const& given, DatumType datum, DA
     PROJDATA withFigures = described;
     withFigures.MajorRadius = figure.radius;
     withFigures.Flattening = figure.flattening;
-    auto const method = methodFor(withFigures);
-    if (!method)
-        return method.refusal();
-    writeDescribed(keys, withFigures, *method);
+    if (auto const refusal = writeProjection(keys, withFigures))
+        return *refusal;
     return keys;
 }
 
@@ -274,6 +272,14 @@ Expected<KeyDirectory> writeUnprojected(PROJDATA const& record, DatumType datum,
 }
 
 } // namespace
+
+std::optional<Refusal> writeProjection(KeyDirectory& keys, PROJDATA const& projection) {
+    auto const method = methodFor(projection);
+    if (!method)
+        return method.refusal();
+    writeDescribed(keys, projection, *method);
+    return {};
+}
 
 Expected<KeyDirectory> writeSystem(PROJDATA const* projection, DatumType datum, DATUM2WGS84 const* params) {
     bool const none = !projection || projection->Type == ProjTypeUndefined;

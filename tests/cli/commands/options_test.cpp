@@ -133,7 +133,11 @@ TEST(ProjectionOptions, ThatContradictEachOtherAreBothNamed) {
     EXPECT_EQ(messageOf<UsageError>([&] {
                   choice({"--state-plane", "wyoming east", "--year", "1983"}, nad27);
               }),
-              "--state-plane: the zone is defined on the North American Datum 1983, and --datum says 1927");
+              "--year: the zone is defined on the North American Datum 1983, and --datum says 1927");
+    EXPECT_EQ(messageOf<UsageError>([&] {
+                  choice({"-p", "1", "--radius", "6378000"}, nad27);
+              }),
+              "--radius: an ellipsoid of your own is another ellipsoid than that of --datum, Clarke 1866");
     EXPECT_EQ(messageOf<UsageError>([&] {
                   choice({"-p", "state plane 1927", "--state-zone", "wyoming east"}, nad83);
               }),

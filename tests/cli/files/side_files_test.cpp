@@ -38,15 +38,15 @@ TEST(SideFiles, TellWhatTheyLose) {
 TEST(SideFiles, OfSystemsStandBesideImages) {
     TemporaryDirectory const directory;
     std::string const prj = directory.file("scan.PRJ"), image = directory.file("scan.png");
-    EXPECT_TRUE(sideFilesOf(image).empty());
+    EXPECT_TRUE(definitionsBeside(image).empty());
     EXPECT_EQ(writeDefinition(prj, scan(systemOfDefinition("EPSG:28992"))).size(), 1U); // the place is left out
-    auto const files = sideFilesOf(image);
+    auto const files = definitionsBeside(image);
     ASSERT_EQ(files.size(), 1U);
     EXPECT_EQ(files[0].name, prj);
     EXPECT_EQ(systemOf(files[0].read())->text(ZRPROJ_CODE), "EPSG:28992");
     std::filesystem::remove(prj);
     std::filesystem::create_directory(prj);
-    EXPECT_TRUE(sideFilesOf(image).empty());
+    EXPECT_TRUE(definitionsBeside(image).empty());
     EXPECT_THROW(writeDefinition(directory.file("none.prj"), scan()), std::runtime_error);
     EXPECT_TRUE(isPrjName("a.Prj") && !isPrjName("a.prj.zrr") && !isPrjName("prj"));
 }
