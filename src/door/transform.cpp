@@ -73,7 +73,8 @@ void carry(systems::DatumPath const& path, bool backwards, std::span<PROJPOINT> 
 void shift(zrproj_transform const& transform, bool backwards, std::span<PROJPOINT> places, std::span<Reason> reasons) {
     if (!backwards)
         tellOutOfArea(transform.route, places, reasons);
-    carry(transform.path, backwards, places, reasons);
+    if (!transform.path.isEmpty())
+        carry(transform.path, backwards, places, reasons);
     if (backwards)
         tellOutOfArea(transform.route, places, reasons);
 }
@@ -93,10 +94,11 @@ void convertBlock(zrproj_transform const& transform, bool backwards, std::span<P
     zrproj_system const& from = backwards ? transform.to : transform.from;
     zrproj_system const& to = backwards ? transform.from : transform.to;
     from.projection->inverse(block, reasons);
-    if (!transform.path.isEmpty())
+    bool const hasSteps = !transform.route.steps.empty(); // though they may leave the numbers as they are
+    if (hasSteps)
         shift(transform, backwards, block, reasons);
     to.projection->forward(block, reasons);
-    if (!transform.route.steps.empty() && backwards)
+    if (hasSteps && backwards)
         settle(to, block);
 }
 

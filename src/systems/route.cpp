@@ -98,11 +98,25 @@ void append(Route& route, Link const& link) {
     }
 }
 
+/// Whether positions of one epoch cannot be right in all steps.
+bool mixesEpochs(Route const& route) {
+    double epoch = 0;
+    for (RouteStep const& step : route.steps) {
+        if (epoch != 0 && step.operation.epoch != 0 && step.operation.epoch != epoch)
+            return true;
+        epoch = step.operation.epoch != 0 ? step.operation.epoch : epoch;
+    }
+    return false;
+}
+
 Route routeOf(Way const& way, std::vector<Way> const& all) {
     Route route;
     for (Link const* link : way.links)
         append(route, *link);
-    route.accuracy = way.accuracy < unstated ? way.accuracy : unknown;
+    bool const mixed = mixesEpochs(route);
+    route.accuracy = way.accuracy < unstated && !mixed ? way.accuracy : unknown;
+    if (mixed)
+        route.told.push_back("its steps are stated for different epochs: nobody says how exact they are together");
     route.area = way.area;
     route.missingGrids = betterGrids(all, route.accuracy);
     if (auto const method = betterMethod(all, route.accuracy); !method.empty())
@@ -128,15 +142,15 @@ NoRoute noneServes(Definition const& from, Definition const& to, Ways const& fou
 
 Answer registerRoute(Definition const& from, Definition const& to, GridIsThere const& gridIsThere, bool refuseRough) {
     auto const found = waysBetween(from, to, gridIsThere);
-    auto const isUsable = [](Way const& way) { return way.isUsable(); };
-    auto const isFine = [&](Way const& way) { return way.isUsable() && (!refuseRough || way.accuracy <= rough); };
-    auto const best = std::ranges::find_if(found.ways, isUsable), chosen = std::ranges::find_if(found.ways, isFine);
-    if (chosen != found.ways.end())
-        return routeOf(*chosen, found.ways);
+    auto const best = std::ranges::find_if(found.ways, [](Way const& way) { return way.isUsable(); });
     if (best == found.ways.end())
         return noneServes(from, to, found);
-    return NoRoute{"the best way " + fromTo(from, to) + " is good to " + metres(best->accuracy) + " only" +
-                   whatWouldHelp(found.ways, best->accuracy)};
+    // No way that is finer serves as much.
+    auto route = routeOf(*best, found.ways);
+    if (!refuseRough || route.accuracy <= rough)
+        return route;
+    return NoRoute{"the best way " + fromTo(from, to) + " is good to " + metres(route.accuracy) + " only" +
+                   whatWouldHelp(found.ways, route.accuracy)};
 }
 
 /// Whether a datum is one of the register's; else what is to be said.
@@ -170,16 +184,19 @@ bool saysItself(Definition const& definition) {
     return definition.datum.toWgs84 || !definition.datum.grids.empty();
 }
 
-/// The first file of a definition's list that is there; "null" is always: it is no shift. "@" only marks files that may
-/// be missing.
+/// The first file of a definition's list that is there; "null" is always: it is no shift. Files that are marked "@" may
+/// be missing, others must not.
 std::optional<std::string> firstThere(std::string_view list, GridIsThere const& gridIsThere) {
     while (!list.empty()) {
         auto const comma = std::min(list.find(','), list.size());
         auto name = list.substr(0, comma);
         list.remove_prefix(std::min(comma + 1, list.size()));
-        name.remove_prefix(name.starts_with('@') ? 1 : 0);
+        bool const mayBeMissing = name.starts_with('@');
+        name.remove_prefix(mayBeMissing ? 1 : 0);
         if (name == "null" || gridIsThere(name))
             return std::string(name);
+        if (!mayBeMissing)
+            return {};
     }
     return {};
 }

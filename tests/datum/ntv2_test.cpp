@@ -4,6 +4,7 @@
 
 #include <gtest/gtest.h>
 
+#include <algorithm>
 #include <cfloat>
 #include <limits>
 #include <span>
@@ -33,7 +34,7 @@ Ntv2File family(std::endian order = std::endian::little) {
 /// Reads bytes from memory that is aligned, and ends with them.
 std::variant<GridSet, GridProblem> read(std::string const& bytes) {
     std::vector<std::uint64_t> words((bytes.size() + 7) / 8);
-    std::memcpy(words.data(), bytes.data(), bytes.size());
+    std::ranges::copy(std::as_bytes(std::span(bytes)), std::as_writable_bytes(std::span(words)).begin());
     return readNtv2(std::as_bytes(std::span(words)).first(bytes.size()));
 }
 

@@ -60,6 +60,14 @@ TEST(DatumWay, TellsItsStepsAndWhereItHolds) {
     EXPECT_EQ(outside[1], 47);
 }
 
+TEST(DatumWay, TellsOfItsAreaThoughItLeavesTheNumbers) {
+    auto const way = attempt("EPSG:4269", "EPSG:6318");
+    ASSERT_EQ(way.status, ZRPROJ_OK) << way.message;
+    double point[] = {5, 5};
+    EXPECT_EQ(convert(way.transform, point, false), ZRPROJ_OUT_OF_AREA);
+    EXPECT_EQ(point[0], 5);
+}
+
 TEST(DatumWay, IsRefusedWhereItIsRough) {
     zrproj_options const precise{sizeof precise, nullptr, 0, 1};
     EXPECT_EQ(attempt("+proj=longlat +ellps=bessel +towgs84=577,90,463", "EPSG:4326", &precise).status, ZRPROJ_NO_PATH);

@@ -43,15 +43,15 @@ std::string complaintOf(zrproj_parameters parameters) {
 
 } // namespace
 
-TEST(DoorParameters, AreWhatARecordHolds) {
+TEST(DoorParameters, AreWhatARecordHolds) { // a packed record's members are taken by value: +
     auto const given = allDifferent();
     PROJDATA const record = recordOf(given);
-    EXPECT_EQ(record.Type, given.type);
-    EXPECT_EQ(record.xOrg, given.x0);
-    EXPECT_EQ(record.Lon3, given.lon3);
-    EXPECT_EQ(record.Zone, given.zone);
-    EXPECT_TRUE(record.bRotate);
-    EXPECT_EQ(record.Flattening, given.flattening);
+    EXPECT_EQ(+record.Type, given.type);
+    EXPECT_EQ(+record.xOrg, given.x0);
+    EXPECT_EQ(+record.Lon3, given.lon3);
+    EXPECT_EQ(+record.Zone, given.zone);
+    EXPECT_TRUE(+record.bRotate);
+    EXPECT_EQ(+record.Flattening, given.flattening);
     auto const back = parametersOf(record, DatumTypeNone, {});
     for (auto const& field : parameterFields)
         EXPECT_EQ(field.get(back), field.get(given)) << parameterRow(field.id)->name;
@@ -70,7 +70,7 @@ TEST(DoorParameters, TellTheDatum) {
     EXPECT_TRUE(hasDatum(own));
     DATUM2WGS84 const shift = shiftOf(own);
     auto const told = parametersOf(recordOf(own), DatumTypeUserDefined, shift).shift;
-    EXPECT_EQ(shift.Ellipsoid, EllipsoidTypeWgs84);
+    EXPECT_EQ(+shift.Ellipsoid, EllipsoidTypeWgs84);
     EXPECT_EQ(told.method, DatumMethodBursaWolf);
     EXPECT_EQ(told.dy, 2);
     EXPECT_EQ(told.rz, 6);
@@ -80,11 +80,11 @@ TEST(DoorParameters, TellTheDatum) {
     auto listed = own; // its own shift is passed over
     listed.datum = DatumTypeEuropean1950Mean;
     EXPECT_TRUE(hasDatum(listed));
-    EXPECT_EQ(shiftOf(listed).Method, DatumMethodMolodensky);
-    EXPECT_EQ(shiftOf(listed).dX, -87);
+    EXPECT_EQ(+shiftOf(listed).Method, DatumMethodMolodensky);
+    EXPECT_EQ(+shiftOf(listed).dX, -87);
     listed.datum = DatumTypeNad1927ConusNadcon; // by a grid, which no parameters say
-    EXPECT_EQ(shiftOf(listed).Method, DatumMethodNadcon);
-    EXPECT_EQ(shiftOf(listed).dX, 0);
+    EXPECT_EQ(+shiftOf(listed).Method, DatumMethodNadcon);
+    EXPECT_EQ(+shiftOf(listed).dX, 0);
 }
 
 // The figure of a geographic system is that of its datum, which alone a record has.

@@ -115,7 +115,11 @@ TEST(Route, RefusesRoughWaysAndNamesTheGrid) {
     auto const british = reason(27700, 4326, true);
     EXPECT_TRUE(has(british, "Ordnance Survey of Great Britain 1936")) << british;
     EXPECT_TRUE(has(british, "good to 2 m only; a grid would help: OSTN15_NTv2_OSGBtoETRS.gsb (1 m)")) << british;
-    EXPECT_EQ(codes(route(31467, 25832, {}, true)), std::vector<Code>{1778}); // a smaller area, but good to 1 m
+    auto const german = reason(31467, 25832, true); // one good to 1 m serves a smaller area
+    EXPECT_TRUE(has(german, "good to 3 m only")) << german;
+    auto const mixed = route(9067, 9069); // steps of 2010 and of 1989
+    EXPECT_TRUE(std::isnan(mixed.accuracy));
+    EXPECT_TRUE(has(mixed.told.back(), "different epochs")) << mixed.told.back();
 }
 
 TEST(Route, NoWayIsSaidWithBothDatums) {
@@ -147,12 +151,14 @@ TEST(Route, DefinitionsOwnGridsAreTheFirstThatIsThere) {
     auto own = *definitionOf(31467);
     own.datum.code = 0;
     own.datum.grids = "@mine.gsb,BETA2007.gsb";
-    auto const& wgs84 = *definitionOf(4326);
+    auto const wgs84 = *definitionOf(4326);
     EXPECT_EQ(route(own, wgs84, {"BETA2007.gsb"}).steps[0].operation.grids[0], "BETA2007.gsb");
     EXPECT_EQ(route(own, wgs84, {"BETA2007.gsb", "mine.gsb"}).steps[0].operation.grids[0], "mine.gsb");
     auto const none = answer(own, wgs84);
     ASSERT_TRUE(std::holds_alternative<NoRoute>(none));
     EXPECT_TRUE(has(std::get<NoRoute>(none).reason, "@mine.gsb,BETA2007.gsb"));
+    own.datum.grids = "mine.gsb,BETA2007.gsb"; // the first one must be there
+    EXPECT_TRUE(std::holds_alternative<NoRoute>(answer(own, wgs84, {"BETA2007.gsb"})));
     own.datum.grids = "@mine.gsb,@null";
     EXPECT_EQ(route(own, wgs84).steps[0].operation.method, OperationMethod::null);
 }

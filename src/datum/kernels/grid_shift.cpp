@@ -111,8 +111,9 @@ struct Grids {
         Cell<R> const cell = locate(p, set.depth, 1);
         Patch<R> const patch = patchOf(cell);
         Shifts<R> const shift = patch.within(cell.u, cell.v);
-        auto const good = cell.found & patch.good;
-        return {select(good, p.x - shift.west, R(notANumber)), select(good, p.y + shift.north, R(notANumber))};
+        R const latitude = p.y + shift.north;
+        auto const good = cell.found & patch.good & (abs(latitude) <= 90.0);
+        return {select(good, p.x - shift.west, R(notANumber)), select(good, latitude, R(notANumber))};
     }
 
 private:
