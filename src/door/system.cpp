@@ -147,7 +147,7 @@ Answer makeFromText(zrproj_system& system, std::string_view text) {
     auto read = systems::readDefinition(text);
     if (auto const* const problem = std::get_if<systems::Problem>(&read))
         return {statusOf(problem->fault), problem->message};
-    return makeSystem(system, std::move(std::get<Definition>(read)));
+    return makeSystem(system, std::get<Definition>(read));
 }
 
 // What a system says.
@@ -231,8 +231,8 @@ Definition geographicDefinition(Definition const& system) {
 
 } // namespace
 
-Answer Door::makeSystem(zrproj_system& system, Definition said) {
-    auto [definition, noticed] = systems::reconcile(std::move(said));
+Answer Door::makeSystem(zrproj_system& system, Definition const& said) {
+    auto [definition, noticed] = systems::reconcile(said);
     return makeFromDefinition(system, std::move(definition), std::move(noticed));
 }
 

@@ -20,7 +20,7 @@ namespace ZrProj::Door {
 
 /// Makes a system of what a file says: the register's where it is the same, by its numbers where they contradict a
 /// name, which is told.
-Answer makeSystem(zrproj_system& system, systems::Definition said);
+Answer makeSystem(zrproj_system& system, systems::Definition const& said);
 
 /// Makes a system of a caller's parameters.
 Answer makeSystem(zrproj_system& system, zrproj_parameters const& given);

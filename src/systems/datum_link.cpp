@@ -2,10 +2,12 @@
 
 #include "host/text.h"
 #include "systems/names.h"
+#include "systems/operations.h"
 #include "systems/register.h"
 
 #include <algorithm>
 #include <cmath>
+#include <span>
 
 namespace ZrProj::systems {
 namespace {
@@ -19,6 +21,27 @@ Code fromGreenwich(Datum const& datum) {
         return datum.code;
     Code const other = codeNamed(Thing::datum, datum.name.substr(0, datum.name.size() - suffix.size()));
     return other == 0 ? datum.code : other;
+}
+
+/// Whether the register knows a shift as a way from a datum to WGS 84, to what texts round.
+bool isRegistered(ToWgs84 const& shift, Code datum) {
+    constexpr Code wgs84 = 6326;
+    constexpr double rounding = 5e-4; // metres, arcseconds, parts per million
+    auto const has = [&](DirectedOperation const& way) {
+        auto const& numbers = way.operation.parameters;
+        double const sense = way.reversed ? -1 : 1;
+        return way.operation.method == OperationMethod::geocentric &&
+               std::ranges::equal(shift, std::span(numbers).first(shift.size()),
+                                  [=](double a, double b) { return std::fabs(a - sense * b) <= rounding; });
+    };
+    return std::ranges::any_of(operationsBetween(datum, wgs84), has);
+}
+
+/// The shift by which a definition's datum is another than the register's.
+std::optional<ToWgs84> ownShift(Datum const& datum) {
+    if (datum.toWgs84 == ToWgs84{} || (datum.toWgs84 && isRegistered(*datum.toWgs84, fromGreenwich(datum))))
+        return {};
+    return datum.toWgs84;
 }
 
 double flattening(Ellipsoid const& ellipsoid) {
@@ -45,7 +68,7 @@ bool areOneWithoutCodes(Datum const& a, Datum const& b) {
 std::optional<DatumLink> linkBetween(Datum const& a, Datum const& b) {
     if (a.code == 0 && b.code == 0)
         return areOneWithoutCodes(a, b) ? std::optional(DatumLink{}) : std::nullopt;
-    if (a.code == 0 || b.code == 0)
+    if (a.code == 0 || b.code == 0 || ownShift(a) != ownShift(b))
         return {};
     Code const one = fromGreenwich(a), other = fromGreenwich(b);
     if (one == other)

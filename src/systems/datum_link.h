@@ -14,8 +14,9 @@ struct DatumLink {
     std::string told;    // "" where they are one
 };
 
-/// Nothing where the datums differ. Two are one where the register says so, whatever meridian they count from; without
-/// codes, where name, figure and way to WGS 84 agree. Realizations of one ensemble are as near as it is accurate.
+/// Nothing where the datums differ. Two are one where the register says so, whatever meridian they count from, unless
+/// one has a shift to WGS 84 of its own that is neither zero nor the register's; without codes, where name, figure and
+/// way to WGS 84 agree. Realizations of one ensemble are as near as it is accurate.
 std::optional<DatumLink> linkBetween(Datum const& a, Datum const& b);
 
 } // namespace ZrProj::systems

@@ -1,6 +1,7 @@
 #include "systems/recognition.h"
 
 #include "systems/conversion.h"
+#include "systems/datum_link.h"
 #include "systems/method_table.h"
 #include "systems/names.h"
 
@@ -10,6 +11,7 @@
 #include <initializer_list>
 #include <optional>
 #include <tuple>
+#include <utility>
 #include <vector>
 
 namespace ZrProj::systems {
@@ -19,8 +21,9 @@ namespace {
 constexpr double axisTolerance = 1e-3;      // metres
 constexpr double meridianTolerance = 1e-8;  // degrees
 constexpr double angleTolerance = 1e-9;     // degrees
-constexpr double lengthTolerance = 1e-4;    // metres
-constexpr double relativeTolerance = 1e-10; // scales, units
+constexpr double lengthTolerance = 1e-3;    // metres: feet to three decimals, made metres and rounded again
+constexpr double scaleTolerance = 1e-9;     // a millimetre in a thousand kilometres
+constexpr double relativeTolerance = 1e-10; // units
 
 bool near(double a, double b, double tolerance) {
     return std::fabs(a - b) <= tolerance;
@@ -49,20 +52,24 @@ std::string ellipsoidDifference(Ellipsoid const& said, Ellipsoid const& register
     return {};
 }
 
+/// The datums of the register that a datum is by its code and by its name.
+std::vector<Datum> datumsNamed(Datum const& said) {
+    std::vector<Datum> named;
+    for (Code const code : {said.code, codeNamed(Thing::datum, said.name)})
+        if (auto datum = datumOf(code))
+            named.push_back(std::move(*datum));
+    return named;
+}
+
 /// The codes of datums that a definition may mean: by code, by name, by its geographic system's.
 std::vector<Code> datumsMeant(Definition const& definition) {
     std::vector<Code> codes;
-    auto const add = [&codes](Code code) {
-        if (code != 0)
-            codes.push_back(code);
-    };
-    if (datumOf(definition.datum.code))
-        add(definition.datum.code);
-    else
-        add(codeNamed(Thing::datum, definition.datum.name));
+    for (Datum const& datum : datumsNamed(definition.datum))
+        codes.push_back(datum.code);
     auto const& name = definition.isProjected() ? definition.baseName : definition.name;
-    if (auto const base = definitionOf(codeNamed(Thing::system, name)); base && !base->isProjected())
-        add(base->datum.code);
+    for (Code const code : {definition.baseCode, codeNamed(Thing::system, name)})
+        if (auto const base = definitionOf(code); base && !base->isProjected())
+            codes.push_back(base->datum.code);
     return codes;
 }
 
@@ -81,6 +88,20 @@ std::string datumDifference(Definition const& said, std::vector<Code> const& mea
     if (!mayBeOn(meant, said.datum, registered.datum))
         return "the datum " + said.datum.name + " instead of " + registered.datum.name;
     return {};
+}
+
+/// Between two standard parallels there is no order.
+void orderParallels(Conversion& conversion) {
+    switch (conversion.method) {
+    case formulas::Method::albers:
+    case formulas::Method::equidistantConic:
+    case formulas::Method::lambertConformalConic:
+        if (conversion.parameters.lat1 < conversion.parameters.lat2)
+            std::swap(conversion.parameters.lat1, conversion.parameters.lat2);
+        break;
+    default:
+        break;
+    }
 }
 
 /// Methods that come to the same formula are one: a cone of one parallel and a scale, a polar map true at a parallel.
@@ -104,7 +125,7 @@ std::string mapDifference(Conversion const& said, Conversion const& registered) 
     for (auto const& angle : angles)
         if (!sameAngle(angle.said, angle.registered))
             return told(angle.what, angle.said, angle.registered, " degrees");
-    if (!near(a.k0, b.k0, relativeTolerance))
+    if (!near(a.k0, b.k0, scaleTolerance))
         return told("the scale", a.k0, b.k0, "");
     if (!near(a.height, b.height, axisTolerance))
         return told("the height", a.height, b.height, " m");
@@ -138,16 +159,18 @@ bool sameFormula(Conversion const& a, Conversion const& b) {
 }
 
 std::string conversionDifference(Definition const& said, Definition const& registered) {
-    auto const one = conversionOf(said), other = conversionOf(registered);
-    auto const *a = std::get_if<Conversion>(&one), *b = std::get_if<Conversion>(&other);
+    auto one = conversionOf(said), other = conversionOf(registered);
+    auto *const a = std::get_if<Conversion>(&one), *const b = std::get_if<Conversion>(&other);
     if (!a && !b)
         return numberDifference(said, registered);
     if (!a || !b || !sameFormula(*a, *b))
         return methodDifference(said, registered);
     double const scale = a->parameters.a / said.datum.ellipsoid.semiMajor;
     double const otherScale = b->parameters.a / registered.datum.ellipsoid.semiMajor;
-    if (!near(scale, otherScale, relativeTolerance))
+    if (!near(scale, otherScale, scaleTolerance))
         return told("the scale", scale, otherScale, "");
+    orderParallels(*a);
+    orderParallels(*b);
     return mapDifference(*a, *b);
 }
 
@@ -188,9 +211,129 @@ Code recognisedByContent(std::vector<Code> const& meant, Definition const& defin
     return best ? best->code : 0;
 }
 
-std::string contradiction(Definition const& definition, Definition const& registered) {
-    return registered.name + " (EPSG:" + std::to_string(registered.code) + ") is named, but the definition has " +
-           difference(definition, registered) + "; its numbers are taken";
+// What is of the register in a definition that is not.
+
+/// The first of the datums meant that has the definition's figure: with its meridian, else the one that counts from
+/// Greenwich, as it is counted in the definition.
+std::optional<Datum> registeredDatum(std::vector<Code> const& meant, Datum const& said) {
+    std::optional<Datum> recounted;
+    for (Code const code : meant) {
+        Datum registered = *datumOf(code);
+        if (!ellipsoidDifference(said.ellipsoid, registered.ellipsoid).empty())
+            continue;
+        if (sameAngle(said.meridian.longitude, registered.meridian.longitude, meridianTolerance))
+            return registered;
+        if (registered.meridian.longitude == 0 && !recounted) {
+            recounted = std::move(registered);
+            recounted->meridian = said.meridian;
+        }
+    }
+    return recounted;
+}
+
+/// Of the geographic systems of a datum the one that a definition names, else the first in force with its unit.
+std::optional<Definition> baseOn(Code datum, Definition const& definition) {
+    auto const rank = [&](Definition const& base) {
+        bool const sameUnit = near(base.angularUnit.factor, definition.angularUnit.factor, relativeTolerance);
+        return std::tuple(base.code != definition.baseCode, base.name != definition.baseName, base.deprecated,
+                          !sameUnit, base.code);
+    };
+    std::optional<Definition> best;
+    for (Code const code : systemsOn(datum))
+        if (auto base = definitionOf(code); !base->isProjected() && (!best || rank(*base) < rank(*best)))
+            best = std::move(base);
+    return best;
+}
+
+/// Gives the definition the register's datum and geographic system where it means them and its numbers agree.
+void takeDatum(Definition& definition, std::vector<Code> const& meant) {
+    Datum& datum = definition.datum;
+    auto registered = registeredDatum(meant, datum);
+    datum.code = 0;
+    if (registered) {
+        registered->toWgs84 = datum.toWgs84;
+        registered->grids = std::move(datum.grids);
+        datum = std::move(*registered);
+    }
+    auto const own = datumOf(datum.code);
+    bool const ownMeridian = own && sameAngle(own->meridian.longitude, datum.meridian.longitude, meridianTolerance);
+    auto base = ownMeridian && definition.isProjected() ? baseOn(datum.code, definition) : std::nullopt;
+    definition.baseCode = base ? base->code : 0;
+    if (base)
+        definition.baseName = std::move(base->name);
+}
+
+/// The register's unit that a unit is called after, where that one has another size.
+std::optional<Unit> anotherOfItsName(Unit const& said) {
+    auto named = said.code == 0 ? unitOf(codeNamed(Thing::unit, said.name)) : std::nullopt;
+    return named && !near(named->factor / said.factor, 1, relativeTolerance) ? named : std::nullopt;
+}
+
+/// A unit whose name is another one's is what its size says.
+void settleUnit(Unit& unit, bool ofLength) {
+    if (anotherOfItsName(unit))
+        unit = (ofLength ? unitOf(lengthUnitOf(unit.factor)) : std::nullopt).value_or(Unit{"unknown", unit.factor});
+}
+
+// What is told.
+
+std::string contradiction(std::string const& named, std::string const& has) {
+    return named + " is named, but the definition has " + has + "; its numbers are taken";
+}
+
+std::string systemContradiction(Definition const& definition, Definition const& registered) {
+    return contradiction(registered.name + " (EPSG:" + std::to_string(registered.code) + ")",
+                         difference(definition, registered));
+}
+
+/// Several datums may have one name.
+bool isCalled(Datum const& datum, std::string const& name) {
+    return name == datum.name || name == esriNameOf(Thing::datum, datum.code);
+}
+
+/// Of a definition whose datum was taken for what it is in another one.
+std::string datumContradiction(Datum const& said, Datum const& taken) {
+    for (Datum const& named : datumsNamed(said)) {
+        if (taken.code != 0 && (named.code == taken.code || named.name == taken.name || isCalled(taken, said.name)))
+            continue;
+        if (auto const figure = ellipsoidDifference(said.ellipsoid, named.ellipsoid); !figure.empty())
+            return contradiction("the datum " + named.name, figure);
+        if (taken.code != 0 && !linkBetween(named, taken))
+            return "the datum " + named.name + " is named beside " + taken.name + ", which is taken";
+    }
+    return {};
+}
+
+std::string unitContradiction(Unit const& said) {
+    auto const named = anotherOfItsName(said);
+    return named ? contradiction("the unit " + named->name, told("one of", said.factor, named->factor, "")) : "";
+}
+
+/// What a definition calls by names or codes that are of something else than what was made of it.
+std::string contradictionIn(Definition const& said, Definition const& taken) {
+    auto const named = definitionOf(said.code != 0 ? said.code : codeNamed(Thing::system, said.name));
+    if (named && named->code != taken.code)
+        return systemContradiction(said, *named);
+    auto text = datumContradiction(said.datum, taken.datum);
+    if (text.empty() && said.isProjected())
+        text = unitContradiction(said.unit);
+    return text.empty() ? unitContradiction(said.angularUnit) : text;
+}
+
+/// The register's system of a code as a definition says it.
+Definition registeredAs(Code code, Definition const& definition) {
+    Definition registered = *definitionOf(code);
+    registered.datum.toWgs84 = definition.datum.toWgs84;
+    registered.datum.grids = definition.datum.grids;
+    return registered;
+}
+
+Definition unregistered(Definition definition) {
+    takeDatum(definition, datumsMeant(definition));
+    settleUnit(definition.unit, true);
+    settleUnit(definition.angularUnit, false);
+    definition.code = 0;
+    return definition;
 }
 
 } // namespace
@@ -208,20 +351,11 @@ Code recognise(Definition const& definition) {
     return recognisedByContent(meant, definition);
 }
 
-Reconciled reconcile(Definition definition) {
-    Code const named = definition.code != 0 ? definition.code : codeNamed(Thing::system, definition.name);
+Reconciled reconcile(Definition const& definition) {
     Code const found = recognise(definition);
-    auto const meant = definitionOf(named);
-    std::string noticed;
-    if (meant && meant->code != found)
-        noticed = contradiction(definition, *meant);
-    if (auto registered = definitionOf(found)) {
-        registered->datum.toWgs84 = definition.datum.toWgs84;
-        registered->datum.grids = definition.datum.grids;
-        return {std::move(*registered), noticed};
-    }
-    definition.code = 0;
-    return {std::move(definition), noticed};
+    Definition taken = found != 0 ? registeredAs(found, definition) : unregistered(definition);
+    auto noticed = contradictionIn(definition, taken);
+    return {std::move(taken), std::move(noticed)};
 }
 
 } // namespace ZrProj::systems

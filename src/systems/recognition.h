@@ -17,9 +17,13 @@ Code recognise(Definition const& definition);
 
 /// A definition that a text gave, and what there is to tell about it.
 struct Reconciled {
-    Definition definition; // with the register's code, name and area where it is of the register; else without a code
-    std::string noticed;   // where a code or name is contradicted by the numbers, which are taken; else ""
+    /// With the register's code, name and area where it is of the register. Else without a code, but on the register's
+    /// datum and geographic system where its numbers agree with what it calls them.
+    Definition definition;
+    /// Where a code or name of the system, its datum or a unit is contradicted by the numbers, which are taken; else
+    /// "".
+    std::string noticed;
 };
-Reconciled reconcile(Definition definition);
+Reconciled reconcile(Definition const& definition);
 
 } // namespace ZrProj::systems

@@ -1,6 +1,7 @@
 #include "systems/route.h"
 
 #include "systems/datum_link.h"
+#include "systems/names.h"
 #include "systems/register.h"
 #include "systems/ways.h"
 
@@ -160,8 +161,10 @@ std::optional<NoRoute> strangerAmong(Definition const& from, Definition const& t
         return {};
     if (from.datum.name == to.datum.name)
         return NoRoute{"the systems lie on different ellipsoids or shifts of the datum " + stranger.name};
+    bool const named = codeNamed(Thing::datum, stranger.name) != 0;
     return NoRoute{"no way " + fromTo(from, to) + " is known: " + stranger.name +
-                   " is no datum of the register, and its definition does not say how it lies to WGS 84"};
+                   (named ? " has other numbers here than in the register" : " is no datum of the register") +
+                   ", and its definition does not say how it lies to WGS 84"};
 }
 
 Answer betweenRegistered(Definition const& from, Definition const& to, GridIsThere const& gridIsThere,
@@ -240,6 +243,13 @@ Definition onWgs84(Definition const& definition) {
     return other;
 }
 
+/// Whether datums are two only because a definition says how one lies to WGS 84.
+bool areTwoByShift(Datum from, Datum to) {
+    from.toWgs84.reset();
+    to.toWgs84.reset();
+    return linkBetween(from, to).has_value();
+}
+
 /// Over WGS 84, to which one of the definitions or both lead by themselves.
 Answer ownRoute(Definition const& from, Definition const& to, GridIsThere const& gridIsThere) {
     auto const registered = [](Definition const& end) { return saysItself(end) ? onWgs84(end) : end; };
@@ -258,6 +268,9 @@ Answer ownRoute(Definition const& from, Definition const& to, GridIsThere const&
         route.steps.insert(atEnd ? route.steps.end() : route.steps.begin(), atEnd ? reversedStep(step) : step);
     }
     route.accuracy = unknown;
+    if (areTwoByShift(from.datum, to.datum))
+        route.told.push_back("the shift to WGS 84 that a definition says makes its " + from.datum.name +
+                             " another datum than the other one's");
     return route;
 }
 

@@ -3,6 +3,7 @@
 
 #include <array>
 #include <cmath>
+#include <utility>
 #include <vector>
 
 using namespace ZrProj;
@@ -116,6 +117,55 @@ TEST(DoorDefinition, TellsWhatItNoticed) {
     EXPECT_NEAR(convert(way, {-81, 0}).point.x, 400000, 1e-6);
     System const deprecated = systemOf("EPSG:2036");
     EXPECT_NE(std::string(zrproj_message()).find("EPSG:2953"), std::string::npos) << zrproj_message();
+}
+
+TEST(DoorDefinition, OfNoEntryStandsOnTheDatumThatItNames) {
+    constexpr char const* albers = "PROJCS[\"own\",GEOGCS[\"GCS_North_American_1983\",DATUM[\"D_North_American_1983\","
+                                   "SPHEROID[\"GRS_1980\",6378137.0,298.257222101]],PRIMEM[\"Greenwich\",0.0],"
+                                   "UNIT[\"Degree\",0.0174532925199433]],PROJECTION[\"Albers\"],"
+                                   "PARAMETER[\"False_Easting\",0.0],PARAMETER[\"False_Northing\",0.0],"
+                                   "PARAMETER[\"Central_Meridian\",-101.0],PARAMETER[\"Standard_Parallel_1\",29.5],"
+                                   "PARAMETER[\"Standard_Parallel_2\",45.5],PARAMETER[\"Latitude_Of_Origin\",23.0],"
+                                   "UNIT[\"Meter\",1.0]]";
+    for (auto const& [definition, geographic] : {std::pair(albers, "EPSG:4269"),
+                                                 {"+proj=robin +datum=WGS84", "EPSG:4326"},
+                                                 {"+proj=tmerc +lon_0=-81.5 +datum=NAD27", "EPSG:4267"},
+                                                 {"+proj=tmerc +lat_0=1 +datum=OSGB36", "EPSG:4277"}}) {
+        System const own = systemOf(definition);
+        EXPECT_STREQ(zrproj_message(), "");
+        for (zrproj_format const format : everyText) {
+            System const back = systemOf(textOf(own, format).c_str());
+            EXPECT_STREQ(zrproj_message(), "") << textOf(own, format);
+            Way const way = wayBetween(back, systemOf(geographic));
+            ASSERT_EQ(way.status, ZRPROJ_OK) << zrproj_message() << textOf(own, format);
+            double accuracy = 1;
+            EXPECT_EQ(describe(way, &accuracy).find("WGS 84 (1)"), std::string::npos);
+            EXPECT_EQ(accuracy, 0) << textOf(own, format);
+        }
+    }
+}
+
+TEST(DoorDefinition, CountsFromAnotherMeridian) {
+    System const paris = systemOf("+proj=longlat +datum=WGS84 +pm=paris");
+    EXPECT_STREQ(zrproj_message(), "");
+    Way const way = wayBetween(paris, systemOf("EPSG:4326"));
+    ASSERT_EQ(way.status, ZRPROJ_OK) << zrproj_message();
+    EXPECT_NEAR(convert(way, {1, 45}).point.x, 3.33722917, 1e-10);
+    System const back = systemOf(textOf(paris, ZRPROJ_WKT2).c_str());
+    EXPECT_STREQ(zrproj_message(), "");
+    EXPECT_EQ(wayBetween(back, systemOf("EPSG:4326")).status, ZRPROJ_OK) << zrproj_message();
+}
+
+TEST(DoorDefinition, ItsOwnShiftCounts) {
+    System const plain = systemOf("EPSG:4326");
+    Way const shifted = wayBetween(systemOf("+proj=longlat +datum=WGS84 +towgs84=100,0,0"), plain);
+    ASSERT_EQ(shifted.status, ZRPROJ_OK) << zrproj_message();
+    EXPECT_NE(describe(shifted).find("another datum"), std::string::npos) << describe(shifted);
+    EXPECT_NEAR(convert(shifted, {90, 0}).point.x, 90 - 100 / 6378137.0 * 180 / 3.14159265358979, 1e-9);
+    Way const none = wayBetween(systemOf("+proj=longlat +datum=WGS84 +towgs84=0,0,0"), plain);
+    EXPECT_EQ(convert(none, {90, 0}).point.x, 90);
+    EXPECT_EQ(statusOf("+proj=longlat +datum=WGS84 +towgs84=1e9,0,0"), ZRPROJ_BAD_DEFINITION);
+    EXPECT_EQ(statusOf("+init=epsg:4326 +towgs84=1e9,0,0"), ZRPROJ_BAD_DEFINITION);
 }
 
 TEST(DoorDefinition, HasAnAreaOfUse) {

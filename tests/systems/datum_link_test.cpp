@@ -61,3 +61,19 @@ TEST(DatumLink, WithoutCodesNameFigureAndWayMustAgree) {
     EXPECT_FALSE(linkBetween(site, other));
     EXPECT_FALSE(linkBetween(local("North American Datum 1927"), *datumOf(nad27))); // only one has a code
 }
+
+TEST(DatumLink, AShiftOfItsOwnMakesAnotherDatum) {
+    Datum own = *datumOf(6326);
+    own.toWgs84 = ToWgs84{};
+    EXPECT_TRUE(linkBetween(own, *datumOf(wgs84)));
+    own.toWgs84 = ToWgs84{100};
+    EXPECT_FALSE(linkBetween(own, *datumOf(wgs84)));
+    EXPECT_FALSE(linkBetween(*datumOf(wgs84G730), own));
+    EXPECT_TRUE(linkBetween(own, own));
+
+    Datum german = *datumOf(6314); // with the register's own way, DHDN to WGS 84 (2)
+    german.toWgs84 = ToWgs84{598.1, 73.7, 418.2, 0.202, 0.045, -2.455, 6.7};
+    EXPECT_TRUE(linkBetween(german, *datumOf(6314)));
+    german.toWgs84->front() += 1;
+    EXPECT_FALSE(linkBetween(german, *datumOf(6314)));
+}

@@ -156,7 +156,7 @@ private:
             complaint_.unknown(init.offset, "the register has no system " + std::string(init.value));
         made_ = found.value_or(Definition());
         ownWay();
-        return std::move(complaint_).orProblem(std::move(made_));
+        return finished(std::move(made_), std::move(complaint_));
     }
 
     void system(Option const& proj) {
@@ -283,7 +283,7 @@ private:
         if (made_.datum.meridian.longitude == 0)
             made_.datum.meridian = {};
         else
-            made_.datum.code = made_.code = made_.baseCode = 0;
+            made_.name = "unknown", made_.code = 0;
     }
 
     // The projection.

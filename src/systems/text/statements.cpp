@@ -426,6 +426,15 @@ bool checkRepetition(StatedMethod const& stated, Complaint& complaint) {
     return true;
 }
 
+/// Datums of one body lie no more than kilometres apart, and hardly turned.
+bool isShift(ToWgs84 const& shift) {
+    constexpr double farthest = 1e5, greatestTurn = 36000, greatestScale = 1e4; // metres, arcseconds, parts per million
+    auto const within = [&](std::size_t first, std::size_t last, double bound) {
+        return std::all_of(shift.begin() + first, shift.begin() + last, [=](double x) { return std::abs(x) <= bound; });
+    };
+    return within(0, 3, farthest) && within(3, 6, greatestTurn) && within(6, 7, greatestScale);
+}
+
 // Axes.
 
 bool isEastOrWest(StatedAxis const& axis) {
@@ -603,10 +612,10 @@ OrProblem<Definition> finished(Definition&& definition, Complaint&& complaint) {
         auto const p = static_cast<Parameter>(i);
         usable = usable && (!definition.parameters.has(p) || std::abs(definition.parameters[p]) < greatest);
     }
-    for (double const each : datum.toWgs84.value_or(ToWgs84{}))
-        usable = usable && std::abs(each) < greatest;
     if (!usable)
         complaint.malformed(0, "a number or a unit is beyond all bounds");
+    if (!isShift(datum.toWgs84.value_or(ToWgs84{})))
+        complaint.malformed(0, "the shift to WGS 84 is beyond all bounds");
     return std::move(complaint).orProblem(std::move(definition));
 }
 

@@ -16,10 +16,19 @@ constexpr double sameSize = 5e-9;
 /// Sizes closer than this are written with the same digits.
 constexpr double sameDigits = 1e-13;
 
+/// The unit that a code or else a name is of, where that one has another size.
+std::optional<Unit> contradicted(double factor, std::string_view name, Code code) {
+    auto const byCode = unitOf(code);
+    auto const meant = byCode ? byCode : unitOf(codeNamed(Thing::unit, name));
+    return meant && std::abs(meant->factor / factor - 1) > sameSize ? meant : std::nullopt;
+}
+
 } // namespace
 
 Unit statedUnit(Kind kind, double factor, std::string_view name, Code code) {
     bool const angle = kind == Kind::angle;
+    if (auto const other = contradicted(factor, name, code))
+        return {other->name, factor, 0};
     if (angle && std::abs(factor - 1) <= sameSize)
         return Definition().angularUnit;
     Code found = 0;
