@@ -1,6 +1,7 @@
 #include "door/system.h"
 
 #include "door/parameters.h"
+#include "host/utf8.h"
 #include "proj/projection_table.h"
 #include "systems/method_table.h"
 #include "systems/names.h"
@@ -82,6 +83,13 @@ std::string deprecationOf(Definition const& definition) {
     return definition.name + " (" + codeText(definition.code) + ") is deprecated" + replacementOf(definition);
 }
 
+/// ESRI's own codes, which are often said to be EPSG's, begin here.
+constexpr systems::Code firstOfEsri = 37001;
+
+std::string hintFor(systems::Code code) {
+    return code < firstOfEsri ? "" : "; it holds EPSG's codes only, and what ESRI numbers by names and definitions";
+}
+
 std::string suggestionsFor(std::string_view name) {
     std::string text;
     for (auto const& entry : systems::suggestions(name, mostSuggestions))
@@ -110,7 +118,7 @@ Answer makeFromDefinition(zrproj_system& system, Definition definition, std::str
 Answer makeFromCode(zrproj_system& system, systems::Code code) {
     auto definition = systems::definitionOf(code);
     return definition ? makeFromDefinition(system, *std::move(definition), "")
-                      : unknown("the register has no system " + codeText(code));
+                      : unknown("the register has no system " + codeText(code) + hintFor(code));
 }
 
 Answer makeFromName(zrproj_system& system, std::string_view name) {
@@ -135,7 +143,11 @@ zrproj_status statusOf(systems::Fault fault) {
     return ZRPROJ_UNSUPPORTED;
 }
 
-Answer makeFromText(zrproj_system& system, std::string_view text) {
+Answer makeFromText(zrproj_system& system, std::string_view given) {
+    std::string const said = utf8Of(given);
+    std::string_view text = said;
+    if (text.starts_with(byteOrderMark))
+        text.remove_prefix(byteOrderMark.size());
     switch (systems::formOf(text)) {
     case systems::Form::code:
         return makeFromCode(system, *systems::codeIn(text));

@@ -1,14 +1,13 @@
 #include "host/profile_text.h"
 
 #include "host/text.h"
+#include "host/utf8.h"
 
 #include <algorithm>
 #include <utility>
 
 namespace ZrProj {
 namespace {
-
-constexpr std::string_view byteOrderMark = "\xEF\xBB\xBF";
 
 constexpr std::string_view withoutBlanks(std::string_view text) {
     constexpr std::string_view blanks = " \t\r\n";

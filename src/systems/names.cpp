@@ -72,6 +72,20 @@ std::string keyOf(std::string_view name) {
     return key;
 }
 
+/// A name with the plain letters that the register writes instead of Latin-1's, as "Kruger" for "Krüger".
+std::string plain(std::string_view name) {
+    constexpr std::string_view letters =
+        "AAAAAAACEEEEIIIIDNOOOOO*OUUUUYTsaaaaaaaceeeeiiiidnooooo/ouuuuyty"; // U+00C0 on
+    std::string made;
+    for (std::size_t i = 0; i < name.size(); ++i) {
+        if (name[i] == '\xC3' && i + 1 < name.size())
+            made += letters[static_cast<unsigned char>(name[++i]) & 0x3FU];
+        else
+            made += name[i];
+    }
+    return made;
+}
+
 std::string textOf(AliasRow const& alias) {
     return at(beginnings[alias.beginning]) + at(alias.rest);
 }
@@ -207,6 +221,8 @@ Code codeNamed(Thing thing, std::string_view name) {
         return code;
     if (auto const rest = withoutEsriBeginning(thing, name); rest.size() < name.size())
         return codeNamed(thing, rest);
+    if (auto const twin = plain(name); twin != name)
+        return codeNamed(thing, twin);
     return thing == Thing::system ? codeOfParts(name, key) : 0;
 }
 

@@ -85,6 +85,34 @@ TEST(DoorDefinition, IsReadInWhateverForm) {
     EXPECT_STREQ(zrproj_message(), "");
 }
 
+TEST(DoorDefinition, TakesCodesAsOthersWriteThem) {
+    for (char const* definition :
+         {"\xEF\xBB\xBF"
+          "EPSG:4326",
+          "urn:ogc:def:crs:OGC:1.3:CRS84", "OGC:CRS84", "CRS84", "http://www.opengis.net/def/crs/OGC/1.3/CRS84",
+          "EPSG:4326+5773", "EPSG: 4326", "urn:ogc:def:crs:EPSG:9.9.1:4326",
+          "http://www.opengis.net/def/crs/EPSG/0/4326", "urn:ogc:def:crs,crs:EPSG::4326,crs:EPSG::5773"})
+        EXPECT_EQ(codeOf(systemOf(definition)), "EPSG:4326") << definition;
+    for (char const* definition : {"EPSG:foo:4326", "EPSG:4326,garbage", "EPSG:4326+", "EPSG:4326+x", "EPSG:4326,5773",
+                                   "urn:ogc:def:crs:EPSG:foo:4326", "urn:ogc:def:crs:OGC:1.3:CRS85"})
+        EXPECT_EQ(statusOf(definition), ZRPROJ_UNKNOWN) << definition;
+    EXPECT_EQ(statusOf("EPSG:102100"), ZRPROJ_UNKNOWN);
+    EXPECT_NE(std::string(zrproj_message()).find("EPSG's codes only"), std::string::npos) << zrproj_message();
+}
+
+TEST(DoorDefinition, TakesLatin1AndGivesUtf8) {
+    for (char const* name : {"DHDN / 3-degree Gauss-Kr\xC3\xBCger zone 3", "DHDN / 3-degree Gauss-Kr\xFCger zone 3"})
+        EXPECT_EQ(codeOf(systemOf(name)), codeOf(systemOf("DHDN / 3-degree Gauss-Kruger zone 3"))) << name;
+    for (char const* umlaut : {"\xFC", "\xC3\xBC"}) {
+        std::string const text = std::string("GEOGCS[\"K") + umlaut +
+                                 "ste\",DATUM[\"own\",SPHEROID[\"own\",6378000,300]],"
+                                 "PRIMEM[\"Greenwich\",0],UNIT[\"degree\",0.0174532925199433]]";
+        EXPECT_EQ(textOf(systemOf(text.c_str()), ZRPROJ_NAME), "K\xC3\xBCste");
+    }
+    EXPECT_EQ(statusOf("K\xFCste"), ZRPROJ_UNKNOWN);
+    EXPECT_NE(std::string(zrproj_message()).find("K\xC3\xBCste"), std::string::npos) << zrproj_message();
+}
+
 TEST(DoorDefinition, TellsWhyThereIsNoSystem) {
     EXPECT_EQ(statusOf(""), ZRPROJ_BAD_DEFINITION);
     EXPECT_EQ(statusOf("  \n"), ZRPROJ_BAD_DEFINITION);

@@ -6,6 +6,8 @@
 #include <algorithm>
 #include <array>
 #include <charconv>
+#include <span>
+#include <utility>
 
 namespace ZrProj::systems {
 
@@ -13,14 +15,29 @@ namespace {
 
 constexpr std::string_view blanks = " \t\r\n";
 
-/// What may stand before a code, without regard to case.
-constexpr std::array<std::string_view, 7> codeBeginnings = {"EPSG:",
-                                                            "urn:ogc:def:crs:EPSG:",
-                                                            "urn:x-ogc:def:crs:EPSG:",
-                                                            "urn:ogc:def:crs,crs:EPSG:",
-                                                            "http://www.opengis.net/def/crs/EPSG/",
-                                                            "https://www.opengis.net/def/crs/EPSG/",
-                                                            "http://www.opengis.net/gml/srs/epsg.xml#"};
+/// What may stand before a code, without regard to case, and the mark between a version and the code; '\0' where there
+/// is no version.
+struct CodeBeginning {
+    std::string_view text;
+    char mark;
+};
+
+constexpr CodeBeginning epsgBeginnings[] = {
+    {"EPSG:", '\0'},
+    {"urn:ogc:def:crs:EPSG:", ':'},
+    {"urn:x-ogc:def:crs:EPSG:", ':'},
+    {"urn:ogc:def:crs,crs:EPSG:", ':'},
+    {"http://www.opengis.net/def/crs/EPSG/", '/'},
+    {"https://www.opengis.net/def/crs/EPSG/", '/'},
+    {"http://www.opengis.net/gml/srs/epsg.xml#", '\0'},
+};
+
+constexpr CodeBeginning ogcBeginnings[] = {
+    {"OGC:", '\0'},
+    {"urn:ogc:def:crs:OGC:", ':'},
+    {"http://www.opengis.net/def/crs/OGC/", '/'},
+    {"https://www.opengis.net/def/crs/OGC/", '/'},
+};
 
 std::string_view trimmed(std::string_view text) {
     std::size_t const begin = std::min(text.find_first_not_of(blanks), text.size());
@@ -41,10 +58,41 @@ std::optional<Code> wholeCode(std::string_view text) {
     return code;
 }
 
-/// The code after the version, which may be left out (urn:ogc:def:crs:EPSG::4326), and before what follows it.
-std::optional<Code> codeAfter(std::string_view rest, char mark, char end) {
-    rest = rest.substr(0, rest.find(end));
-    return wholeCode(rest.substr(rest.rfind(mark) + 1));
+bool isVersion(std::string_view text) {
+    return std::ranges::all_of(text, [](char c) { return isAsciiDigit(c) || c == '.'; });
+}
+
+/// What a text says after one of the beginnings and a version, which may be left out (urn:ogc:def:crs:EPSG::4326).
+std::optional<std::string_view> identifierIn(std::string_view text, std::span<CodeBeginning const> beginnings) {
+    for (auto const& [beginning, mark] : beginnings) {
+        if (!beginsWith(text, beginning))
+            continue;
+        auto const rest = text.substr(beginning.size());
+        std::size_t const version = mark == '\0' ? rest.npos : rest.find(mark);
+        if (version == rest.npos)
+            return trimmed(rest);
+        return isVersion(rest.substr(0, version)) ? std::optional(rest.substr(version + 1)) : std::nullopt;
+    }
+    return {};
+}
+
+/// A code, or the first of two: that of the horizontal system before that of the heights.
+std::optional<Code> firstCode(std::string_view text) {
+    constexpr std::string_view further = ",crs:EPSG:"; // of a compound URN
+    std::size_t const end = std::min(text.find_first_of("+,"), text.size());
+    auto const heights = text.substr(end);
+    bool const isCompound = heights.starts_with('+') ? wholeCode(heights.substr(1)).has_value()
+                                                     : beginsWith(heights, further) && heights.size() > further.size();
+    return heights.empty() || isCompound ? wholeCode(text.substr(0, end)) : std::nullopt;
+}
+
+/// What the Open Geospatial Consortium names by itself, longitude first, as x is here anyway.
+std::optional<Code> codeOfOgc(std::string_view name) {
+    constexpr std::pair<std::string_view, Code> codes[] = {{"CRS84", 4326}, {"CRS83", 4269}, {"CRS27", 4267}};
+    for (auto const& [known, code] : codes)
+        if (equalIgnoringCase(known, name))
+            return code;
+    return {};
 }
 
 /// Keywords of the first generation; every other keyword before a bracket is the second's.
@@ -67,9 +115,10 @@ bool isProjString(std::string_view text) {
 
 std::optional<Code> codeIn(std::string_view text) {
     text = trimmed(text);
-    for (std::string_view const beginning : codeBeginnings)
-        if (beginsWith(text, beginning))
-            return codeAfter(text.substr(beginning.size()), beginning.back() == '/' ? '/' : ':', ',');
+    if (auto const code = identifierIn(text, epsgBeginnings))
+        return firstCode(*code);
+    if (auto const name = identifierIn(text, ogcBeginnings))
+        return codeOfOgc(*name);
     return wholeCode(text);
 }
 
