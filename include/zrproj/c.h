@@ -176,12 +176,12 @@ ZRPROJ_API zrproj_status zrproj_parameters_set(zrproj_parameters* parameters, in
 /// A coordinate system.
 typedef struct zrproj_system zrproj_system;
 
-/// Makes a system of a definition, in UTF-8 or else in Latin-1 (a text that is no valid UTF-8 is taken as Latin-1, so that
-/// names come out in UTF-8 always; a byte order mark is skipped), whatever its form: a code ("EPSG:28992", "28992", a URN), a name of the
-/// register or another maker's ("Amersfoort / RD New"; without regard to case; "WGS84", "NAD27", "UTM 17N"), well-known
-/// text of any generation (1 as GDAL or as ESRI writes it, 2 of 2015 or 2019), PROJJSON, or a PROJ string. Coordinates
-/// are x, y always, whatever a definition says of their order; axes that run south or west keep their sense. A compound
-/// system is taken by its horizontal part; heights and epochs are left out.
+/// Makes a system of a definition, in UTF-8 or else in Latin-1 (a text that is no valid UTF-8 is taken as Latin-1, so
+/// that names come out in UTF-8 always; a byte order mark is skipped), whatever its form: a code ("EPSG:28992",
+/// "28992", a URN), a name of the register or another maker's ("Amersfoort / RD New"; without regard to case; "WGS84",
+/// "NAD27", "UTM 17N"), well-known text of any generation (1 as GDAL or as ESRI writes it, 2 of 2015 or 2019),
+/// PROJJSON, or a PROJ string. Coordinates are x, y always, whatever a definition says of their order; axes that run
+/// south or west keep their sense. A compound system is taken by its horizontal part; heights and epochs are left out.
 ///
 /// What says the same as an entry of the register is that entry. Where a code or name is contradicted by its own
 /// numbers the numbers count, and the message tells; it tells of a deprecated system too. ZRPROJ_BAD_DEFINITION, with
