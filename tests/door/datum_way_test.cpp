@@ -89,6 +89,15 @@ TEST(DatumWay, TakesWhatTheDefinitionSays) {
     EXPECT_NE(moon.message, "");
 }
 
+TEST(DatumWay, TakesTheGridThatShiftsNothingAsNoShift) {
+    auto const way = attempt("+proj=longlat +ellps=bessel +nadgrids=@null", "EPSG:4326");
+    ASSERT_EQ(way.status, ZRPROJ_OK) << way.message;
+    double point[] = {9, 51};
+    EXPECT_EQ(convert(way.transform, point, false), ZRPROJ_CONVERTED);
+    EXPECT_EQ(point[0], 9);
+    EXPECT_EQ(point[1], 51);
+}
+
 TEST(DatumWay, TellsOfAGridThatIsDamaged) {
     TemporaryDirectory const folder;
     std::string const path = folder.file("BETA2007.gsb");

@@ -199,12 +199,9 @@ private:
 
     /// The way to WGS 84 that the text states.
     void ownWay() {
-        Datum& made = made_.datum;
         towgs84();
-        if (Option const* grids = find("nadgrids"); grids && grids->value == "@null")
-            made.toWgs84 = ToWgs84{};
-        else if (grids)
-            made.grids = grids->value;
+        if (Option const* grids = find("nadgrids"))
+            made_.datum.grids = grids->value;
     }
 
     /// The ellipsoid, of a datum by its name. Whether the text has axes of its own.
