@@ -164,21 +164,14 @@ std::string_view withoutEsriBeginning(Thing thing, std::string_view name) {
     return name.starts_with(beginning) ? name.substr(beginning.size()) : name;
 }
 
-/// A pair of code and longitude order that the Open Geospatial Consortium names; here x is the longitude anyway.
-Code codeOfOgc(std::string_view key) {
-    if (key.starts_with("ogc"))
-        key.remove_prefix(3);
-    return key == "crs84" ? 4326 : key == "crs83" ? 4269 : key == "crs27" ? 4267 : 0;
-}
-
 /// A system by a former name of its geographic system, or before its heights.
-Code codeOfParts(std::string_view name, std::string_view key) {
+Code codeOfParts(std::string_view name) {
     if (auto const heights = name.find(" + "); heights != name.npos)
         return codeNamed(Thing::system, name.substr(0, heights));
     auto const conversion = name.find(" / ");
     Code const base = conversion == name.npos ? 0 : codeNamed(Thing::system, name.substr(0, conversion));
     if (base == 0)
-        return codeOfOgc(key);
+        return codeOfOgc(name);
     std::string const current = nameOf(Thing::system, base) + std::string(name.substr(conversion));
     return current == name ? 0 : codeNamed(Thing::system, current);
 }
@@ -223,7 +216,13 @@ Code codeNamed(Thing thing, std::string_view name) {
         return codeNamed(thing, rest);
     if (auto const twin = plain(name); twin != name)
         return codeNamed(thing, twin);
-    return thing == Thing::system ? codeOfParts(name, key) : 0;
+    return thing == Thing::system ? codeOfParts(name) : 0;
+}
+
+Code codeOfOgc(std::string_view name) {
+    std::string const key = keyOf(name);
+    std::string_view const what = key.starts_with("ogc") ? std::string_view(key).substr(3) : key;
+    return what == "crs84" ? 4326 : what == "crs83" ? 4269 : what == "crs27" ? 4267 : 0;
 }
 
 std::string nameOf(Thing thing, Code code) {

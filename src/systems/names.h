@@ -17,6 +17,10 @@ enum class Thing { system, datum, ellipsoid, meridian, unit };
 /// one. Of a system with heights ("A + B height"), the horizontal part; UTM zones alone stand on WGS 84.
 Code codeNamed(Thing thing, std::string_view name);
 
+/// The code of what the Open Geospatial Consortium names by itself (CRS84, CRS83, CRS27), 0 for nothing: longitude
+/// first there, as x is here anyway.
+Code codeOfOgc(std::string_view name);
+
 /// The register's name, "" for an unknown code.
 std::string nameOf(Thing thing, Code code);
 

@@ -1,18 +1,13 @@
 // The library as the checks use it.
 #pragma once
 
-#include <zrproj/c.h>
+#include "support/handle.h"
 
-#include <memory>
 #include <string>
 
 namespace ZrProj::Conformity {
 
-template <auto destroy> struct Destroyer {
-    template <class T> void operator()(T* handle) const { destroy(handle); }
-};
-using System = std::unique_ptr<zrproj_system, Destroyer<zrproj_system_destroy>>;
-using Transform = std::unique_ptr<zrproj_transform, Destroyer<zrproj_transform_destroy>>;
+using test::System, test::Transform;
 
 /// Throws a Fault with the library's message after a failure.
 void demand(zrproj_status status);

@@ -2,10 +2,9 @@
 #pragma once
 
 #include "support/cases.h"
+#include "support/handle.h"
 
 #include <zrproj/datum.h>
-
-#include <zrproj/c.h>
 
 #include <gtest/gtest.h>
 
@@ -15,11 +14,6 @@
 
 namespace ZrProj::test {
 
-template <auto destroy> struct Destroyer {
-    template <class T> void operator()(T* handle) const { destroy(handle); }
-};
-using System = std::unique_ptr<zrproj_system, Destroyer<zrproj_system_destroy>>;
-using Transform = std::unique_ptr<zrproj_transform, Destroyer<zrproj_transform_destroy>>;
 using Fit = std::unique_ptr<zrproj_fit, Destroyer<zrproj_fit_destroy>>;
 using FitAnalysis = std::unique_ptr<zrproj_analysis, Destroyer<zrproj_analysis_destroy>>;
 using Pieces = std::unique_ptr<zrproj_pieces, Destroyer<zrproj_pieces_destroy>>;

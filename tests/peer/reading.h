@@ -1,21 +1,16 @@
 // One system as the library and as PROJ read it, and how far their maps lie apart.
 #pragma once
 
-#include <zrproj/c.h>
+#include "support/handle.h"
 
 #include <array>
-#include <memory>
 #include <string>
 
 #include <proj.h>
 
 namespace ZrProj::peer {
 
-template <auto destroy> struct Destroyer {
-    template <class T> void operator()(T* handle) const { destroy(handle); }
-};
-using System = std::unique_ptr<zrproj_system, Destroyer<zrproj_system_destroy>>;
-using Transform = std::unique_ptr<zrproj_transform, Destroyer<zrproj_transform_destroy>>;
+using test::Destroyer, test::System, test::Transform;
 using Peer = std::unique_ptr<PJ, Destroyer<proj_destroy>>;
 
 /// x, y, or longitude and latitude in degrees.

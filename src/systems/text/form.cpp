@@ -1,6 +1,7 @@
 #include "systems/text/form.h"
 
 #include "host/text.h"
+#include "systems/names.h"
 #include "systems/text/readers.h"
 
 #include <algorithm>
@@ -86,15 +87,6 @@ std::optional<Code> firstCode(std::string_view text) {
     return heights.empty() || isCompound ? wholeCode(text.substr(0, end)) : std::nullopt;
 }
 
-/// What the Open Geospatial Consortium names by itself, longitude first, as x is here anyway.
-std::optional<Code> codeOfOgc(std::string_view name) {
-    constexpr std::pair<std::string_view, Code> codes[] = {{"CRS84", 4326}, {"CRS83", 4269}, {"CRS27", 4267}};
-    for (auto const& [known, code] : codes)
-        if (equalIgnoringCase(known, name))
-            return code;
-    return {};
-}
-
 /// Keywords of the first generation; every other keyword before a bracket is the second's.
 constexpr std::array<std::string_view, 8> wkt1Keywords = {"GEOGCS",  "PROJCS", "COMPD_CS", "GEOCCS",
                                                           "VERT_CS", "VERTCS", "LOCAL_CS", "FITTED_CS"};
@@ -117,8 +109,10 @@ std::optional<Code> codeIn(std::string_view text) {
     text = trimmed(text);
     if (auto const code = identifierIn(text, epsgBeginnings))
         return firstCode(*code);
-    if (auto const name = identifierIn(text, ogcBeginnings))
-        return codeOfOgc(*name);
+    if (auto const name = identifierIn(text, ogcBeginnings)) {
+        Code const code = codeOfOgc(*name);
+        return code == 0 ? std::nullopt : std::optional(code);
+    }
     return wholeCode(text);
 }
 
