@@ -5,12 +5,10 @@
 
 #include <algorithm>
 #include <array>
-#include <cfloat>
 
 namespace ZrProj::Door {
 namespace {
 
-constexpr PROJPOINT mark{DBL_MAX, DBL_MAX};
 constexpr double lastDegrees = 45, farDegrees = 10;
 // Parts of the radius: a millimetre on the Earth, and more than the series themselves miss by within 10 degrees of the
 // meridian and over all of the map: 3 m and 100 km.
@@ -18,15 +16,6 @@ constexpr double poleTolerance = 1.6e-10, nearMiss = 5e-7, farMiss = 1 / 64.0;
 // Krueger's series are stated to 3900 km from the central meridian (Karney 2011), which on the map is this part of the
 // radius times the scale there, asinh(tan(3900 km / 6378.137 km)).
 constexpr double kruegerReach = 0.6536;
-
-/// Most blocks have nothing to mark, and nothing is spent on them.
-void markLost(std::span<PROJPOINT> points, std::span<Reason const> reasons) {
-    if (allHaveResults(reasons))
-        return;
-    for (std::size_t i = 0; i < points.size(); ++i)
-        if (!hasResult(reasons[i]))
-            points[i] = mark;
-}
 
 /// Marked ones are not.
 bool areWithinPoles(std::span<PROJPOINT const> places) {

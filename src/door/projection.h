@@ -6,6 +6,7 @@
 
 #include <zrproj/c.h>
 
+#include <cfloat>
 #include <cmath>
 #include <memory>
 #include <span>
@@ -25,6 +26,15 @@ inline bool allHaveResults(std::span<Reason const> reasons) {
     for (Reason const reason : reasons)
         bits |= reason;
     return hasResult(bits);
+}
+
+/// Marks what has no result. Most blocks have nothing to mark, and nothing is spent on them.
+inline void markLost(std::span<PROJPOINT> points, std::span<Reason const> reasons) {
+    if (allHaveResults(reasons))
+        return;
+    for (std::size_t i = 0; i < points.size(); ++i)
+        if (!hasResult(reasons[i]))
+            points[i] = {DBL_MAX, DBL_MAX};
 }
 
 /// Longitude from -180 to 180.

@@ -3,7 +3,6 @@
 #include "systems/datum_path.h"
 #include "systems/route_text.h"
 
-#include <cfloat>
 #include <cmath>
 
 using namespace ZrProj;
@@ -22,8 +21,6 @@ namespace {
 
 constexpr std::array reasonNames{"converted", "far", "out of area"};
 constexpr std::array failureNames{"not finite", "beyond pole", "not shown", "off the map", "off the grid"};
-
-constexpr PROJPOINT mark{DBL_MAX, DBL_MAX};
 
 Answer make(zrproj_transform& transform, zrproj_system const& from, zrproj_system const& to,
             zrproj_options const& options) {
@@ -57,10 +54,7 @@ void tellOutOfArea(systems::Route const& route, std::span<PROJPOINT const> place
 /// From datum to datum.
 void carry(systems::DatumPath const& path, bool backwards, std::span<PROJPOINT> places, std::span<Reason> reasons) {
     std::array<Reason, blockPoints> shifted;
-    if (!allHaveResults(reasons))
-        for (std::size_t i = 0; i < places.size(); ++i)
-            if (!hasResult(reasons[i]))
-                places[i] = mark;
+    markLost(places, reasons);
     auto const used = std::span(shifted).first(places.size());
     backwards ? path.inverse(places, used) : path.forward(places, used);
     for (std::size_t i = 0; i < places.size(); ++i)
